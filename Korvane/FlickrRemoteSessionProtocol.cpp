@@ -1,0 +1,12 @@
+// What the Flickr upload service can be asked for.
+#include "Korvane/FlickrRemoteSessionProtocol.h"
+
+namespace korvane {
+
+const QString FlickrRemoteServiceName = QStringLiteral("com.zorvex.flickr.xpc");
+
+NSXPCInterface FlickrRemoteSessionProtocol::interface() {
+    return {QStringLiteral("FlickrRemoteSessionProtocol"), QStringLiteral("uploadPosts"), NSXPCInterface::Records};
+}
+
+} // namespace korvane

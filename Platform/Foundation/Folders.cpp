@@ -1,0 +1,56 @@
+// Where Korvane keeps its files.
+#include "Platform/Foundation/Folders.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <mutex>
+
+namespace korvane {
+namespace {
+
+std::mutex temporaryMutex;
+QString temporaryFolder;
+
+QString baseFolder(const char *variable, const QString &fallbackBelowHome) {
+    QString base = QFile::decodeName(qgetenv(variable));
+    if (!QDir::isAbsolutePath(base)) base = QDir::homePath() + u'/' + fallbackBelowHome;
+    const QString folder = base + QStringLiteral("/korvane");
+    makePrivateFolder(folder);
+    return folder;
+}
+
+} // namespace
+
+bool makePrivateFolder(const QString &path) {
+    if (::mkdir(QFile::encodeName(path).constData(), 0700) == 0) return true;
+    if (errno == EEXIST) return QFileInfo(path).isDir();
+    if (errno != ENOENT || path.isEmpty()) return false;
+    return makePrivateFolder(QFileInfo(path).path()) && ::mkdir(QFile::encodeName(path).constData(), 0700) == 0;
+}
+
+QString configFolder() {
+    return baseFolder("XDG_CONFIG_HOME", QStringLiteral(".config"));
+}
+
+QString stateFolder() {
+    return baseFolder("XDG_STATE_HOME", QStringLiteral(".local/state"));
+}
+
+QString NSTemporaryDirectory() {
+    const std::lock_guard lock(temporaryMutex);
+    if (temporaryFolder.isEmpty()) temporaryFolder = stateFolder() + QStringLiteral("/tmp");
+    makePrivateFolder(temporaryFolder);
+    return temporaryFolder;
+}
+
+void setTemporaryDirectory(const QString &path) {
+    const std::lock_guard lock(temporaryMutex);
+    temporaryFolder = path;
+}
+
+} // namespace korvane

@@ -1,0 +1,231 @@
+// One request on its way through curl.
+#include "Platform/Foundation/URLTransfer.h"
+
+#include "Platform/SystemConfiguration/NetworkRoute.h"
+
+#include <QHostAddress>
+
+#include <linux/sockios.h>
+#include <sys/ioctl.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+
+namespace korvane {
+namespace {
+
+constexpr qint64 largestAnswer = 64 * 1024 * 1024;
+constexpr long uploadBuffer = 512 * 1024;
+constexpr int longestWaitMilliseconds = 250;
+
+bool isLoopback(const QString &host) {
+    return host == QLatin1String("localhost") || QHostAddress(host).isLoopback();
+}
+
+// The one place where transport failures get their codes.
+qint64 errorCode(CURLcode code, long osError, const QString &host) {
+    const auto unlessOffline = [&](qint64 online) -> qint64 {
+        const bool unreachable = osError == ENETUNREACH || osError == ENETDOWN;
+        if (!isLoopback(host) && (unreachable || !NetworkRoute::hasDefaultRoute()))
+            return NSURLErrorNotConnectedToInternet;
+        return online;
+    };
+    switch (code) {
+    case CURLE_OPERATION_TIMEDOUT: return NSURLErrorTimedOut;
+    case CURLE_COULDNT_RESOLVE_HOST:
+    case CURLE_COULDNT_RESOLVE_PROXY: return unlessOffline(NSURLErrorCannotFindHost);
+    case CURLE_COULDNT_CONNECT: return unlessOffline(NSURLErrorCannotConnectToHost);
+    case CURLE_SEND_ERROR:
+    case CURLE_SEND_FAIL_REWIND:
+    case CURLE_RECV_ERROR:
+    case CURLE_GOT_NOTHING:
+    case CURLE_PARTIAL_FILE: return NSURLErrorNetworkConnectionLost;
+    case CURLE_ABORTED_BY_CALLBACK: return NSURLErrorCancelled;
+    case CURLE_SSL_CONNECT_ERROR: return NSURLErrorSecureConnectionFailed;
+    case CURLE_PEER_FAILED_VERIFICATION: return NSURLErrorServerCertificateUntrusted;
+    case CURLE_SSL_ISSUER_ERROR:
+    case CURLE_SSL_CACERT_BADFILE: return NSURLErrorServerCertificateHasUnknownRoot;
+    case CURLE_SSL_CERTPROBLEM: return NSURLErrorClientCertificateRequired;
+    default: return NSURLErrorUnknown;
+    }
+}
+
+QByteArray proxyExceptions() {
+    return qgetenv("no_proxy") + ",localhost,127.0.0.1,::1";
+}
+
+} // namespace
+
+URLTransfer::URLTransfer(const NSMutableURLRequest &request, CurlHandle &handle)
+    : _request(request), _handle(handle), _bodyLength(request.bodyLength()), _lastMove(Clock::now()) {
+    _configure();
+    curl_multi_add_handle(_handle.multi, _handle.easy);
+}
+
+URLTransfer::~URLTransfer() {
+    curl_multi_remove_handle(_handle.multi, _handle.easy);
+    curl_slist_free_all(_headers);
+}
+
+void URLTransfer::_configure() {
+    CURL *easy = _handle.easy;
+    curl_easy_setopt(easy, CURLOPT_URL, _request.URL.absoluteString().toUtf8().constData());
+    curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
+    curl_easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "http,https");
+    curl_easy_setopt(easy, CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_1_1));
+    curl_easy_setopt(easy, CURLOPT_USERAGENT, "Korvane/" KORVANE_VERSION);
+    curl_easy_setopt(easy, CURLOPT_NOPROXY, proxyExceptions().constData());
+    curl_easy_setopt(easy, CURLOPT_CONNECTTIMEOUT_MS, long(_request.timeoutInterval * 1000));
+    curl_easy_setopt(easy, CURLOPT_UPLOAD_BUFFERSIZE, uploadBuffer);
+    curl_easy_setopt(easy, CURLOPT_READFUNCTION, _onRead);
+    curl_easy_setopt(easy, CURLOPT_READDATA, this);
+    curl_easy_setopt(easy, CURLOPT_SEEKFUNCTION, _onSeek);
+    curl_easy_setopt(easy, CURLOPT_SEEKDATA, this);
+    curl_easy_setopt(easy, CURLOPT_WRITEFUNCTION, _onWrite);
+    curl_easy_setopt(easy, CURLOPT_WRITEDATA, this);
+    curl_easy_setopt(easy, CURLOPT_HEADERFUNCTION, _onHeader);
+    curl_easy_setopt(easy, CURLOPT_HEADERDATA, this);
+    _configureMethod();
+}
+
+void URLTransfer::_configureMethod() {
+    CURL *easy = _handle.easy;
+    if (_request.HTTPMethod == "POST") {
+        curl_easy_setopt(easy, CURLOPT_POST, 1L);
+        curl_easy_setopt(easy, CURLOPT_POSTFIELDSIZE_LARGE, curl_off_t(_bodyLength));
+    } else if (_request.HTTPMethod == "PUT") {
+        curl_easy_setopt(easy, CURLOPT_UPLOAD, 1L);
+        curl_easy_setopt(easy, CURLOPT_INFILESIZE_LARGE, curl_off_t(_bodyLength));
+    }
+    // Without this the server's "100 Continue" is waited for, a second on servers that never send it.
+    _headers = curl_slist_append(_headers, "Expect:");
+    for (const auto &[name, value] : _request.headers)
+        _headers = curl_slist_append(_headers, (name + (value.isEmpty() ? QByteArray(";") : ": " + value)).constData());
+    curl_easy_setopt(easy, CURLOPT_HTTPHEADER, _headers);
+}
+
+std::optional<NSError> URLTransfer::run() {
+    const auto &context = _request.uploadContext;
+    if (context) context->requestBegan(_bodyLength, [multi = _handle.multi] { curl_multi_wakeup(multi); });
+    const std::optional<NSError> error = _drive();
+    if (context) context->requestEnded(_response.statusCode, error);
+    return error;
+}
+
+std::optional<NSError> URLTransfer::_drive() {
+    const auto end = [](NSURLErrorCode code, const QString &text) {
+        return NSError::errorWithDescription(NSURLErrorDomain, code, text);
+    };
+    for (;;) {
+        if (_request.uploadContext && _request.uploadContext->isCancelled())
+            return end(NSURLErrorCancelled, QStringLiteral("The upload was stopped."));
+        int running = 0;
+        curl_multi_perform(_handle.multi, &running);
+        int waiting = 0;
+        if (const CURLMsg *message = curl_multi_info_read(_handle.multi, &waiting)) return _result(message->data.result);
+        if (_hasStalled()) return end(NSURLErrorTimedOut, QStringLiteral("The web service did not respond in time."));
+        curl_multi_poll(_handle.multi, nullptr, 0, longestWaitMilliseconds, nullptr);
+    }
+}
+
+std::optional<NSError> URLTransfer::_result(CURLcode code) const {
+    if (_localError) return _localError;
+    const auto lost = [](const QString &text) {
+        return NSError::errorWithDescription(NSURLErrorDomain, NSURLErrorNetworkConnectionLost, text);
+    };
+    if (code == CURLE_OK) {
+        // curl is content with an early answer; an answer that claims success for half a body is none.
+        if (_bodyRead < _bodyLength && _response.statusCode < 400)
+            return lost(QStringLiteral("The web service answered before it had everything."));
+        return std::nullopt;
+    }
+    long osError = 0;
+    curl_easy_getinfo(_handle.easy, CURLINFO_OS_ERRNO, &osError);
+    return NSError::errorWithDescription(NSURLErrorDomain, errorCode(code, osError, _request.URL.host()),
+                                         QString::fromUtf8(curl_easy_strerror(code)));
+}
+
+// What still waits in the socket's buffer has not moved: on a slow line that is many seconds' worth.
+bool URLTransfer::_hasStalled() {
+    curl_off_t up = 0;
+    curl_off_t down = 0;
+    curl_easy_getinfo(_handle.easy, CURLINFO_SIZE_UPLOAD_T, &up);
+    curl_easy_getinfo(_handle.easy, CURLINFO_SIZE_DOWNLOAD_T, &down);
+    curl_socket_t socket = CURL_SOCKET_BAD;
+    int unsent = 0;
+    curl_easy_getinfo(_handle.easy, CURLINFO_ACTIVESOCKET, &socket);
+    if (socket != CURL_SOCKET_BAD && ::ioctl(socket, SIOCOUTQ, &unsent) != 0) unsent = 0;
+    const qint64 sent = std::max<qint64>(0, up - unsent);
+    if (_request.uploadContext) _request.uploadContext->requestSent(sent);
+    if (sent + down != _lastMoved) {
+        _lastMoved = sent + down;
+        _lastMove = Clock::now();
+    }
+    return std::chrono::duration<double>(Clock::now() - _lastMove).count() > _request.timeoutInterval;
+}
+
+size_t URLTransfer::_readBody(char *buffer, size_t capacity) {
+    while (_piece < _request.HTTPBody.size() && _pieceRead == _request.HTTPBody[_piece].length()) {
+        ++_piece;
+        _pieceRead = 0;
+    }
+    if (_piece == _request.HTTPBody.size()) return 0;
+    const NSData &piece = _request.HTTPBody[_piece];
+    const qint64 count = piece.getBytes(buffer, _pieceRead, qint64(capacity));
+    const bool ends = _pieceRead + count == piece.length();
+    // A file that changed must not arrive as a mixture: its last bytes are held back.
+    if (count <= 0 || (ends && !piece.isIntact())) {
+        _localError = NSError::errorWithDescription(NSURLErrorDomain, NSURLErrorUnknown,
+                                                    QStringLiteral("The file changed while it was being sent."));
+        return CURL_READFUNC_ABORT;
+    }
+    _pieceRead += count;
+    _bodyRead += count;
+    return size_t(count);
+}
+
+// curl rewinds to repeat a request on a new connection when the kept one turns out dead. Once the whole body has gone out
+// the service may have acted on it, so the repetition is left to those who can tell, with a new nonce.
+bool URLTransfer::_rewind(qint64 position) {
+    if (position != 0 || _bodyRead == _bodyLength) return false;
+    _piece = 0;
+    _pieceRead = 0;
+    _bodyRead = 0;
+    return true;
+}
+
+void URLTransfer::_readHeader(const QByteArray &line) {
+    if (line.startsWith("HTTP/")) {
+        _response = {};
+        _response.statusCode = line.mid(line.indexOf(' ') + 1, 3).toInt();
+    } else if (const qsizetype colon = line.indexOf(':'); colon > 0) {
+        _response.headers.append({line.left(colon), line.mid(colon + 1).trimmed()});
+    }
+}
+
+size_t URLTransfer::_onRead(char *buffer, size_t size, size_t count, void *self) {
+    return static_cast<URLTransfer *>(self)->_readBody(buffer, size * count);
+}
+
+int URLTransfer::_onSeek(void *self, curl_off_t offset, int origin) {
+    return origin == SEEK_SET && static_cast<URLTransfer *>(self)->_rewind(offset) ? CURL_SEEKFUNC_OK : CURL_SEEKFUNC_FAIL;
+}
+
+size_t URLTransfer::_onWrite(char *bytes, size_t size, size_t count, void *self) {
+    auto *transfer = static_cast<URLTransfer *>(self);
+    if (transfer->_body.size() + qint64(size * count) > largestAnswer) {
+        transfer->_localError = NSError::errorWithDescription(NSURLErrorDomain, NSURLErrorUnknown,
+                                                              QStringLiteral("The web service's answer is too large."));
+        return 0;
+    }
+    transfer->_body.append(bytes, qsizetype(size * count));
+    return size * count;
+}
+
+size_t URLTransfer::_onHeader(char *bytes, size_t size, size_t count, void *self) {
+    static_cast<URLTransfer *>(self)->_readHeader(QByteArray(bytes, qsizetype(size * count)).trimmed());
+    return size * count;
+}
+
+} // namespace korvane

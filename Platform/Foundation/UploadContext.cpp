@@ -1,0 +1,40 @@
+// What one upload job sees of its requests on the wire, and how it ends them.
+#include "Platform/Foundation/UploadContext.h"
+
+namespace korvane {
+
+UploadContext::Snapshot UploadContext::snapshot() const {
+    const std::lock_guard lock(_mutex);
+    return _snapshot;
+}
+
+void UploadContext::cancel() {
+    const std::lock_guard lock(_mutex);
+    _cancelled = true;
+    if (_wake) _wake();
+}
+
+bool UploadContext::isCancelled() const {
+    const std::lock_guard lock(_mutex);
+    return _cancelled;
+}
+
+void UploadContext::requestBegan(qint64 bytesTotal, std::function<void()> wake) {
+    const std::lock_guard lock(_mutex);
+    _snapshot = {0, bytesTotal, 0, std::nullopt};
+    _wake = std::move(wake);
+}
+
+void UploadContext::requestSent(qint64 bytesSent) {
+    const std::lock_guard lock(_mutex);
+    _snapshot.bytesSent = bytesSent;
+}
+
+void UploadContext::requestEnded(int httpStatus, const std::optional<NSError> &error) {
+    const std::lock_guard lock(_mutex);
+    _snapshot.httpStatus = httpStatus;
+    _snapshot.transportError = error;
+    _wake = nullptr;
+}
+
+} // namespace korvane

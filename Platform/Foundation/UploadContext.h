@@ -1,0 +1,41 @@
+// What one upload job sees of its requests on the wire, and how it ends them.
+#pragma once
+
+#include "Platform/Foundation/NSError.h"
+
+#include <functional>
+#include <mutex>
+#include <optional>
+
+namespace korvane {
+
+// Hangs on the account object of one job; every request prepared for that account carries it to the send. The upload code
+// above knows nothing of it. Thread: any; one mutex guards everything.
+class UploadContext {
+public:
+    struct Snapshot {
+        qint64 bytesSent = 0;  // of the current request's body, without what still waits in the socket
+        qint64 bytesTotal = 0; // of the current request's body
+        int httpStatus = 0;    // of the last answer; 0 while the current request has none
+        std::optional<NSError> transportError; // of the last request that ended
+    };
+
+    Snapshot snapshot() const;
+
+    // Ends the current send, and every later one, with NSURLErrorCancelled. There is no way back.
+    void cancel();
+    bool isCancelled() const;
+
+    // For the send: a request of bytesTotal body bytes begins; wake interrupts its wait when the job is cancelled.
+    void requestBegan(qint64 bytesTotal, std::function<void()> wake);
+    void requestSent(qint64 bytesSent);
+    void requestEnded(int httpStatus, const std::optional<NSError> &error);
+
+private:
+    mutable std::mutex _mutex;
+    Snapshot _snapshot;
+    std::function<void()> _wake;
+    bool _cancelled = false;
+};
+
+} // namespace korvane

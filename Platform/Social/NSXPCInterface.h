@@ -1,0 +1,25 @@
+// What a remote interface consists of: one operation that takes property-list records and is answered once.
+#pragma once
+
+#include "Platform/Foundation/NSError.h"
+
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+namespace korvane {
+
+// The reply to an operation. success: null counts as NO. Runs exactly once, on a thread of the caller's choosing.
+using XPCTransferCompletion =
+    std::function<void(std::optional<bool> success, const std::optional<NSError> &error)>;
+
+struct NSXPCInterface {
+    enum Argument { Record, Records };
+
+    QString protocolName;
+    QString operation;
+    Argument argument;
+};
+
+} // namespace korvane

@@ -1,0 +1,80 @@
+// What the person attached to a share.
+#include "Platform/Social/SLAttachment.h"
+
+#include "Platform/AssetsLibrary/ALAssetsLibrary.h"
+#include "Platform/ImageIO/CGImageSource.h"
+#include "Platform/ImageIO/PictureProgram.h"
+#include "Platform/MobileCoreServices/UTType.h"
+#include "Platform/Preferences/KorvaneSettings.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace korvane {
+
+const QString SLAttachmentErrorDomain = QStringLiteral("SLAttachmentErrorDomain");
+
+namespace {
+
+// A file that is a picture by its contents.
+struct PhotoFile {
+    NSData data;
+    QString type;
+};
+
+NSError unusable(const QByteArray &path, const QString &problem) {
+    return NSError::errorWithDescription(SLAttachmentErrorDomain, SLAttachmentErrorUnusable,
+                                         QString::fromUtf8(path) + QStringLiteral(": ") + problem);
+}
+
+std::optional<PhotoFile> openPhoto(const QByteArray &path, std::optional<NSError> *error) {
+    const auto data = NSData::dataWithContentsOfFile(path, error);
+    if (!data) return std::nullopt;
+    const auto source = CGImageSource::createWithData(*data);
+    const QString type = source ? source->type() : QString();
+    if (!type.isEmpty()) return PhotoFile{*data, type};
+    setError(error, unusable(path, source ? QStringLiteral("the file is not a picture")
+                                          : QStringLiteral("the file is empty")));
+    return std::nullopt;
+}
+
+// The same picture as an asset's display image.
+std::optional<NSData> displayCopy(const QByteArray &path, const PhotoFile &photo, bool asPNG,
+                                  std::optional<NSError> *error) {
+    QByteArrayList arguments = asPNG ? QByteArrayList{"--to", "png"} : QByteArrayList{"--to", "jpeg", "--quality", "100"};
+    const int maxPixels = KorvaneSettings::displayImageMaxPixels();
+    if (maxPixels > 0) arguments += {"--max-pixels", QByteArray::number(maxPixels)};
+    std::optional<NSError> reason;
+    auto copy = PictureProgram::convert(photo.data, arguments, &reason);
+    if (!copy) setError(error, unusable(path, reason->localizedDescription()));
+    return copy;
+}
+
+bool travelsAsItIs(const QString &type) {
+    return UTTypeConformsTo(type, kUTTypeJPEG) || UTTypeConformsTo(type, kUTTypePNG) || UTTypeConformsTo(type, kUTTypeGIF);
+}
+
+} // namespace
+
+std::optional<SLAttachment> SLAttachment::photoAttachment(const QByteArray &path, bool withoutMetadata,
+                                                          std::optional<NSError> *error) {
+    const auto photo = openPhoto(path, error);
+    if (!photo) return std::nullopt;
+    if (!withoutMetadata && travelsAsItIs(photo->type)) {
+        const QString absolute = QDir::current().absoluteFilePath(QFile::decodeName(path));
+        return SLAttachment{SLAttachmentTypeData, photo->data, NSURL::fileURLWithPath(QFile::encodeName(absolute))};
+    }
+    if (!withoutMetadata)
+        if (const auto asset = ALAssetsLibrary::assetURLForFile(path))
+            return SLAttachment{SLAttachmentTypeAssetURL, *asset, std::nullopt};
+    const auto copy = displayCopy(path, *photo, UTTypeConformsTo(photo->type, kUTTypePNG), error);
+    if (!copy) return std::nullopt;
+    return SLAttachment{SLAttachmentTypeData, *copy, std::nullopt};
+}
+
+std::optional<NSError> SLAttachment::photoProblem(const QByteArray &path) {
+    std::optional<NSError> error;
+    return openPhoto(path, &error) ? std::nullopt : error;
+}
+
+} // namespace korvane

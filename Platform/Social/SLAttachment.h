@@ -1,0 +1,41 @@
+// What the person attached to a share, as the share sheet and the command line give it.
+#pragma once
+
+#include "Platform/Foundation/NSData.h"
+#include "Platform/Foundation/NSError.h"
+#include "Platform/Foundation/NSURL.h"
+
+#include <optional>
+#include <variant>
+
+namespace korvane {
+
+extern const QString SLAttachmentErrorDomain;
+
+enum SLAttachmentErrorCode : qint64 {
+    SLAttachmentErrorUnusable = 1, // empty, no picture, or one that is damaged
+};
+
+enum SLAttachmentType : qint64 {
+    SLAttachmentTypeData = 0,     // the payload is the encoded photo
+    SLAttachmentTypeAssetURL = 2, // the payload is the URL of an asset in the photo library
+};
+
+struct SLAttachment {
+    qint64 type = SLAttachmentTypeData;
+    std::variant<NSData, NSURL> payload;
+    std::optional<NSURL> payloadSourceFileURL; // the file whose own bytes are the payload
+
+    // The photo in a file, given in the file system's own bytes. JPEG, PNG and GIF are their own bytes, left in their file.
+    // Other formats: an asset if the file is in the photo library, else converted to JPEG here. Without metadata any picture
+    // is a copy made here, upright and in sRGB, a PNG of a PNG and a JPEG of everything else. Converting blocks. Null, with
+    // an error placed that names the file.
+    static std::optional<SLAttachment> photoAttachment(const QByteArray &path, bool withoutMetadata,
+                                                       std::optional<NSError> *error = nullptr);
+
+    // What makes the file unusable as a photo, as far as it can be told without decoding it; null if nothing does.
+    // NSPOSIXErrorDomain where it cannot be read.
+    static std::optional<NSError> photoProblem(const QByteArray &path);
+};
+
+} // namespace korvane

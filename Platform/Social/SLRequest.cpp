@@ -1,0 +1,77 @@
+// A request to a social web service, signed for the user's account.
+#include "Platform/Social/SLRequest.h"
+
+#include "Platform/Accounts/ACAccount.h"
+#include "Platform/Foundation/NSNumber.h"
+
+#include <QDateTime>
+#include <QUuid>
+
+namespace korvane {
+
+const QString SLServiceTypeFlickr = QStringLiteral("com.zorvex.social.flickr");
+const QString SLServiceTypeVimeo = QStringLiteral("com.zorvex.social.vimeo");
+
+namespace {
+
+std::function<qint64()> timestampSource;
+std::function<QString()> nonceSource;
+
+} // namespace
+
+std::shared_ptr<SLRequest> SLRequest::requestForServiceType(const QString &serviceType, SLRequestMethod method,
+                                                            const NSURL &url, const QVariantMap &parameters) {
+    return std::shared_ptr<SLRequest>(new SLRequest(serviceType, method, url, parameters));
+}
+
+SLRequest::SLRequest(QString serviceType, SLRequestMethod method, NSURL url, const QVariantMap &parameters)
+    : _serviceType(std::move(serviceType)), _method(method), _url(std::move(url)) {
+    for (auto it = parameters.cbegin(); it != parameters.cend(); ++it)
+        _parameters.append({it.key(), textValue(it.value())});
+}
+
+void SLRequest::addMultipartData(const NSData &data, const QString &name, const QString &type,
+                                 const std::optional<QString> &filename) {
+    _parts.push_back({data, name, type, filename});
+}
+
+QByteArray SLRequest::_methodName() const {
+    return _method == SLRequestMethodPOST ? "POST" : "PUT";
+}
+
+OAuthParameters SLRequest::_signedParameters() const {
+    OAuthParameters all = OAuthSigner::parametersOfQuery(_url.query());
+    for (const auto &parameter : _parameters)
+        all.removeOne(parameter);
+    return all + _parameters;
+}
+
+NSMutableURLRequest SLRequest::preparedURLRequest() const {
+    NSMutableURLRequest request{_url};
+    request.HTTPMethod = _methodName();
+    if (!_parts.empty() || !_parameters.isEmpty()) {
+        const RequestBody body =
+            _parts.empty() ? RequestBody::form(_parameters) : RequestBody::multipart(_parameters, _parts);
+        request.headers.append({"Content-Type", body.contentType});
+        request.HTTPBody = body.pieces;
+    }
+    if (!_account) return request;
+    request.uploadContext = _account->uploadContext();
+    if (const auto credential = _account->credential()) {
+        const qint64 timestamp = timestampSource ? timestampSource() : QDateTime::currentSecsSinceEpoch();
+        const QString nonce = nonceSource ? nonceSource() : QUuid::createUuid().toString(QUuid::Id128);
+        request.headers.append({"Authorization", OAuthSigner::authorizationHeader(request.HTTPMethod, _url, _signedParameters(),
+                                                                                  *credential, timestamp, nonce)});
+    }
+    return request;
+}
+
+void SLRequest::setTimestampSource(std::function<qint64()> source) {
+    timestampSource = std::move(source);
+}
+
+void SLRequest::setNonceSource(std::function<QString()> source) {
+    nonceSource = std::move(source);
+}
+
+} // namespace korvane

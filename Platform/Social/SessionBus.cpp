@@ -1,0 +1,70 @@
+// Which message bus the programs meet on.
+#include "Platform/Social/SessionBus.h"
+
+#include "Platform/Foundation/ChildProcess.h"
+#include "Platform/Foundation/FileDescriptor.h"
+#include "Platform/Foundation/Folders.h"
+#include "Platform/Social/RemoteServiceError.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QThread>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace korvane {
+namespace {
+
+constexpr int startAttempts = 200;
+constexpr int attemptMilliseconds = 50;
+
+QString runtimeFolder() {
+    return QFile::decodeName(qgetenv("XDG_RUNTIME_DIR"));
+}
+
+bool answers(const QString &socketPath) {
+    const QByteArray path = QFile::encodeName(socketPath);
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    if (path.isEmpty() || path.size() >= qsizetype(sizeof address.sun_path)) return false;
+    std::copy_n(path.constData(), path.size(), address.sun_path);
+    const FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    return ::connect(socket.get(), reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
+}
+
+} // namespace
+
+QString SessionBus::privateSocket() {
+    const QString base = runtimeFolder().isEmpty() ? stateFolder() : runtimeFolder() + QStringLiteral("/korvane");
+    makePrivateFolder(base);
+    return base + QStringLiteral("/bus");
+}
+
+std::optional<QString> SessionBus::address() {
+    const QByteArray named = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    if (!named.isEmpty()) return QString::fromLocal8Bit(named);
+    const QString userBus = runtimeFolder() + QStringLiteral("/bus");
+    for (const QString &socket : {userBus, privateSocket()})
+        if (answers(socket)) return QStringLiteral("unix:path=") + socket;
+    return std::nullopt;
+}
+
+std::optional<QString> SessionBus::addressStartingService(std::optional<NSError> *error) {
+    if (const auto present = address()) return present;
+    const QString program = QFile::decodeName(ChildProcess::pathOfProgram("korvane-uploadd"));
+    const bool started = QProcess::startDetached(program, {QStringLiteral("--private-bus")});
+    for (int attempt = 0; started && attempt < startAttempts; ++attempt) {
+        if (const auto present = address()) return present;
+        QThread::msleep(attemptMilliseconds);
+    }
+    setError(error, NSError::errorWithDescription(
+                        RemoteServiceErrorDomain, RemoteServiceErrorUnreachable,
+                        QStringLiteral("There is no session bus, and the upload service could not be started (%1).").arg(program)));
+    return std::nullopt;
+}
+
+} // namespace korvane

@@ -1,0 +1,117 @@
+// What becomes of an upload after a run.
+#include "Service/FailureClassifier.h"
+
+#include "Korvane/FlickrPost.h"
+#include "Korvane/FlickrResponse.h"
+#include "Platform/Foundation/NSLog.h"
+
+#include <QHash>
+#include <QUrlQuery>
+
+namespace korvane {
+namespace {
+
+constexpr qsizetype longestShownAnswer = 200;
+
+Verdict waiting(WaitReason reason, const NSError &error, const QString &text) {
+    return {UploadState::Waiting, reason, NSError::errorWithDescription(error.domain(), error.code(), text)};
+}
+
+Verdict failed(const NSError &error, const QString &text) {
+    return {UploadState::Failed, WaitReason::None, NSError::errorWithDescription(error.domain(), error.code(), text)};
+}
+
+bool isServerTrouble(int status) {
+    return status >= 500 || status == 408 || status == 429;
+}
+
+Verdict verdictOnTransport(const NSError &error) {
+    switch (error.code()) {
+    case NSURLErrorCannotFindHost:
+    case NSURLErrorCannotConnectToHost:
+    case NSURLErrorNotConnectedToInternet:
+    case NSURLErrorNetworkConnectionLost:
+    case NSURLErrorTimedOut:
+        return waiting(WaitReason::Network, error,
+                       QStringLiteral("Flickr cannot be reached: %1").arg(error.localizedDescription()));
+    default:
+        return waiting(WaitReason::NextTry, error,
+                       QStringLiteral("The connection to Flickr failed: %1").arg(error.localizedDescription()));
+    }
+}
+
+// Codes of flickr.com/services/api/upload.api.html; those not listed here are final and have only Flickr's own words.
+QString adviceOnCode(qint64 code) {
+    static const QHash<qint64, QString> advice{
+        {4, QStringLiteral("The file was empty. Check it and share it again.")},
+        {5, QStringLiteral("Flickr takes JPEG, PNG, GIF and TIFF pictures.")},
+        {6, QStringLiteral("Your upload limit is used up. Free space on Flickr, then retry.")},
+        {8, QStringLiteral("The file is too large for Flickr.")},
+        {96, QStringLiteral("Sign in again (korvane accounts), then retry.")},
+        {97, QStringLiteral("Sign in again (korvane accounts), then retry.")},
+        {98, QStringLiteral("Sign in again (korvane accounts), then retry.")},
+        {99, QStringLiteral("Sign in again and allow uploads, then retry.")},
+        {100, QStringLiteral("Check the application's key (korvane accounts), then retry.")},
+    };
+    return advice.value(code, QStringLiteral("Change what Flickr objects to and share it again, or retry."));
+}
+
+// Refusals of the OAuth layer come as a form text instead of XML.
+std::optional<Verdict> verdictOnOAuthProblem(const NSError &error) {
+    const QString answer = error.localizedDescription().trimmed();
+    if (!answer.startsWith(QLatin1String("oauth_problem="))) return std::nullopt;
+    const QString problem = QUrlQuery(answer).queryItemValue(QStringLiteral("oauth_problem"));
+    if (problem == QLatin1String("nonce_used"))
+        return waiting(WaitReason::NextTry, error, QStringLiteral("Flickr asks to send the request again."));
+    if (problem == QLatin1String("timestamp_refused"))
+        return failed(error, QStringLiteral("Flickr refused the request's time. Set this device's clock, then retry."));
+    return failed(error, QStringLiteral("Flickr does not accept the sign-in (%1). Sign in again (korvane accounts), then retry.")
+                             .arg(redacted(problem.left(longestShownAnswer))));
+}
+
+Verdict verdictOnAnswer(const NSError &error, int status) {
+    if (const auto verdict = error.code() == -1 ? verdictOnOAuthProblem(error) : std::nullopt) return *verdict;
+    if (isServerTrouble(status))
+        return waiting(WaitReason::NextTry, error, QStringLiteral("Flickr is in trouble (HTTP status %1).").arg(status));
+    const QString message = redacted(error.localizedDescription().simplified().left(longestShownAnswer));
+    if (error.code() == 105 || error.code() == 106)
+        return waiting(WaitReason::NextTry, error, QStringLiteral("Flickr is not available just now: %1").arg(message));
+    if (error.code() == -1)
+        return failed(error, QStringLiteral("Flickr's answer was not understood (HTTP status %1). Retry later.").arg(status));
+    return failed(error, QStringLiteral("Flickr refused the photo: %1 (code %2). %3")
+                             .arg(message)
+                             .arg(error.code())
+                             .arg(adviceOnCode(error.code())));
+}
+
+// The upload code reports success once the photo is on Flickr, whatever became of its place in the photo set; a set that was not
+// reached is asked for again, without the photo.
+Verdict verdictOnPhotoSet(const RunOutcome &outcome) {
+    const auto &request = outcome.lastRequest;
+    const QString text = QStringLiteral("The photo is on Flickr; adding it to its album is still to be done. %1");
+    if (request.transportError)
+        return waiting(WaitReason::Network, *request.transportError,
+                       text.arg(request.transportError->localizedDescription()));
+    if (isServerTrouble(request.httpStatus))
+        return waiting(WaitReason::NextTry, NSError(FlickrResponseErrorDomain, -1),
+                       text.arg(QStringLiteral("Flickr is in trouble (HTTP status %1).").arg(request.httpStatus)));
+    return {};
+}
+
+} // namespace
+
+Verdict FailureClassifier::verdictOnFlickrRun(const RunOutcome &outcome, bool wantsPhotoSet) {
+    if (outcome.end == RunOutcome::Unusable)
+        return {UploadState::Failed, WaitReason::None, outcome.error};
+    if (outcome.end == RunOutcome::NoAccount)
+        return {UploadState::Waiting, WaitReason::SignIn, outcome.error};
+    if (!outcome.error) return wantsPhotoSet ? verdictOnPhotoSet(outcome) : Verdict{};
+    const NSError &error = *outcome.error;
+    if (error.domain() == NSURLErrorDomain) return verdictOnTransport(error);
+    if (error.domain() == FlickrResponseErrorDomain) return verdictOnAnswer(error, outcome.lastRequest.httpStatus);
+    if (error.domain() == FlickrPostErrorDomain)
+        return failed(error, QStringLiteral("The photo is no longer in the photo library. Share it again from where it is now."));
+    return failed(error, error.localizedDescription());
+}
+
+} // namespace korvane

@@ -1,0 +1,26 @@
+// How one run of an upload ended.
+#pragma once
+
+#include "Platform/Foundation/NSError.h"
+#include "Platform/Foundation/UploadContext.h"
+
+#include <functional>
+#include <optional>
+
+namespace korvane {
+
+struct RunOutcome {
+    enum End {
+        Finished,  // the upload code ran to its end; error says how
+        Unusable,  // the post was not begun, since it cannot be uploaded; error says why
+        NoAccount, // the account is gone or its credential cannot be read
+    };
+
+    End end = Finished;
+    std::optional<NSError> error;
+    UploadContext::Snapshot lastRequest; // of a run that got to the network
+    qint64 photoID = 0;
+    qint64 bytes = 0; // size of what was uploaded, if it became known
+};
+
+} // namespace korvane

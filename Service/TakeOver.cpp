@@ -1,0 +1,68 @@
+// Turns the records of a message into uploads.
+#include "Service/TakeOver.h"
+
+#include "Platform/Accounts/ACAccountStore.h"
+#include "Service/RecordCodec.h"
+
+#include <QDateTime>
+
+namespace korvane {
+namespace {
+
+constexpr qsizetype longestTitle = 500; // of what lists show; the record keeps the whole
+
+QString accountInUse(const QString &service) {
+    const ACAccountStore store;
+    const auto type = store.accountTypeWithAccountTypeIdentifier(service == flickrServiceID ? ACAccountTypeIdentifierFlickr
+                                                                                            : ACAccountTypeIdentifierVimeo);
+    const auto accounts = store.accountsWithAccountType(type);
+    return accounts.empty() ? QString() : accounts.back()->identifier();
+}
+
+// The size of what will be sent, as far as it is known now, and the identity of a file that will be read in place.
+void describeSource(const QVariantMap &record, UploadJob &job) {
+    const auto url = NSURL::URLWithString(record.value(QStringLiteral("assetURL")).toString());
+    if (url && url->isFileURL()) {
+        job.source = FileIdentity::ofPath(url->fileSystemRepresentation());
+        job.bytesTotal = job.source ? job.source->size : 0;
+        return;
+    }
+    for (const QString &key : {QStringLiteral("photoData"), QStringLiteral("assetData")}) {
+        const QVariant data = record.value(key);
+        if (data.typeId() == qMetaTypeId<NSData>()) job.bytesTotal = data.value<NSData>().length();
+        if (data.typeId() == QMetaType::QByteArray) job.bytesTotal = data.toByteArray().size();
+    }
+}
+
+NewUpload uploadOfRecord(const QString &service, const QVariantMap &record, const RemoteMessage &message,
+                         const QString &spoolFile, const QString &account) {
+    NewUpload upload;
+    upload.job.service = service;
+    upload.job.title = record.value(QStringLiteral("title")).toString().left(longestTitle);
+    upload.job.accountID = account;
+    upload.job.createdAt = QDateTime::currentMSecsSinceEpoch();
+    describeSource(record, upload.job);
+    for (const QVariant &value : record)
+        if (value.typeId() == qMetaTypeId<NSData>() && value.value<NSData>().file()) upload.job.spoolFile = spoolFile;
+    upload.record = RecordCodec::encode(record, message.dataFile);
+    return upload;
+}
+
+} // namespace
+
+std::optional<TakenMessage> TakeOver::prepare(const QString &service, const QVariantList &records,
+                                              const RemoteMessage &message, const Spool &spool,
+                                              std::optional<NSError> *error) {
+    TakenMessage taken;
+    if (message.dataFile) {
+        const auto name = spool.adopt(message.dataFile->get(), error);
+        if (!name) return std::nullopt;
+        taken.spoolFile = *name;
+    }
+    const QString account = accountInUse(service);
+    for (const QVariant &record : records)
+        taken.uploads.push_back(uploadOfRecord(service, record.toMap(), message, taken.spoolFile, account));
+    return taken;
+}
+
+} // namespace korvane

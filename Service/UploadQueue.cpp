@@ -1,0 +1,254 @@
+// The queue of uploads: taking over, scheduling and outcomes.
+#include "Service/UploadQueue.h"
+
+#include "Platform/Accounts/ACAccountStore.h"
+#include "Platform/Foundation/NSLog.h"
+#include "Platform/Preferences/KorvaneSettings.h"
+#include "Platform/Social/RemoteServiceError.h"
+#include "Service/FlickrRunner.h"
+#include "Service/RecordCodec.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+
+namespace korvane {
+namespace {
+
+constexpr qint64 messageMemory = 7 * 24 * 3'600'000LL; // how long a lost reply may be asked for again
+
+qint64 now() {
+    return QDateTime::currentMSecsSinceEpoch();
+}
+
+} // namespace
+
+UploadQueue::UploadQueue(QString folder, RetryPolicy policy, UploadQueueObserver observer)
+    : _policy(std::move(policy)), _observer(std::move(observer)), _folder(std::move(folder)),
+      _spool(_folder + QStringLiteral("/spool")) {}
+
+UploadQueue::~UploadQueue() {
+    _queue.sync([this] { _store.reset(); });
+}
+
+bool UploadQueue::open(bool fatalDeath, std::optional<NSError> *error) {
+    bool opened = false;
+    _queue.sync([&] {
+        _store = std::make_unique<UploadStore>();
+        opened = _store->open(_folder + QStringLiteral("/queue.sqlite"), error);
+        if (!opened) return;
+        for (const UploadJob &job : _store->recover(fatalDeath, now()))
+            NSLog("Upload %lli was set aside: the service ended fatally while it ran, twice.", job.id);
+        _store->forgetMessagesBefore(now() - messageMemory);
+        _spool.sweep(_store->spoolFiles());
+        _paused = _store->isPaused();
+    });
+    return opened;
+}
+
+void UploadQueue::start() {
+    _queue.async([this] {
+        _started = true;
+        _schedule();
+        _armWake();
+    });
+}
+
+void UploadQueue::takeOver(const QString &service, const QVariantList &records, const RemoteMessage &message,
+                           const XPCTransferCompletion &reply) {
+    if (records.isEmpty())
+        return reply(false, NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNothingToShare,
+                                                          QStringLiteral("There is nothing to share.")));
+    // Large data takes its time to reach the disk; the queue goes on meanwhile.
+    dispatchGlobal([=, this] {
+        std::optional<NSError> error;
+        auto taken = TakeOver::prepare(service, records, message, _spool, &error);
+        if (!taken) return reply(false, error);
+        _queue.async([=, this, taken = std::move(*taken)] { _taken(message.id, taken, reply); });
+    });
+}
+
+void UploadQueue::_taken(const QString &messageID, TakenMessage taken, const XPCTransferCompletion &reply) {
+    std::optional<NSError> error;
+    const bool known = _store->knowsMessage(messageID);
+    const bool kept = !known && _store->take(messageID, taken.uploads, &error);
+    if (!kept && !taken.spoolFile.isEmpty()) _spool.remove(taken.spoolFile);
+    reply(known || kept, error);
+    if (!kept) return;
+    for (const QString &id : _store->idsOfMessage(messageID))
+        if (const auto job = _store->job(id.toLongLong())) _announce(*job);
+    _schedule();
+}
+
+void UploadQueue::_schedule() {
+    if (!_started || _paused || _stopped || _suspectRuns) return;
+    // What may have ended the service before is tried alone, so that its end names the culprit.
+    if (const auto suspect = _store->suspect()) {
+        if (_running.empty() && _holds[suspect->service].until <= now()) _start(*suspect);
+        return;
+    }
+    _scheduleService(flickrServiceID, KorvaneSettings::flickrParallelUploads());
+}
+
+void UploadQueue::_scheduleService(const QString &service, int limit) {
+    const qint64 free = limit - qint64(_runningOf(service));
+    if (free <= 0 || _holds[service].until > now()) return;
+    for (const UploadJob &job : _store->queued(service, int(free)))
+        _start(job);
+}
+
+void UploadQueue::_start(UploadJob job) {
+    if (!_pinAccount(job)) return;
+    job.state = UploadState::Running;
+    ++job.attempts;
+    job.error.reset();
+    if (!_store->update(job, false)) return;
+    _suspectRuns = job.deaths > 0;
+    const auto context = std::make_shared<UploadContext>();
+    {
+        const std::lock_guard lock(_runningMutex);
+        _running[job.id] = {job, context, StopReason::None};
+    }
+    _announce(job);
+    const auto data = job.spoolFile.isEmpty() ? nullptr : _spool.open(job.spoolFile);
+    FlickrRunner::start({job, RecordCodec::decode(_store->record(job.id), data), context,
+                         [this, id = job.id](qint64 photoID) { _queue.async([=, this] { _answered(id, photoID); }); },
+                         [this, id = job.id](const RunOutcome &outcome) { _queue.async([=, this] { _ended(id, outcome); }); }});
+}
+
+// A post taken over while there was no account goes to the first that appears. Without one it waits, and this is false.
+bool UploadQueue::_pinAccount(UploadJob &job) {
+    if (!job.accountID.isEmpty()) return true;
+    const ACAccountStore store;
+    const auto accounts =
+        store.accountsWithAccountType(store.accountTypeWithAccountTypeIdentifier(ACAccountTypeIdentifierFlickr));
+    if (!accounts.empty()) {
+        job.accountID = accounts.back()->identifier();
+        return true;
+    }
+    _apply({UploadState::Waiting, WaitReason::SignIn,
+            NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable,
+                                          QStringLiteral("There is no Flickr account. Add one with: korvane accounts add flickr"))},
+           job);
+    _store->update(job, true);
+    _announce(job);
+    return false;
+}
+
+void UploadQueue::_answered(qint64 id, qint64 photoID) {
+    const auto found = _running.find(id);
+    if (found == _running.end()) return;
+    {
+        const std::lock_guard lock(_runningMutex);
+        found->second.job.photoID = photoID;
+    }
+    _store->update(found->second.job, false);
+}
+
+void UploadQueue::_ended(qint64 id, const RunOutcome &outcome) {
+    const auto found = _running.find(id);
+    if (found == _running.end()) return;
+    UploadJob job = found->second.job;
+    const StopReason stopReason = found->second.stopReason;
+    {
+        const std::lock_guard lock(_runningMutex);
+        _running.erase(found);
+    }
+    _suspectRuns = false;
+    job.photoID = outcome.photoID != 0 ? outcome.photoID : job.photoID;
+    if (outcome.bytes != 0) job.bytesTotal = outcome.bytes;
+    job.deaths = 0;
+    const bool wantsPhotoSet = RecordCodec::decode(_store->record(id), nullptr).value(QStringLiteral("photoSetID")).toLongLong() != 0;
+    const Verdict verdict = FailureClassifier::verdictOnFlickrRun(outcome, wantsPhotoSet);
+    if (stopReason == StopReason::Remove) {
+        _forget(job);
+    } else {
+        if (stopReason == StopReason::Pause && verdict.state != UploadState::Done)
+            job.state = UploadState::Queued;
+        else
+            _apply(verdict, job);
+        // The photo's id is recorded by now, so the next run need not wait until the outcome has reached the disk.
+        if (job.state == UploadState::Done) {
+            _holds.erase(job.service);
+            _schedule();
+        }
+        _store->update(job, true);
+        if (job.state == UploadState::Done) _dropSpoolFile(job.spoolFile);
+        _announce(job);
+        if (job.finishedAt != 0 && _observer.finished) _observer.finished(job);
+    }
+    _schedule();
+    _armWake();
+    if (_stopped && _running.empty()) _stopped();
+}
+
+void UploadQueue::_apply(const Verdict &verdict, UploadJob &job) {
+    job.state = verdict.state;
+    job.waitReason = verdict.waitReason;
+    job.error = verdict.error;
+    if (verdict.state == UploadState::Waiting) return _wait(job, verdict);
+    job.failures = 0;
+    job.failingSince = 0;
+    job.nextTryAt = 0;
+    job.finishedAt = now();
+}
+
+void UploadQueue::_wait(UploadJob &job, const Verdict &verdict) {
+    ++job.failures;
+    if (job.failingSince == 0) job.failingSince = now();
+    if (verdict.waitReason != WaitReason::SignIn && now() - job.failingSince > _policy.giveUpAfter) {
+        const QString text = QStringLiteral("Given up after two days of trying. Last: %1 Retry when it is better.");
+        job.error = NSError::errorWithDescription(verdict.error->domain(), verdict.error->code(),
+                                                  text.arg(verdict.error->localizedDescription()));
+        job.state = UploadState::Failed;
+        job.waitReason = WaitReason::None;
+        job.finishedAt = now();
+        return;
+    }
+    job.nextTryAt = now() + _policy.delayAfter(job.failures);
+    Hold &hold = _holds[job.service];
+    if (verdict.waitReason == WaitReason::Network && hold.until <= now())
+        hold.until = now() + _policy.delayAfter(++hold.failures);
+}
+
+void UploadQueue::_forget(const UploadJob &job) {
+    _store->remove(job.id);
+    _dropSpoolFile(job.spoolFile);
+    if (_observer.removed) _observer.removed(QString::number(job.id));
+}
+
+// A spool file holds the data of all posts of a message; the last of them takes it along.
+void UploadQueue::_dropSpoolFile(const QString &name) {
+    if (!name.isEmpty() && !_store->spoolFileIsNeeded(name)) _spool.remove(name);
+}
+
+void UploadQueue::_requeue(std::vector<UploadJob> jobs) {
+    for (UploadJob &job : jobs) {
+        job.state = UploadState::Queued;
+        job.waitReason = WaitReason::None;
+        job.nextTryAt = 0;
+        job.finishedAt = 0;
+        _store->update(job, false);
+        _announce(job);
+    }
+    _schedule();
+    _armWake();
+}
+
+void UploadQueue::_armWake() {
+    std::optional<qint64> due = _store->nextDue();
+    for (const auto &[service, hold] : _holds)
+        if (hold.until > now()) due = std::min(due.value_or(hold.until), hold.until);
+    if (due && _observer.wakeAfter) _observer.wakeAfter(std::max<qint64>(0, *due - now()));
+}
+
+void UploadQueue::_announce(const UploadJob &job) {
+    if (_observer.changed) _observer.changed(_dictionary(job));
+}
+
+size_t UploadQueue::_runningOf(const QString &service) const {
+    return size_t(std::count_if(_running.begin(), _running.end(),
+                                [&](const auto &entry) { return entry.second.job.service == service; }));
+}
+
+} // namespace korvane

@@ -1,0 +1,120 @@
+// The queue of uploads: takes posts over, runs them, and keeps record of all that happens to them.
+#pragma once
+
+#include "Platform/Foundation/Dispatch.h"
+#include "Platform/Social/RemoteServiceSession.h"
+#include "Service/FailureClassifier.h"
+#include "Service/RetryPolicy.h"
+#include "Service/Spool.h"
+#include "Service/TakeOver.h"
+#include "Service/UploadStore.h"
+
+#include <QVariantMap>
+
+#include <atomic>
+#include <map>
+#include <mutex>
+
+namespace korvane {
+
+// What the queue tells; called on its own thread.
+struct UploadQueueObserver {
+    std::function<void(const QVariantMap &upload)> changed;
+    std::function<void(const QString &id)> removed;
+    std::function<void(const UploadJob &job)> finished;  // done or failed just now
+    std::function<void(qint64 milliseconds)> wakeAfter;  // wants a call of wake() then; replaces an earlier wish
+};
+
+struct UploadProgress {
+    QString id;
+    qint64 bytesSent;
+    qint64 bytesConfirmed;
+    qint64 bytesTotal;
+};
+
+// Thread: any. The work is done on a serial queue of its own, where all but the list of running uploads lives; answers
+// come from there. An id of the interface is a decimal number; unknown ones are passed over.
+class UploadQueue {
+public:
+    // folder: where database and spool are.
+    UploadQueue(QString folder, RetryPolicy policy, UploadQueueObserver observer);
+    ~UploadQueue();
+
+    // Opens the database and puts what was running in the last life back; nothing runs before start(). fatalDeath: the last
+    // life ended by its own fault. Blocks. False, with the error placed, if the database is unusable.
+    bool open(bool fatalDeath, std::optional<NSError> *error);
+    void start();
+
+    // Answers once all posts are on disk, or none.
+    void takeOver(const QString &service, const QVariantList &records, const RemoteMessage &message,
+                  const XPCTransferCompletion &reply);
+
+    using Answer = std::function<void(const QVariant &value)>;
+    void list(qint64 after, quint32 limit, const Answer &answer);   // QList<QVariantMap>
+    void get(const QStringList &ids, const Answer &answer);         // QList<QVariantMap>
+    void idsOfMessage(const QString &messageID, const Answer &answer); // QStringList
+    void counts(const Answer &answer);                              // QVariantMap
+    void retry(const QStringList &ids, const Answer &answer);       // uint
+    void remove(const QStringList &ids, const Answer &answer);      // uint
+    void clear(const Answer &answer);                               // uint
+    void setPaused(bool paused, const Answer &answer);
+    bool isPaused() const { return _paused; }
+
+    void wake();             // something may be due
+    void networkReturned();  // what waits for the network is due
+    void accountsChanged();  // what waits for a sign-in is due
+
+    // Stops what runs, keeping it queued, and starts nothing more; stopped is called once nothing runs.
+    void stop(const std::function<void()> &stopped);
+
+    std::vector<UploadProgress> progress() const;
+
+private:
+    enum class StopReason { None, Pause, Remove };
+    struct Running {
+        UploadJob job;
+        std::shared_ptr<UploadContext> context;
+        StopReason stopReason = StopReason::None;
+    };
+
+    // While a service cannot be reached, its queued uploads need not all find that out by themselves.
+    struct Hold {
+        qint64 until = 0; // no new runs before
+        qint64 failures = 0;
+    };
+
+    void _taken(const QString &messageID, TakenMessage taken, const XPCTransferCompletion &reply);
+    void _schedule();
+    void _scheduleService(const QString &service, int limit);
+    void _start(UploadJob job);
+    bool _pinAccount(UploadJob &job);
+    void _answered(qint64 id, qint64 photoID);
+    void _ended(qint64 id, const RunOutcome &outcome);
+    void _apply(const Verdict &verdict, UploadJob &job);
+    void _wait(UploadJob &job, const Verdict &verdict);
+    void _forget(const UploadJob &job);
+    void _dropSpoolFile(const QString &name);
+    void _requeue(std::vector<UploadJob> jobs);
+    void _stopRunning(StopReason reason);
+    void _armWake();
+    void _announce(const UploadJob &job);
+    QVariantMap _dictionary(const UploadJob &job) const;
+    size_t _runningOf(const QString &service) const;
+    void _answerWhenDone(std::function<QVariant()> work, const Answer &answer);
+
+    const RetryPolicy _policy;
+    const UploadQueueObserver _observer;
+    const QString _folder;
+    const Spool _spool;
+    std::unique_ptr<UploadStore> _store;
+    std::map<QString, Hold> _holds; // by service
+    std::function<void()> _stopped;
+    bool _started = false;
+    bool _suspectRuns = false;
+    std::atomic<bool> _paused = false;
+    mutable std::mutex _runningMutex;
+    std::map<qint64, Running> _running; // written on the queue's thread under the mutex
+    SerialQueue _queue;                 // last: its thread ends before what it works on
+};
+
+} // namespace korvane

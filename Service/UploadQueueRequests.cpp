@@ -1,0 +1,181 @@
+// The queue of uploads: what the status interface asks of it.
+#include "Service/UploadQueue.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+
+namespace korvane {
+namespace {
+
+constexpr quint32 largestPage = 1000;
+
+// What a run has sent and what is certain of it. A multipart body is a little longer than the photo, so the count is cut.
+UploadProgress progressOf(const UploadJob &job, const UploadContext::Snapshot &request) {
+    const qint64 total = job.bytesTotal != 0 ? job.bytesTotal : request.bytesTotal;
+    if (job.photoID != 0) return {QString::number(job.id), total, total, total};
+    return {QString::number(job.id), std::min(request.bytesSent, total), 0, total};
+}
+
+} // namespace
+
+void UploadQueue::_answerWhenDone(std::function<QVariant()> work, const Answer &answer) {
+    _queue.async([work = std::move(work), answer] { answer(work()); });
+}
+
+void UploadQueue::list(qint64 after, quint32 limit, const Answer &answer) {
+    _answerWhenDone(
+        [=, this] {
+            QList<QVariantMap> page;
+            for (const UploadJob &job : _store->jobsAfter(after, int(std::min(limit, largestPage))))
+                page.append(_dictionary(job));
+            return QVariant::fromValue(page);
+        },
+        answer);
+}
+
+void UploadQueue::get(const QStringList &ids, const Answer &answer) {
+    _answerWhenDone(
+        [=, this] {
+            QList<QVariantMap> found;
+            for (const QString &id : ids)
+                if (const auto job = _store->job(id.toLongLong())) found.append(_dictionary(*job));
+            return QVariant::fromValue(found);
+        },
+        answer);
+}
+
+void UploadQueue::idsOfMessage(const QString &messageID, const Answer &answer) {
+    _answerWhenDone([=, this] { return QVariant(_store->idsOfMessage(messageID)); }, answer);
+}
+
+void UploadQueue::counts(const Answer &answer) {
+    _answerWhenDone(
+        [this] {
+            const auto counts = _store->counts();
+            const auto of = [&](UploadState state) {
+                const auto found = counts.find(state);
+                return QVariant(found == counts.end() ? qint64(0) : found->second);
+            };
+            return QVariant(QVariantMap{{QStringLiteral("queued"), of(UploadState::Queued)},
+                                        {QStringLiteral("running"), of(UploadState::Running)},
+                                        {QStringLiteral("waiting"), of(UploadState::Waiting)},
+                                        {QStringLiteral("done"), of(UploadState::Done)},
+                                        {QStringLiteral("failed"), of(UploadState::Failed)}});
+        },
+        answer);
+}
+
+void UploadQueue::retry(const QStringList &ids, const Answer &answer) {
+    _answerWhenDone(
+        [=, this] {
+            std::vector<UploadJob> jobs;
+            for (const QString &id : ids) {
+                auto job = _store->job(id.toLongLong());
+                if (!job || (job->state != UploadState::Failed && job->state != UploadState::Waiting)) continue;
+                job->failures = 0;
+                job->failingSince = 0;
+                // One that was set aside is tried alone again: one more fatal end sets it aside at once.
+                job->deaths = std::min<qint64>(job->deaths, 1);
+                jobs.push_back(*job);
+            }
+            _holds.clear();
+            _requeue(jobs);
+            return QVariant(quint32(jobs.size()));
+        },
+        answer);
+}
+
+void UploadQueue::remove(const QStringList &ids, const Answer &answer) {
+    _answerWhenDone(
+        [=, this] {
+            quint32 count = 0;
+            for (const QString &id : ids) {
+                const auto job = _store->job(id.toLongLong());
+                if (!job) continue;
+                ++count;
+                const auto running = _running.find(job->id);
+                if (running == _running.end()) {
+                    _forget(*job);
+                } else {
+                    running->second.stopReason = StopReason::Remove;
+                    running->second.context->cancel();
+                }
+            }
+            _armWake();
+            return QVariant(count);
+        },
+        answer);
+}
+
+void UploadQueue::clear(const Answer &answer) {
+    _answerWhenDone(
+        [this] {
+            const auto done = _store->done();
+            for (const UploadJob &job : done)
+                _forget(job);
+            return QVariant(quint32(done.size()));
+        },
+        answer);
+}
+
+void UploadQueue::setPaused(bool paused, const Answer &answer) {
+    _answerWhenDone(
+        [=, this] {
+            _paused = paused;
+            _store->setPaused(paused);
+            if (paused)
+                _stopRunning(StopReason::Pause);
+            else
+                _schedule();
+            return QVariant();
+        },
+        answer);
+}
+
+void UploadQueue::wake() {
+    _queue.async([this] { _requeue(_store->dueBefore(QDateTime::currentMSecsSinceEpoch())); });
+}
+
+void UploadQueue::networkReturned() {
+    _queue.async([this] {
+        _holds.clear();
+        _requeue(_store->waiting(WaitReason::Network));
+    });
+}
+
+void UploadQueue::accountsChanged() {
+    _queue.async([this] { _requeue(_store->waiting(WaitReason::SignIn)); });
+}
+
+void UploadQueue::stop(const std::function<void()> &stopped) {
+    _queue.async([=, this] {
+        _stopped = stopped;
+        _stopRunning(StopReason::Pause);
+        if (_running.empty()) stopped();
+    });
+}
+
+void UploadQueue::_stopRunning(StopReason reason) {
+    for (auto &[id, running] : _running) {
+        if (running.stopReason == StopReason::None) running.stopReason = reason;
+        running.context->cancel();
+    }
+}
+
+std::vector<UploadProgress> UploadQueue::progress() const {
+    const std::lock_guard lock(_runningMutex);
+    std::vector<UploadProgress> all;
+    for (const auto &[id, running] : _running)
+        all.push_back(progressOf(running.job, running.context->snapshot()));
+    return all;
+}
+
+QVariantMap UploadQueue::_dictionary(const UploadJob &job) const {
+    const auto running = _running.find(job.id);
+    UploadProgress bytes = progressOf(job, running == _running.end() ? UploadContext::Snapshot{} : running->second.context->snapshot());
+    if (job.state == UploadState::Done) bytes.bytesSent = bytes.bytesConfirmed = bytes.bytesTotal;
+    return dictionaryOfJob(job, bytes.bytesSent, bytes.bytesConfirmed, bytes.bytesTotal);
+}
+
+} // namespace korvane

@@ -1,0 +1,79 @@
+// The durable queue: uploads in an SQLite database.
+#pragma once
+
+#include "Service/UploadJob.h"
+
+#include <QSet>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QStringList>
+
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace korvane {
+
+struct NewUpload {
+    UploadJob job;
+    QByteArray record;
+};
+
+// Thread: the one that made it, alone.
+class UploadStore {
+public:
+    UploadStore();
+    ~UploadStore();
+
+    // Opens or makes the database. False, with the error placed, if it is unusable or of a newer version.
+    bool open(const QString &path, std::optional<NSError> *error);
+
+    // All uploads of a message, or none of them; on disk when it returns.
+    bool take(const QString &messageID, const std::vector<NewUpload> &uploads, std::optional<NSError> *error);
+    bool knowsMessage(const QString &messageID);
+    QStringList idsOfMessage(const QString &messageID);
+    // Forgets message ids older than the time; their uploads stay.
+    void forgetMessagesBefore(qint64 time);
+
+    std::optional<UploadJob> job(qint64 id);
+    QByteArray record(qint64 id);
+    std::vector<UploadJob> jobsAfter(qint64 id, int limit);
+    std::map<UploadState, qint64> counts();
+
+    // The next queued uploads of a service, oldest first, those in passing over left out.
+    std::vector<UploadJob> queued(const QString &service, int limit);
+    // A queued upload during which the service once ended fatally.
+    std::optional<UploadJob> suspect();
+    std::vector<UploadJob> waiting(WaitReason reason);
+    std::vector<UploadJob> dueBefore(qint64 time);
+    std::optional<qint64> nextDue();
+
+    // Writes all of the job's fields but its record. durable: on disk when it returns, else only safe from a death of the process.
+    bool update(const UploadJob &job, bool durable);
+    void remove(qint64 id);
+    // The done ones, and how many.
+    std::vector<UploadJob> done();
+    bool spoolFileIsNeeded(const QString &name);
+    QSet<QString> spoolFiles();
+
+    // After a death of the service: what was running is queued again. fatal: the death was of the service's own making, so each
+    // of them is suspected; those suspected before are set aside as failed. Returns those set aside.
+    std::vector<UploadJob> recover(bool fatal, qint64 now);
+
+    bool isPaused();
+    void setPaused(bool paused);
+
+private:
+    bool _run(QSqlQuery &query);
+    bool _exec(const QString &statement);
+    std::vector<UploadJob> _select(const QString &condition, const QVariantList &values);
+    void _setDurable(bool durable);
+    NSError _lastError() const;
+
+    QSqlDatabase _database;
+    QString _connectionName;
+    QString _errorText;
+    bool _isDurable = true;
+};
+
+} // namespace korvane

@@ -1,0 +1,66 @@
+// Queues.
+#include "Platform/Foundation/Dispatch.h"
+#include "Tests/Support/WaitFor.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <semaphore>
+#include <vector>
+
+using namespace korvane;
+using namespace korvane::test;
+
+TEST(Dispatch, RunsMainWorkInOrderOnTheMainThread) {
+    std::vector<int> order;
+    bool allOnMain = true;
+    std::atomic<bool> sent = false;
+    dispatchGlobal([&] {
+        for (int i = 0; i < 1000; ++i)
+            dispatchMain([&, i] {
+                order.push_back(i);
+                allOnMain = allOnMain && QThread::currentThread() == QCoreApplication::instance()->thread();
+            });
+        sent = true;
+    });
+    ASSERT_TRUE(waitFor([&] { return sent && order.size() == 1000; }));
+    EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
+    EXPECT_TRUE(allOnMain);
+}
+
+TEST(Dispatch, AddsThreadsWhileOthersBlock) {
+    std::counting_semaphore<> release(0);
+    std::atomic<int> blocked = 0;
+    std::atomic<int> done = 0;
+    for (int i = 0; i < 40; ++i)
+        dispatchGlobal([&] {
+            ++blocked;
+            release.acquire();
+            ++done;
+        });
+    EXPECT_TRUE(waitFor([&] { return blocked == 40; }));
+    release.release(40);
+    EXPECT_TRUE(waitFor([&] { return done == 40; }));
+}
+
+TEST(Dispatch, SerialQueueFinishesItsWorkAndMayDieOnItsOwnThread) {
+    std::atomic<int> done = 0;
+    {
+        SerialQueue queue;
+        for (int i = 0; i < 100; ++i)
+            queue.async([&] { ++done; });
+    }
+    EXPECT_EQ(done, 100);
+
+    auto queue = std::make_shared<SerialQueue>();
+    std::atomic<bool> gone = false;
+    queue->async([&, held = queue]() mutable {
+        while (held.use_count() > 1)
+            QThread::yieldCurrentThread();
+        held.reset();
+        gone = true;
+    });
+    queue.reset();
+    EXPECT_TRUE(waitFor([&] { return gone.load(); }));
+}

@@ -1,0 +1,132 @@
+// Posts, answers and encodings: everything of Flickr that needs no network.
+#include "Korvane/FlickrPhotoSetResponse.h"
+#include "Korvane/FlickrPost.h"
+#include "Korvane/FlickrResponse.h"
+#include "Korvane/KorvaneAdditions.h"
+#include "Tests/Support/TemporaryHome.h"
+
+#include <gtest/gtest.h>
+
+using namespace korvane;
+using namespace korvane::test;
+
+TEST(QueryEncoding, EscapesAllButUnreservedCharactersAndSortsByCode) {
+    EXPECT_EQ(EncodedStringForParameterDictionary({}), QString());
+    EXPECT_EQ(EncodedStringForParameterDictionary({{QStringLiteral("method"), QStringLiteral("flickr.photosets.getList")},
+                                                   {QStringLiteral("format"), QStringLiteral("rest")}}),
+              QStringLiteral("format=rest&method=flickr.photosets.getList"));
+    EXPECT_EQ(EncodedStringForParameterDictionary({{QStringLiteral("a&b"), QStringLiteral("a b&c")},
+                                                   {QStringLiteral("Z"), 3},
+                                                   {QStringLiteral("n"), true},
+                                                   {QStringLiteral("o"), false}}),
+              QStringLiteral("Z=3&a%26b=a%20b%26c&n=1&o=0"));
+    EXPECT_EQ(urlParameterEscapedString(QStringLiteral("ü-._~!*'();:@&=+$,/?%#[]\"<\n%41")),
+              QStringLiteral("%C3%BC-._~%21%2A%27%28%29%3B%3A%40%26%3D%2B%24%2C%2F%3F%25%23%5B%5D%22%3C%0A%2541"));
+}
+
+TEST(FlickrPostRecord, HoldsOnlyWhatIsSetAndTheFiveNumbers) {
+    const auto post = FlickrPost::init();
+    post->photoData = NSData("bytes");
+    EXPECT_EQ(post->serializedDictionary().keys(),
+              (QStringList{QStringLiteral("contentType"), QStringLiteral("hidden"), QStringLiteral("photoData"),
+                           QStringLiteral("photoSetID"), QStringLiteral("safetyLevel"), QStringLiteral("visibility")}));
+    post->tags = QStringList();
+    post->title = QString();
+    EXPECT_TRUE(post->serializedDictionary().contains(QStringLiteral("tags")));
+    EXPECT_TRUE(post->serializedDictionary().contains(QStringLiteral("title")));
+}
+
+TEST(FlickrPostRecord, ComesBackEqualInEveryProperty) {
+    const auto post = FlickrPost::init();
+    post->assetURL = NSURL::URLWithString(QStringLiteral("assets-library://asset/asset.JPG?id=pictures%2Fa%7E&ext=JPG"));
+    post->photoData = NSData(jpegOfSize(100));
+    post->title = QStringLiteral("Title");
+    post->postDescription = QStringLiteral("Words");
+    post->tags = QStringList{QStringLiteral("a"), QStringLiteral("b c")};
+    post->photoSetID = Q_INT64_C(72157600000000001);
+    post->visibility = 6;
+    post->safetyLevel = 2;
+    post->contentType = 3;
+    post->hidden = true;
+    const auto copy = FlickrPost::initWithDictionary(post->serializedDictionary());
+    EXPECT_EQ(copy->assetURL, post->assetURL);
+    EXPECT_EQ(copy->photoData, post->photoData);
+    EXPECT_EQ(copy->serializedDictionary().remove(QStringLiteral("photoData")), 1);
+    for (const QString &key : post->serializedDictionary().keys())
+        if (key != QLatin1String("photoData"))
+            EXPECT_EQ(copy->serializedDictionary().value(key), post->serializedDictionary().value(key)) << key.toStdString();
+}
+
+TEST(FlickrPostRecord, TakesWhatItCanFromARecordOfAnyKind) {
+    const auto post = FlickrPost::initWithDictionary({{QStringLiteral("assetURL"), QStringLiteral("not a url")},
+                                                      {QStringLiteral("photoData"), QStringLiteral("text")},
+                                                      {QStringLiteral("title"), 5},
+                                                      {QStringLiteral("postDescription"), QStringLiteral("wrong key")},
+                                                      {QStringLiteral("tags"), QStringLiteral("a b")},
+                                                      {QStringLiteral("visibility"), QStringLiteral("6 and more")},
+                                                      {QStringLiteral("hidden"), QStringLiteral("yes")},
+                                                      {QStringLiteral("photoSetID"), 4294967299.0},
+                                                      {QStringLiteral("unknown"), QVariantMap()}});
+    EXPECT_FALSE(post->assetURL || post->photoData || post->title || post->postDescription || post->tags);
+    EXPECT_EQ(post->visibility, 6u);
+    EXPECT_TRUE(post->hidden);
+    EXPECT_EQ(post->photoSetID, Q_INT64_C(4294967299));
+    EXPECT_EQ(FlickrPost::initWithDictionary({{QStringLiteral("photoData"), QByteArray("b")}})->photoData, NSData("b"));
+}
+
+TEST(FlickrResponse, ReadsTheAnswerAsItsEventsCome) {
+    struct Case {
+        const char *body;
+        bool success;
+        qint64 photoID;
+        qint32 code;
+        std::optional<QString> description;
+    };
+    const Case cases[] = {
+        {"<rsp stat=\"ok\"><photoid>53000000001</photoid></rsp>", true, 53000000001, 0, {}},
+        {"<rsp stat=\"ok\"><photoid> 12<![CDATA[34]]>x</photoid></rsp>", true, 1234, 0, {}},
+        {"<rsp stat=\"fail\"><err code=\"5\" msg=\"Filetype &amp; more\"/></rsp>", false, 0, 5, QStringLiteral("Filetype & more")},
+        {"<rsp stat=\"fail\"><err/></rsp>", false, 0, 0, {}},
+        {"<rsp stat=\"fail\"><photoid>7</photoid></rsp>", true, 7, 0, {}},
+        {"<rsp><photoid>7</photoid><err code=\"x\" msg=\"m\"/></rsp>", false, 7, 0, QStringLiteral("m")},
+        {"<rsp></rsp>", false, 0, 0, {}},
+        {"<html/>", false, 0, 0, {}},
+        {"", false, 0, -1, QString()},
+        {"oauth_problem=token_rejected", false, 0, -1, QStringLiteral("oauth_problem=token_rejected")},
+        {"<rsp stat=\"ok\"><photoid>7</photoid>", false, 7, -1, QStringLiteral("<rsp stat=\"ok\"><photoid>7</photoid>")},
+        {"\xff\xfe", false, 0, -1, {}},
+    };
+    for (const Case &test : cases) {
+        SCOPED_TRACE(test.body);
+        const auto response = FlickrResponse::responseWithData(NSData(test.body));
+        EXPECT_EQ(response->isSuccess(), test.success);
+        EXPECT_EQ(response->photoID, test.photoID);
+        EXPECT_EQ(response->errorCode, test.code);
+        EXPECT_EQ(response->errorDescription, test.description);
+    }
+}
+
+TEST(FlickrPhotoSetResponse, ListsTheSetsBehindTheNoSetEntry) {
+    const QByteArray body = "<rsp stat=\"ok\"><photosets><photoset id=\"72157600000000001\" primary=\"9\" farm=\"2\" server=\"x\" secret=\"s\">"
+                            "<title>A &amp; <![CDATA[B]]></title><description>d</description></photoset>"
+                            "<photoset id=\"2\"><title/></photoset>";
+    const auto sets = FlickrPhotoSetResponse::responseWithData(NSData(body + "</photosets></rsp>"))->photoSets;
+    ASSERT_EQ(sets.size(), 3u);
+    EXPECT_EQ(sets[0].identifier, 0);
+    EXPECT_EQ(sets[0].title, QStringLiteral("No album"));
+    EXPECT_EQ(sets[1].identifier, Q_INT64_C(72157600000000001));
+    EXPECT_EQ(sets[1].primaryPhotoID, 9);
+    EXPECT_EQ(sets[1].farmID, 2);
+    EXPECT_EQ(sets[1].serverID, 0);
+    EXPECT_EQ(sets[1].secret, QStringLiteral("s"));
+    EXPECT_EQ(sets[1].title, QStringLiteral("A & B"));
+    EXPECT_EQ(sets[1].photoSetDescription, QStringLiteral("d"));
+    EXPECT_EQ(sets[2].title, QString());
+    EXPECT_EQ(sets[2].secret, std::nullopt);
+    EXPECT_TRUE(sets[1].description().endsWith(
+        QStringLiteral(" -- Title: A & B Description: d (id: 72157600000000001 primary photo: 9)")));
+
+    EXPECT_EQ(FlickrPhotoSetResponse::responseWithData(NSData(body))->photoSets.size(), 3u) << "what came before a break stands";
+    EXPECT_EQ(FlickrPhotoSetResponse::responseWithData(NSData("<rsp stat=\"fail\"><err code=\"98\"/></rsp>"))->photoSets.size(), 1u);
+    EXPECT_EQ(FlickrPhotoSetResponse::responseWithData(std::nullopt)->photoSets.size(), 1u);
+}

@@ -1,0 +1,134 @@
+// The log switch, the service's session and the client's.
+#include "Korvane/FlickrPost.h"
+#include "Korvane/FlickrUploadSession.h"
+#include "Korvane/KRLog.h"
+#include "Korvane/KRRemoteSession.h"
+#include "Platform/Accounts/ACAccountStore.h"
+#include "Platform/Preferences/CFPreferences.h"
+#include "Tests/Support/LogCapture.h"
+#include "Tests/Support/TemporaryHome.h"
+
+#include <QCoreApplication>
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+using namespace korvane;
+using namespace korvane::test;
+
+namespace {
+
+void setLogging(bool on) {
+    const QString domain = QCoreApplication::applicationName();
+    CFPreferencesSetAppValue(QStringLiteral("KRLoggingEnabled"), on, domain);
+    CFPreferencesAppSynchronize(domain);
+}
+
+// Answers with what the test gives it, from a thread of its own.
+class FakeService : public FlickrRemoteSessionProtocol {
+public:
+    void uploadPosts(const QVariantList &posts, const XPCTransferCompletion &reply) override {
+        received = posts;
+        std::thread([this, reply] { reply(success, error); }).detach();
+    }
+    QVariantList received;
+    std::optional<bool> success;
+    std::optional<NSError> error;
+};
+
+class TestSession : public KRRemoteSession {
+public:
+    TestSession() : KRRemoteSession(FlickrRemoteServiceName, FlickrRemoteSessionProtocol::interface()) {}
+
+protected:
+    void received(const QVariantList &, const RemoteMessage &, const XPCTransferCompletion &) override {}
+};
+
+} // namespace
+
+TEST(KRLog, IsSwitchedOnceAProcessWhileTheQuestionIsAnsweredAnew) {
+    const TemporaryHome home;
+    const LogCapture log;
+    EXPECT_FALSE(KRIsLoggingEnabled());
+    KRLog("Export progress: %f", 0.5);
+    setLogging(true);
+    EXPECT_TRUE(KRIsLoggingEnabled());
+    KRLog("Export progress: %f", 0.5);
+    EXPECT_EQ(log.lines(), QStringList());
+}
+
+TEST(KRLogDeathTest, WritesItsLinesWhenSwitchedOnBeforeTheFirst) {
+    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
+    const auto logAndEnd = [] {
+        const TemporaryHome home;
+        setLogging(true);
+        KRLog("Setting privacy to %i", 1);
+        std::abort();
+    };
+    EXPECT_DEATH(logAndEnd(), "Setting privacy to 1\n");
+}
+
+TEST(KRRemoteSession, HoldsOneAssertionForAllAndRenewsItWhenItIsOld) {
+    double now = 1000;
+    int clockReadings = 0;
+    KRRemoteSession::setClock([&] {
+        ++clockReadings;
+        return now;
+    });
+    const auto renewed = [&](double at) {
+        now = at;
+        clockReadings = 0;
+        KRRemoteSession::refreshPowerAssertion();
+        return clockReadings > 1; // a renewal reads the clock once more for the new start
+    };
+    EXPECT_FALSE(renewed(1000)) << "idle";
+    KRRemoteSession::incrementPowerAssertion();
+    KRRemoteSession::incrementPowerAssertion();
+    EXPECT_FALSE(renewed(1300));
+    EXPECT_TRUE(renewed(1300.5));
+    EXPECT_FALSE(renewed(1600.5));
+    KRRemoteSession::decrementPowerAssertion();
+    EXPECT_TRUE(renewed(1900)) << "one still holds it";
+    KRRemoteSession::decrementPowerAssertion();
+    EXPECT_FALSE(renewed(5000)) << "idle again";
+    KRRemoteSession::setClock({});
+}
+
+TEST(KRRemoteSessionDeathTest, StopsOnADecrementTooMany) {
+    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
+    EXPECT_DEATH(KRRemoteSession::decrementPowerAssertion(),
+                 "\\(_powerAssertionRetainCount > 0\\).*\\+\\[KRRemoteSession decrementPowerAssertion\\].*Korvane/KRRemoteSession.*41");
+}
+
+TEST(KRRemoteSession, KeepsItsAccountStore) {
+    TestSession session;
+    const auto store = session.accountStore();
+    EXPECT_EQ(session.accountStore(), store);
+    const auto other = std::make_shared<ACAccountStore>();
+    session.setAccountStore(other);
+    EXPECT_EQ(session.accountStore(), other);
+}
+
+TEST(FlickrUploadSession, PassesOnWhatTheServiceReplies) {
+    const auto session = FlickrUploadSession::init();
+    const auto service = std::make_shared<FakeService>();
+    session->setRemoteSession(service);
+    const auto post = FlickrPost::init();
+    post->title = QStringLiteral("a");
+    const NSError failure(QStringLiteral("D"), 1);
+    for (const auto &[success, error] : {std::pair<std::optional<bool>, std::optional<NSError>>{true, std::nullopt},
+                                         {true, failure}, {false, failure}, {std::nullopt, std::nullopt}}) {
+        service->success = success;
+        service->error = error;
+        std::optional<NSError> placed = NSError(QStringLiteral("before"), 0);
+        EXPECT_EQ(session->uploadPosts({post}, &placed), success.value_or(false));
+        EXPECT_EQ(placed, error);
+        EXPECT_EQ(session->uploadPosts({post}, nullptr), success.value_or(false));
+    }
+    EXPECT_EQ(service->received, QVariantList{post->serializedDictionary()});
+    session->uploadPosts({}, nullptr);
+    EXPECT_EQ(service->received, QVariantList());
+    EXPECT_EQ(FlickrUploadSession::sharedSession(), FlickrUploadSession::sharedSession());
+    EXPECT_NE(FlickrUploadSession::sharedSession(), session);
+}

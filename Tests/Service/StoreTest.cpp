@@ -1,0 +1,201 @@
+// What the queue keeps on disk.
+#include "Service/PostCheck.h"
+#include "Service/RecordCodec.h"
+#include "Service/Spool.h"
+#include "Service/UploadStore.h"
+#include "Tests/Support/TemporaryHome.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+using namespace korvane;
+using namespace korvane::test;
+
+namespace {
+
+NewUpload upload(const char *title, const QString &spool = {}) {
+    NewUpload upload;
+    upload.job.service = flickrServiceID;
+    upload.job.title = QString::fromUtf8(title);
+    upload.job.spoolFile = spool;
+    upload.record = title;
+    return upload;
+}
+
+struct Store : ::testing::Test {
+    TemporaryHome home;
+    UploadStore store;
+    void SetUp() override { ASSERT_TRUE(store.open(home.path(QStringLiteral("queue.sqlite")), nullptr)); }
+
+    std::vector<UploadJob> running(int count) {
+        std::vector<NewUpload> uploads(size_t(count), upload("t"));
+        EXPECT_TRUE(store.take(QStringLiteral("m%1").arg(count), uploads, nullptr));
+        auto jobs = store.queued(flickrServiceID, count);
+        for (UploadJob &job : jobs) {
+            job.state = UploadState::Running;
+            store.update(job, true);
+        }
+        return jobs;
+    }
+};
+
+} // namespace
+
+TEST(RecordCodec, KeepsEveryPropertyListValueAndDropsOthers) {
+    const TemporaryHome home;
+    const QByteArray bytes = jpegOfSize(9000);
+    const QByteArray path = home.file(QStringLiteral("data"), "head" + bytes);
+    const auto file = std::make_shared<const FileDescriptor>(::open(path.constData(), O_RDONLY | O_CLOEXEC));
+    const QVariantMap record{{QStringLiteral("text"), QStringLiteral("日本")},
+                             {QStringLiteral("empty"), QStringLiteral("")},
+                             {QStringLiteral("texts"), QStringList{QStringLiteral("a"), QString()}},
+                             {QStringLiteral("noTexts"), QStringList()},
+                             {QStringLiteral("big"), Q_INT64_C(9007199254740993)},
+                             {QStringLiteral("flag"), true},
+                             {QStringLiteral("real"), 0.1},
+                             {QStringLiteral("inline"), QByteArray("\0\xff", 2)},
+                             {QStringLiteral("range"), QVariant::fromValue(NSData::dataWithFile(file, 4, bytes.size()))}};
+    QVariantMap withOthers = record;
+    withOthers.insert(QStringLiteral("map"), QVariantMap{{QStringLiteral("a"), 1}});
+    const QByteArray encoded = RecordCodec::encode(withOthers, file);
+    EXPECT_LT(encoded.size(), 1000);
+    QVariantMap decoded = RecordCodec::decode(encoded, file);
+    EXPECT_EQ(decoded.take(QStringLiteral("range")).value<NSData>().bytes(), bytes);
+    QVariantMap expected = record;
+    expected.remove(QStringLiteral("range"));
+    EXPECT_EQ(decoded, expected);
+    EXPECT_FALSE(RecordCodec::decode(encoded, nullptr).contains(QStringLiteral("range")));
+    EXPECT_TRUE(RecordCodec::decode("damaged", file).isEmpty());
+}
+
+TEST_F(Store, TakesAMessageOnceAndWhole) {
+    ASSERT_TRUE(store.take(QStringLiteral("m"), {upload("a"), upload("b")}, nullptr));
+    EXPECT_TRUE(store.knowsMessage(QStringLiteral("m")));
+    std::optional<NSError> error;
+    EXPECT_FALSE(store.take(QStringLiteral("m"), {upload("c")}, &error));
+    EXPECT_TRUE(error);
+    EXPECT_EQ(store.idsOfMessage(QStringLiteral("m")).size(), 2);
+    EXPECT_EQ(store.jobsAfter(0, 10).size(), 2u);
+    EXPECT_EQ(store.record(store.jobsAfter(0, 10)[1].id), "b");
+}
+
+TEST_F(Store, KeepsEveryFieldOverAReopening) {
+    ASSERT_TRUE(store.take(QStringLiteral("m"), {upload("t", QStringLiteral("spooled"))}, nullptr));
+    UploadJob job = store.jobsAfter(0, 1)[0];
+    job.state = UploadState::Waiting;
+    job.waitReason = WaitReason::SignIn;
+    job.accountID = QStringLiteral("account");
+    job.source = FileIdentity{1, 18446744073709551615ULL, 3, 4};
+    job.photoID = Q_INT64_C(53000000001);
+    job.nextTryAt = 5000;
+    job.error = NSError::errorWithDescription(QStringLiteral("D"), -7, QStringLiteral("text"));
+    ASSERT_TRUE(store.update(job, true));
+    UploadStore second;
+    ASSERT_TRUE(second.open(home.path(QStringLiteral("queue.sqlite")), nullptr));
+    const UploadJob read = *second.job(job.id);
+    EXPECT_EQ(read.state, job.state);
+    EXPECT_EQ(read.waitReason, job.waitReason);
+    EXPECT_EQ(read.accountID, job.accountID);
+    EXPECT_EQ(read.source, job.source);
+    EXPECT_EQ(read.photoID, job.photoID);
+    EXPECT_EQ(read.error, job.error);
+    EXPECT_EQ(second.nextDue(), 5000);
+    EXPECT_EQ(second.spoolFiles(), QSet<QString>{QStringLiteral("spooled")});
+}
+
+TEST_F(Store, AfterAKillEverythingGoesOnAndNothingIsSuspected) {
+    running(3);
+    EXPECT_TRUE(store.recover(false, 1).empty());
+    EXPECT_EQ(store.queued(flickrServiceID, 10).size(), 3u);
+    EXPECT_FALSE(store.suspect());
+}
+
+TEST_F(Store, AfterFatalEndsTheCulpritIsSetAsideAndItsNeighboursAreNot) {
+    const auto jobs = running(3);
+    EXPECT_TRUE(store.recover(true, 1).empty());
+    ASSERT_TRUE(store.suspect());
+    UploadJob culprit = *store.suspect();
+    EXPECT_EQ(culprit.id, jobs[0].id);
+    culprit.state = UploadState::Running;
+    store.update(culprit, true);
+    const auto setAside = store.recover(true, 2);
+    ASSERT_EQ(setAside.size(), 1u);
+    EXPECT_EQ(setAside[0].id, culprit.id);
+    EXPECT_EQ(store.job(culprit.id)->state, UploadState::Failed);
+    EXPECT_EQ(store.queued(flickrServiceID, 10).size(), 2u);
+}
+
+TEST_F(Store, RefusesADatabaseThatIsNone) {
+    const QByteArray path = home.file(QStringLiteral("broken.sqlite"), QByteArray(8192, 'x'));
+    UploadStore broken;
+    std::optional<NSError> error;
+    EXPECT_FALSE(broken.open(QFile::decodeName(path), &error));
+    ASSERT_TRUE(error);
+    EXPECT_TRUE(error->localizedDescription().contains(QStringLiteral("broken.sqlite")));
+}
+
+TEST(Spool, LinksOrCopiesAndSweepsWhatNobodyKnows) {
+    const TemporaryHome home;
+    const Spool spool(home.path(QStringLiteral("spool")));
+    const QByteArray bytes = jpegOfSize(300'000);
+    const QByteArray named = home.file(QStringLiteral("named"), bytes);
+    const FileDescriptor unnamed(::open(QFile::encodeName(home.path()).constData(), O_TMPFILE | O_RDWR, 0600));
+    ASSERT_EQ(::write(unnamed.get(), bytes.constData(), bytes.size()), bytes.size());
+    const FileDescriptor unlinked(::open(named.constData(), O_RDONLY));
+    ::unlink(named.constData());
+    QSet<QString> names;
+    for (const int file : {unnamed.get(), unlinked.get()}) {
+        std::optional<NSError> error;
+        const auto name = spool.adopt(file, &error);
+        ASSERT_TRUE(name) << error->description().toStdString();
+        EXPECT_EQ(NSData::dataWithFile(spool.open(*name), 0, bytes.size()).bytes(), bytes);
+        names.insert(*name);
+    }
+    EXPECT_EQ(names.size(), 2);
+    spool.sweep({*names.begin()});
+    EXPECT_EQ(QDir(home.path(QStringLiteral("spool"))).entryList(QDir::Files), QStringList{*names.begin()});
+
+    std::optional<NSError> error;
+    const FileDescriptor folder(::open(QFile::encodeName(home.path()).constData(), O_RDONLY));
+    EXPECT_FALSE(spool.adopt(folder.get(), &error));
+    EXPECT_TRUE(error);
+    EXPECT_EQ(QDir(home.path(QStringLiteral("spool"))).entryList(QDir::Files).size(), 1) << "nothing is left behind";
+}
+
+TEST(PostCheck, ObjectsToWhatTheUploadCodeWouldDieOf) {
+    const TemporaryHome home;
+    const QByteArray photo = home.file(QStringLiteral("photo.jpg"), jpegOfSize(100));
+    const QByteArray empty = home.file(QStringLiteral("empty.jpg"), "");
+    const auto withFile = [](const QByteArray &path) {
+        const auto post = FlickrPost::init();
+        post->assetURL = NSURL::fileURLWithPath(path);
+        return post;
+    };
+    UploadJob job;
+    EXPECT_FALSE(PostCheck::objection(*withFile(photo), job));
+    job.source = FileIdentity::ofPath(photo);
+    EXPECT_FALSE(PostCheck::objection(*withFile(photo), job));
+    const QByteArray other = home.file(QStringLiteral("other.jpg"), jpegOfSize(100, 2));
+    const auto objection = [&](const std::shared_ptr<FlickrPost> &post) {
+        const auto error = PostCheck::objection(*post, job);
+        return error ? error->localizedDescription() : QString();
+    };
+    EXPECT_TRUE(objection(withFile(other)).contains(QStringLiteral("has changed")));
+    EXPECT_TRUE(objection(withFile(empty)).contains(QStringLiteral("is empty")));
+    EXPECT_TRUE(objection(withFile(QFile::encodeName(home.path()))).contains(QStringLiteral("cannot be read")));
+    EXPECT_TRUE(objection(withFile("/nowhere/a.jpg")).contains(QStringLiteral("/nowhere/a.jpg")));
+
+    const auto post = FlickrPost::init();
+    EXPECT_TRUE(objection(post).contains(QStringLiteral("no photo")));
+    post->assetURL = NSURL::URLWithString(QStringLiteral("http://elsewhere/a.jpg"));
+    EXPECT_TRUE(objection(post).contains(QStringLiteral("no photo")));
+    post->photoData = NSData();
+    EXPECT_TRUE(objection(post).contains(QStringLiteral("empty")));
+    const auto file = std::make_shared<const FileDescriptor>(::open(photo.constData(), O_RDONLY));
+    post->photoData = NSData::dataWithFile(file, 50, 100);
+    EXPECT_TRUE(objection(post).contains(QStringLiteral("damaged")));
+}

@@ -1,0 +1,83 @@
+// A server on loopback whose every connection is served by a script.
+#include "Tests/Support/ScriptedServer.h"
+
+#include <netinet/in.h>
+#include <sys/socket.h>
+
+namespace korvane::test {
+
+QByteArray ScriptedConnection::readHead() {
+    while (!_pending.contains("\r\n\r\n")) {
+        char buffer[4096];
+        const ssize_t count = ::recv(_socket.get(), buffer, sizeof buffer, 0);
+        if (count <= 0) return std::exchange(_pending, {});
+        _pending.append(buffer, count);
+    }
+    const qsizetype end = _pending.indexOf("\r\n\r\n") + 4;
+    const QByteArray head = _pending.left(end);
+    _pending.remove(0, end);
+    return head;
+}
+
+QByteArray ScriptedConnection::readBody(qint64 length) {
+    while (_pending.size() < length) {
+        char buffer[65536];
+        const ssize_t count = ::recv(_socket.get(), buffer, sizeof buffer, 0);
+        if (count <= 0) break;
+        _pending.append(buffer, count);
+    }
+    const QByteArray body = _pending.left(length);
+    _pending.remove(0, body.size());
+    return body;
+}
+
+QByteArray ScriptedConnection::readBodyOf(const QByteArray &head) {
+    const qsizetype at = head.toLower().indexOf("content-length:");
+    return at < 0 ? QByteArray() : readBody(head.mid(at + 15, head.indexOf('\r', at) - at - 15).trimmed().toLongLong());
+}
+
+void ScriptedConnection::write(const QByteArray &bytes) {
+    ::send(_socket.get(), bytes.constData(), bytes.size(), MSG_NOSIGNAL);
+}
+
+void ScriptedConnection::reset() {
+    const linger hard{1, 0};
+    ::setsockopt(_socket.get(), SOL_SOCKET, SO_LINGER, &hard, sizeof hard);
+    _socket.reset();
+}
+
+void ScriptedConnection::waitForEnd() {
+    char byte;
+    while (::recv(_socket.get(), &byte, 1, 0) > 0) {
+    }
+}
+
+ScriptedServer::ScriptedServer(Script script) : _listener(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    ::bind(_listener.get(), reinterpret_cast<sockaddr *>(&address), sizeof address);
+    ::listen(_listener.get(), 16);
+    socklen_t length = sizeof address;
+    ::getsockname(_listener.get(), reinterpret_cast<sockaddr *>(&address), &length);
+    _port = ntohs(address.sin_port);
+    _thread = std::thread([this, script = std::move(script)] {
+        for (;;) {
+            FileDescriptor socket(::accept4(_listener.get(), nullptr, nullptr, SOCK_CLOEXEC));
+            if (!socket) return;
+            ScriptedConnection connection(std::move(socket));
+            script(connection, _connections++);
+        }
+    });
+}
+
+ScriptedServer::~ScriptedServer() {
+    ::shutdown(_listener.get(), SHUT_RDWR);
+    _thread.join();
+}
+
+QString ScriptedServer::url(const QString &path) const {
+    return QStringLiteral("http://127.0.0.1:%1%2").arg(_port).arg(path);
+}
+
+} // namespace korvane::test

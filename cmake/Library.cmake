@@ -1,0 +1,17 @@
+# libkorvane: platform, library and string tables in one shared library that other programs can embed.
+add_library(korvane SHARED)
+add_library(Korvane::korvane ALIAS korvane)
+target_link_libraries(korvane PRIVATE korvane-settings korvane-platform korvane-core korvane-resources)
+target_link_libraries(korvane PUBLIC Qt6::Core Qt6::DBus)
+target_link_libraries(korvane PRIVATE Qt6::Network CURL::libcurl fmt::fmt nlohmann_json::nlohmann_json PkgConfig::LIBSECRET Threads::Threads)
+set_target_properties(korvane PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 0)
+target_include_directories(korvane INTERFACE
+  $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/korvane>)
+
+include(CMakePackageConfigHelpers)
+write_basic_package_version_file("${CMAKE_BINARY_DIR}/KorvaneConfigVersion.cmake" COMPATIBILITY SameMinorVersion)
+install(TARGETS korvane EXPORT KorvaneTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(EXPORT KorvaneTargets NAMESPACE Korvane:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Korvane)
+install(FILES cmake/KorvaneConfig.cmake "${CMAKE_BINARY_DIR}/KorvaneConfigVersion.cmake"
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Korvane)
+install(DIRECTORY Korvane Platform DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/korvane FILES_MATCHING PATTERN "*.h")
