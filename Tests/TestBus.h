@@ -19,9 +19,9 @@
 
 namespace korvane {
 
-class PrivateBus {
+class TestBus {
 public:
-    ~PrivateBus() {
+    ~TestBus() {
         if (!_name.isEmpty()) QDBusConnection::disconnectFromBus(_name);
         _daemon.terminate();
         _daemon.waitForFinished();

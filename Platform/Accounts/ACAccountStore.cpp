@@ -1,0 +1,191 @@
+// The user's accounts.
+#include "Platform/Accounts/ACAccountStore.h"
+
+#include "Platform/Accounts/ACError.h"
+#include "Platform/Accounts/CredentialStore.h"
+#include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/NSLog.h"
+#include "Platform/Preferences/LockedJSONFile.h"
+#include "Platform/Preferences/LogOnce.h"
+
+#include <QUuid>
+
+#include <algorithm>
+
+namespace korvane {
+
+const QString ACErrorDomain = QStringLiteral("com.zorvex.korvane.accounts");
+
+namespace {
+
+const QString accountsKey = QStringLiteral("accounts");
+
+// One account as the list holds it.
+struct Entry {
+    QString identifier;
+    QString type;
+    QString username;
+    SecretPlace place = SecretPlace::File;
+
+    QVariantMap map() const {
+        return {{QStringLiteral("identifier"), identifier},
+                {QStringLiteral("type"), type},
+                {QStringLiteral("username"), username},
+                {QStringLiteral("secret"),
+                 place == SecretPlace::Keyring ? QStringLiteral("keyring") : QStringLiteral("file")}};
+    }
+    std::shared_ptr<ACAccount> account() const {
+        return std::make_shared<ACAccount>(identifier, ACAccountType(type), username, place);
+    }
+};
+
+// Null for an entry that is not ours: it is skipped, and kept when the list is written.
+std::optional<Entry> entryOf(const QVariant &value) {
+    const QVariantMap map = value.toMap();
+    const auto text = [&map](const char *key) {
+        const QVariant found = map.value(QLatin1String(key));
+        return found.typeId() == QMetaType::QString ? found.toString() : QString();
+    };
+    const QString secret = text("secret");
+    if (text("identifier").isEmpty() || text("type").isEmpty() || text("username").isEmpty() ||
+        (secret != QLatin1String("keyring") && secret != QLatin1String("file"))) {
+        logOnce(QStringLiteral("An entry in the list of accounts is not understood and is skipped."));
+        return std::nullopt;
+    }
+    return Entry{text("identifier"), text("type"), text("username"),
+                 secret == QLatin1String("keyring") ? SecretPlace::Keyring : SecretPlace::File};
+}
+
+LockedJSONFile accountsFile() {
+    return LockedJSONFile(configFolder() + QStringLiteral("/accounts.json"));
+}
+
+std::vector<Entry> entriesOf(const QVariantMap &values) {
+    std::vector<Entry> entries;
+    const QVariantList list = values.value(accountsKey).toList();
+    for (const QVariant &value : list)
+        if (auto entry = entryOf(value)) entries.push_back(*std::move(entry));
+    return entries;
+}
+
+std::vector<Entry> readEntries() {
+    std::optional<NSError> error;
+    const auto values = accountsFile().read(&error);
+    if (!values) NSLog("The list of accounts could not be read: %@", error->localizedDescription());
+    return values ? entriesOf(*values) : std::vector<Entry>();
+}
+
+// Where the entry of that identifier stands in the list, or its end.
+qsizetype positionOf(const QVariantList &list, const QString &identifier) {
+    const auto found = std::find_if(list.begin(), list.end(), [&](const QVariant &value) {
+        return value.toMap().value(QStringLiteral("identifier")) == identifier;
+    });
+    return found - list.begin();
+}
+
+bool fail(std::optional<NSError> *error, ACErrorCode code, const QString &text) {
+    setError(error, NSError::errorWithDescription(ACErrorDomain, code, text));
+    return false;
+}
+
+bool isUsable(const QString &text) {
+    return !text.isEmpty() &&
+           std::none_of(text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; });
+}
+
+bool check(const ACAccountType &type, const QString &username, const ACAccountCredential &credential,
+           std::optional<NSError> *error) {
+    if (!type.isKnown())
+        return fail(error, ACErrorAccountTypeInvalid,
+                    QStringLiteral("Accounts of type \"%1\" cannot be stored.").arg(type.identifier()));
+    if (!isUsable(username))
+        return fail(error, ACErrorCredentialInvalid,
+                    QStringLiteral("The user name is empty or holds control characters."));
+    for (const QString *text :
+         {&credential.consumerKey, &credential.consumerSecret, &credential.token, &credential.tokenSecret})
+        if (!isUsable(*text))
+            return fail(error, ACErrorCredentialInvalid,
+                        QStringLiteral("A part of the credential is empty or holds control characters."));
+    return true;
+}
+
+// Never drops a list of accounts that it does not understand.
+bool checkList(const QVariantMap &values, std::optional<NSError> *error) {
+    const QVariant list = values.value(accountsKey);
+    if (!list.isValid() || list.typeId() == QMetaType::QVariantList) return true;
+    return fail(error, ACErrorAccountListDamaged,
+                QStringLiteral("\"accounts\" in %1 is not a list.").arg(accountsFile().path()));
+}
+
+} // namespace
+
+ACAccountType ACAccountStore::accountTypeWithAccountTypeIdentifier(const QString &identifier) const {
+    return ACAccountType(identifier);
+}
+
+std::vector<std::shared_ptr<ACAccount>> ACAccountStore::accountsWithAccountType(const ACAccountType &type) const {
+    std::vector<std::shared_ptr<ACAccount>> accounts;
+    for (const Entry &entry : readEntries())
+        if (entry.type == type.identifier()) accounts.push_back(entry.account());
+    return accounts;
+}
+
+std::shared_ptr<ACAccount> ACAccountStore::accountWithIdentifier(const QString &identifier) const {
+    for (const Entry &entry : readEntries())
+        if (entry.identifier == identifier) return entry.account();
+    return nullptr;
+}
+
+std::shared_ptr<ACAccount> ACAccountStore::saveAccount(const ACAccountType &type, const QString &username,
+                                                       const ACAccountCredential &credential,
+                                                       std::optional<NSError> *error) {
+    if (!check(type, username, credential, error)) return nullptr;
+    Entry entry{QUuid::createUuid().toString(QUuid::WithoutBraces), type.identifier(), username, SecretPlace::File};
+    std::optional<Entry> replaced;
+    bool stored = false;
+    // The secret is stored under the list's lock, so that two programs adding one account agree on its identifier.
+    const auto put = [&](QVariantMap &values) {
+        if (!checkList(values, error)) return false;
+        for (const Entry &known : entriesOf(values))
+            if (!replaced && known.type == entry.type && known.username == username) replaced = known;
+        if (replaced) entry.identifier = replaced->identifier;
+        const auto place = CredentialStore::store(
+            entry.identifier, QStringLiteral("Korvane: %1 (%2)").arg(username, entry.type), credential, error);
+        if (!place) return false;
+        stored = true;
+        entry.place = *place;
+        QVariantList list = values.value(accountsKey).toList();
+        if (replaced)
+            list[positionOf(list, entry.identifier)] = entry.map();
+        else
+            list.append(entry.map());
+        values.insert(accountsKey, list);
+        return true;
+    };
+    if (!accountsFile().update(put, error)) {
+        if (stored && (!replaced || replaced->place != entry.place))
+            CredentialStore::remove(entry.identifier, entry.place);
+        return nullptr;
+    }
+    if (replaced && replaced->place != entry.place) CredentialStore::remove(entry.identifier, replaced->place);
+    return entry.account();
+}
+
+bool ACAccountStore::removeAccount(const QString &identifier, std::optional<NSError> *error) {
+    std::optional<Entry> removed;
+    const auto take = [&](QVariantMap &values) {
+        for (const Entry &known : entriesOf(values))
+            if (!removed && known.identifier == identifier) removed = known;
+        if (!removed)
+            return fail(error, ACErrorAccountMissing, QStringLiteral("There is no account \"%1\".").arg(identifier));
+        QVariantList list = values.value(accountsKey).toList();
+        list.removeAt(positionOf(list, identifier));
+        values.insert(accountsKey, list);
+        return true;
+    };
+    if (!accountsFile().update(take, error)) return false;
+    CredentialStore::remove(identifier, removed->place);
+    return true;
+}
+
+} // namespace korvane

@@ -1,0 +1,35 @@
+// The user's accounts, stored for all programs of Korvane.
+#pragma once
+
+#include "Platform/Accounts/ACAccount.h"
+#include "Platform/Foundation/NSError.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace korvane {
+
+// The list stands in the configuration folder's accounts.json, without secrets. Every call looks at the file; every
+// look-up makes fresh account objects. Errors are of ACErrorDomain or those of the file. Thread: any.
+class ACAccountStore {
+public:
+    ACAccountType accountTypeWithAccountTypeIdentifier(const QString &identifier) const;
+
+    // In the order in which they were added. Empty, with a log line, if the list cannot be read.
+    std::vector<std::shared_ptr<ACAccount>> accountsWithAccountType(const ACAccountType &type) const;
+    std::shared_ptr<ACAccount> accountWithIdentifier(const QString &identifier) const; // null if there is none
+
+    // Stores an account and its credential; may take up to five seconds. An account of the same type and user name
+    // keeps its identifier and gets the new credential. Null with the error placed on failure; nothing is half stored
+    // then.
+    std::shared_ptr<ACAccount> saveAccount(const ACAccountType &type, const QString &username,
+                                           const ACAccountCredential &credential,
+                                           std::optional<NSError> *error = nullptr);
+
+    // Removes the account and its credential. False with the error placed if there is none or the list cannot be
+    // written.
+    bool removeAccount(const QString &identifier, std::optional<NSError> *error = nullptr);
+};
+
+} // namespace korvane

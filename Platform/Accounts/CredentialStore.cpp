@@ -1,0 +1,137 @@
+// Where the secrets of accounts are kept.
+#include "Platform/Accounts/CredentialStore.h"
+
+#include "Platform/Accounts/ACError.h"
+#include "Platform/Accounts/SecretKeyring.h"
+#include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/NSLog.h"
+#include "Platform/Preferences/JSONText.h"
+#include "Platform/Preferences/LockedJSONFile.h"
+#include "Platform/Preferences/LogOnce.h"
+
+namespace korvane {
+
+using SecretKeyring::Outcome;
+
+namespace {
+
+LockedJSONFile credentialsFile() {
+    return LockedJSONFile(configFolder() + QStringLiteral("/credentials.json"));
+}
+
+bool keyringForbidden() {
+    return qgetenv("KORVANE_SECRETS") == "file";
+}
+
+void sayThatTheFileIsUsed(const QString &reason) {
+    logOnce(QStringLiteral("Credentials are kept in %1, readable by this user alone (%2).")
+                .arg(credentialsFile().path(), reason));
+}
+
+QVariantMap mapOf(const ACAccountCredential &credential) {
+    return {{QStringLiteral("consumerKey"), credential.consumerKey},
+            {QStringLiteral("consumerSecret"), credential.consumerSecret},
+            {QStringLiteral("token"), credential.token},
+            {QStringLiteral("tokenSecret"), credential.tokenSecret}};
+}
+
+std::optional<ACAccountCredential> credentialOf(const QVariantMap &map, std::optional<NSError> *error) {
+    for (const auto &key : {QStringLiteral("consumerKey"), QStringLiteral("consumerSecret"), QStringLiteral("token"),
+                            QStringLiteral("tokenSecret")}) {
+        if (map.value(key).typeId() == QMetaType::QString && !map.value(key).toString().isEmpty()) continue;
+        setError(error,
+                 NSError::errorWithDescription(
+                     ACErrorDomain, ACErrorCredentialInvalid,
+                     QStringLiteral("The stored credential has no usable \"%1\". Add the account again.").arg(key)));
+        return std::nullopt;
+    }
+    const auto text = [&map](const char *key) { return map.value(QLatin1String(key)).toString(); };
+    return ACAccountCredential{text("consumerKey"), text("consumerSecret"), text("token"), text("tokenSecret")};
+}
+
+std::nullopt_t missing(std::optional<NSError> *error, const QString &text) {
+    setError(error, NSError::errorWithDescription(ACErrorDomain, ACErrorCredentialInvalid, text));
+    return std::nullopt;
+}
+
+std::optional<ACAccountCredential> loadFromKeyring(const QString &identifier, std::optional<NSError> *error) {
+    if (keyringForbidden())
+        return missing(error, QStringLiteral("It is in the keyring, which KORVANE_SECRETS=file forbids to use. Add the "
+                                             "account again to keep it in a file."));
+    const SecretKeyring::Answer answer = SecretKeyring::load(identifier);
+    switch (answer.outcome) {
+    case Outcome::Done:
+        return credentialOf(JSONText::parse(answer.text.toUtf8()).value_or(QVariant()).toMap(), error);
+    case Outcome::Locked:
+        return missing(error, QStringLiteral("The keyring is locked. Unlock it and try again."));
+    case Outcome::Missing:
+        return missing(error, QStringLiteral("The keyring does not hold it any more. Add the account again."));
+    default:
+        return missing(error, QStringLiteral("The keyring cannot be used: %1.").arg(answer.text));
+    }
+}
+
+std::optional<ACAccountCredential> loadFromFile(const QString &identifier, std::optional<NSError> *error) {
+    const auto values = credentialsFile().read(error);
+    if (!values) return std::nullopt;
+    sayThatTheFileIsUsed(QStringLiteral("they were not stored in a keyring"));
+    if (!values->contains(identifier))
+        return missing(error,
+                       QStringLiteral("%1 does not hold it. Add the account again.").arg(credentialsFile().path()));
+    return credentialOf(values->value(identifier).toMap(), error);
+}
+
+std::optional<SecretPlace> storeInFile(const QString &identifier, const ACAccountCredential &credential,
+                                       const QString &reason, std::optional<NSError> *error) {
+    sayThatTheFileIsUsed(reason);
+    const auto insert = [&](QVariantMap &values) {
+        values.insert(identifier, mapOf(credential));
+        return true;
+    };
+    if (!credentialsFile().update(insert, error)) return std::nullopt;
+    return SecretPlace::File;
+}
+
+} // namespace
+
+std::optional<ACAccountCredential> CredentialStore::load(const QString &identifier, SecretPlace place,
+                                                         std::optional<NSError> *error) {
+    return place == SecretPlace::Keyring ? loadFromKeyring(identifier, error) : loadFromFile(identifier, error);
+}
+
+std::optional<SecretPlace> CredentialStore::store(const QString &identifier, const QString &label,
+                                                  const ACAccountCredential &credential,
+                                                  std::optional<NSError> *error) {
+    if (keyringForbidden()) return storeInFile(identifier, credential, QStringLiteral("KORVANE_SECRETS=file"), error);
+    const QString secret = QString::fromUtf8(JSONText::write(mapOf(credential)).value_or(QByteArray()));
+    const SecretKeyring::Answer answer = SecretKeyring::store(identifier, label, secret);
+    if (answer.outcome == Outcome::Done) return SecretPlace::Keyring;
+    if (answer.outcome == Outcome::Unavailable) return storeInFile(identifier, credential, answer.text, error);
+    // A keyring that is there but locked is no reason to write secrets to a file unasked.
+    setError(error, NSError::errorWithDescription(
+                        ACErrorDomain, ACErrorCredentialNotStored,
+                        QStringLiteral("The credential was not stored: %1. Unlock the keyring and try again, or set "
+                                       "KORVANE_SECRETS=file to keep credentials in a file.")
+                            .arg(answer.text)));
+    return std::nullopt;
+}
+
+void CredentialStore::remove(const QString &identifier, SecretPlace place) {
+    if (place == SecretPlace::File) {
+        std::optional<NSError> error;
+        const auto erase = [&identifier](QVariantMap &values) {
+            values.remove(identifier);
+            return true;
+        };
+        if (!credentialsFile().update(erase, &error))
+            NSLog("The credential of account %@ was not removed: %@", identifier, error->localizedDescription());
+        return;
+    }
+    const SecretKeyring::Answer answer =
+        keyringForbidden() ? SecretKeyring::Answer{Outcome::Failed, QStringLiteral("KORVANE_SECRETS=file")}
+                           : SecretKeyring::remove(identifier);
+    if (answer.outcome != Outcome::Done && answer.outcome != Outcome::Missing)
+        NSLog("The credential of account %@ stays in the keyring: %@", identifier, answer.text);
+}
+
+} // namespace korvane

@@ -1,0 +1,29 @@
+// Where the secrets of accounts are kept: the keyring, or a private file where there is none.
+#pragma once
+
+#include "Platform/Accounts/ACAccountCredential.h"
+#include "Platform/Foundation/NSError.h"
+
+#include <optional>
+
+namespace korvane {
+
+enum class SecretPlace { Keyring, File };
+
+// The file is the configuration folder's credentials.json, mode 0600; its first use is logged. KORVANE_SECRETS=file in
+// the environment keeps the keyring out of everything. Calls may take up to five seconds. Thread: any.
+namespace CredentialStore {
+
+// Null, with the error placed, if there is no usable secret of that account in that place, or it cannot be had now.
+std::optional<ACAccountCredential> load(const QString &identifier, SecretPlace place, std::optional<NSError> *error);
+
+// Stores or replaces. The place it went to; null, with the error placed, if none took it.
+std::optional<SecretPlace> store(const QString &identifier, const QString &label, const ACAccountCredential &credential,
+                                 std::optional<NSError> *error);
+
+// Removes what is there. A secret that could not be removed is logged.
+void remove(const QString &identifier, SecretPlace place);
+
+} // namespace CredentialStore
+
+} // namespace korvane

@@ -1,0 +1,119 @@
+// A JSON object in a file that several processes read and change.
+#include "Platform/Preferences/LockedJSONFile.h"
+
+#include "Platform/Foundation/FileDescriptor.h"
+#include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/NSData.h"
+#include "Platform/Preferences/JSONText.h"
+#include "Platform/Preferences/LogOnce.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <sys/file.h>
+
+#include <cerrno>
+#include <cstdio>
+
+namespace korvane {
+namespace {
+
+// Null, with the error placed, if the lock file cannot be made. The lock goes when the descriptor is closed.
+std::optional<FileDescriptor> lockBeside(const QString &path, std::optional<NSError> *error) {
+    const QFileInfo file(path);
+    const QString folder = file.path();
+    const QString lockPath = folder + u'/' + file.completeBaseName() + QStringLiteral(".lock");
+    makePrivateFolder(folder); // where it cannot be made, opening the lock says why
+    FileDescriptor lock(
+        ::open(QFile::encodeName(lockPath).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
+    int result = -1;
+    while (lock && (result = ::flock(lock.get(), LOCK_EX)) != 0 && errno == EINTR)
+        continue;
+    if (result != 0) {
+        setError(error, NSError::errorWithErrno(errno, lockPath));
+        return std::nullopt;
+    }
+    return lock;
+}
+
+} // namespace
+
+LockedJSONFile::Contents LockedJSONFile::_load(QVariantMap &values, QString &problem,
+                                               std::optional<NSError> *error) const {
+    std::optional<NSError> readError;
+    const auto data = NSData::dataWithContentsOfFile(QFile::encodeName(_path), &readError);
+    if (!data && readError->code() == ENOENT) return Contents::Read;
+    if (!data) {
+        setError(error, readError);
+        return Contents::Unreadable;
+    }
+    const auto value = JSONText::parse(data->bytes(), &problem);
+    if (value && value->typeId() == QMetaType::QVariantMap) {
+        values = value->toMap();
+        return Contents::Read;
+    }
+    if (value) problem = QStringLiteral("it does not hold a JSON object");
+    return Contents::Damaged;
+}
+
+// An earlier damaged file is never overwritten: it may hold what somebody still wants to rescue.
+void LockedJSONFile::_setAside(const QString &problem) const {
+    QString aside = _path + QStringLiteral(".damaged");
+    for (int number = 2;; ++number) {
+        if (::renameat2(AT_FDCWD, QFile::encodeName(_path).constData(), AT_FDCWD, QFile::encodeName(aside).constData(),
+                        RENAME_NOREPLACE) == 0)
+            return logOnce(QStringLiteral("%1 is damaged (%2); it was set aside as %3 and counts as empty.")
+                               .arg(_path, problem, aside));
+        if (errno != EEXIST || number > 99) break;
+        aside = QStringLiteral("%1.damaged.%2").arg(_path).arg(number);
+    }
+    logOnce(QStringLiteral("%1 is damaged (%2) and counts as empty; it could not be set aside (%3).")
+                .arg(_path, problem, qt_error_string()));
+}
+
+std::optional<QVariantMap> LockedJSONFile::read(std::optional<NSError> *error) const {
+    QVariantMap values;
+    QString problem;
+    Contents contents = _load(values, problem, error);
+    if (contents == Contents::Damaged) {
+        // Another process may be setting it aside, or have replaced it by now.
+        const auto lock = lockBeside(_path, nullptr);
+        contents = _load(values, problem, error);
+        if (contents == Contents::Damaged) _setAside(problem);
+    }
+    if (contents == Contents::Unreadable) return std::nullopt;
+    return values;
+}
+
+bool LockedJSONFile::update(const std::function<bool(QVariantMap &values)> &change,
+                            std::optional<NSError> *error) const {
+    const auto lock = lockBeside(_path, error);
+    if (!lock) return false;
+    QVariantMap values;
+    QString problem;
+    const Contents contents = _load(values, problem, error);
+    if (contents == Contents::Unreadable) return false;
+    if (contents == Contents::Damaged) _setAside(problem);
+    const auto before = JSONText::write(values);
+    if (!change(values)) return false;
+    const auto after = JSONText::write(values);
+    // Texts are compared since values of different types, as 1 and true, compare as equal.
+    return before == after || _write(after, error);
+}
+
+bool LockedJSONFile::_write(const std::optional<QByteArray> &text, std::optional<NSError> *error) const {
+    const auto fail = [&](const QString &what) {
+        setError(error, NSError::errorWithDescription(NSCocoaErrorDomain, 512,
+                                                      QStringLiteral("%1 could not be written: %2").arg(_path, what)));
+        return false;
+    };
+    if (!text) return fail(QStringLiteral("a value has a type that JSON has not"));
+    QSaveFile file(_path);
+    if (!file.open(QIODevice::WriteOnly)) return fail(file.errorString());
+    file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    file.write(*text);
+    return file.commit() || fail(file.errorString());
+}
+
+} // namespace korvane

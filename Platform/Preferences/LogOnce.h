@@ -1,0 +1,11 @@
+// Log lines that a process says only once.
+#pragma once
+
+#include <QString>
+
+namespace korvane {
+
+// Writes the message to the platform log unless this process wrote the same one before. Thread: any.
+void logOnce(const QString &message);
+
+} // namespace korvane

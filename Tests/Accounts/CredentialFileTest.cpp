@@ -1,0 +1,65 @@
+// Credential files, good and bad.
+#include "Platform/Accounts/ACCredentialFile.h"
+#include "Platform/Accounts/ACError.h"
+
+#include <gtest/gtest.h>
+
+namespace korvane {
+namespace {
+
+// The good file with one piece of its text replaced.
+QByteArray fileWith(const QByteArray &old, const QByteArray &replacement) {
+    return QByteArray(R"({"username": "ada", "consumerKey": "hush1", "consumerSecret": "hush2", "token": "hush3",
+                         "tokenSecret": "hush4", "comment": [1]})")
+        .replace(old, replacement);
+}
+
+TEST(CredentialFile, GivesEveryPart) {
+    const auto file = ACCredentialFile::credentialFileWithData(NSData(fileWith("ada", "Ad\\u00e9 \xf0\x9f\x93\xb7")));
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->username, QStringLiteral("Adé \U0001F4F7"));
+    const ACAccountCredential expected{QStringLiteral("hush1"), QStringLiteral("hush2"), QStringLiteral("hush3"),
+                                       QStringLiteral("hush4")};
+    EXPECT_EQ(file->credential, expected);
+    EXPECT_TRUE(ACCredentialFile::credentialFileWithData(NSData("\xef\xbb\xbf" + fileWith("", ""))));
+}
+
+TEST(CredentialFile, NamesWhatIsWrongAndQuotesNothing) {
+    const struct {
+        QByteArray text;
+        const char *named;
+    } cases[] = {
+        {"", "empty"},
+        {" \n", "empty"},
+        {"hush", "not JSON"},
+        {fileWith("\"hush3\"", "hush3"), "not JSON at byte"},
+        {fileWith("}", ""), "not JSON"},
+        {fileWith("hush2", "hush2\xff"), "not JSON"},
+        {"[\"hush\"]", "object"},
+        {"\"hush\"", "object"},
+        {QByteArray(60000, '['), "not JSON"},
+        {QByteArray(20000, '[') + QByteArray(20000, ']'), "deep"},
+        {fileWith("[1]", "1e999"), "out of range"},
+        {fileWith("\"username\"", "\"userName\""), "\"username\" is missing"},
+        {fileWith("\"tokenSecret\"", "\"hush\""), "\"tokenSecret\" is missing"},
+        {fileWith("\"hush1\"", "17"), "\"consumerKey\" is not a text"},
+        {fileWith("\"hush1\"", "null"), "\"consumerKey\" is not a text"},
+        {fileWith("hush3", ""), "\"token\" is empty"},
+        {fileWith("hush3", "  "), "\"token\" is empty"},
+        {fileWith("hush2", "hush2\\n"), "\"consumerSecret\" holds control characters"},
+        {fileWith("hush2", "hush\\u0000"), "\"consumerSecret\" holds control characters"},
+        {fileWith("[1]", '"' + QByteArray(64 * 1024, 'x') + '"'), "larger than 64 KB"},
+    };
+    for (const auto &[text, named] : cases) {
+        std::optional<NSError> error;
+        EXPECT_FALSE(ACCredentialFile::credentialFileWithData(NSData(text), &error)) << text.left(80).constData();
+        ASSERT_TRUE(error) << text.left(80).constData();
+        EXPECT_EQ(error->domain(), ACErrorDomain);
+        EXPECT_TRUE(error->localizedDescription().contains(QLatin1String(named)))
+            << named << " / " << error->localizedDescription().toStdString();
+        EXPECT_FALSE(error->description().contains(QStringLiteral("hush")));
+    }
+}
+
+} // namespace
+} // namespace korvane
