@@ -27,10 +27,12 @@ QString baseFolder(const char *variable, const QString &fallbackBelowHome) {
 } // namespace
 
 bool makePrivateFolder(const QString &path) {
-    if (::mkdir(QFile::encodeName(path).constData(), 0700) == 0) return true;
-    if (errno == EEXIST) return QFileInfo(path).isDir();
-    if (errno != ENOENT || path.isEmpty()) return false;
-    return makePrivateFolder(QFileInfo(path).path()) && ::mkdir(QFile::encodeName(path).constData(), 0700) == 0;
+    const QByteArray name = QFile::encodeName(path);
+    if (::mkdir(name.constData(), 0700) == 0) return true;
+    if (errno == ENOENT && !path.isEmpty() && makePrivateFolder(QFileInfo(path).path()) &&
+        ::mkdir(name.constData(), 0700) == 0)
+        return true;
+    return errno == EEXIST && QFileInfo(path).isDir();
 }
 
 QString configFolder() {

@@ -116,16 +116,20 @@ TEST(URLConnection, GivesEachTransportFailureItsCode) {
 
 TEST(URLConnection, DoesNotRepeatARequestThatTheServiceMayHaveActedOn) {
     // The kept connection takes the second request whole and dies without an answer.
-    const ScriptedServer server([](ScriptedConnection &connection, int) {
-        connection.readBodyOf(connection.readHead());
-        connection.write(okAnswer);
-        connection.readBodyOf(connection.readHead());
+    std::atomic<int> requests = 0;
+    const ScriptedServer server([&](ScriptedConnection &connection, int) {
+        for (int i = 0; i < 2; ++i) {
+            const QByteArray head = connection.readHead();
+            if (head.isEmpty()) return;
+            connection.readBodyOf(head);
+            if (++requests == 1) connection.write(okAnswer);
+        }
     });
     EXPECT_FALSE(send(post(server.url(), {NSData("first")})).error);
     const Answer second = send(post(server.url(), {NSData("second")}));
     ASSERT_TRUE(second.error);
     EXPECT_EQ(second.error->code(), NSURLErrorNetworkConnectionLost);
-    EXPECT_EQ(server.connections(), 1);
+    EXPECT_EQ(requests, 2);
 }
 
 TEST(URLConnection, AFileThatChangesWhileItIsSentNeverArrivesWhole) {

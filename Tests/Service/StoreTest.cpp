@@ -48,7 +48,7 @@ struct Store : ::testing::Test {
 TEST(RecordCodec, KeepsEveryPropertyListValueAndDropsOthers) {
     const TemporaryHome home;
     const QByteArray bytes = jpegOfSize(9000);
-    const QByteArray path = home.file(QStringLiteral("data"), "head" + bytes);
+    const QByteArray path = home.file(QStringLiteral("bytes"), "head" + bytes);
     const auto file = std::make_shared<const FileDescriptor>(::open(path.constData(), O_RDONLY | O_CLOEXEC));
     const QVariantMap record{{QStringLiteral("text"), QStringLiteral("日本")},
                              {QStringLiteral("empty"), QStringLiteral("")},

@@ -66,13 +66,16 @@ ScriptedServer::ScriptedServer(Script script) : _listener(::socket(AF_INET, SOCK
             FileDescriptor socket(::accept4(_listener.get(), nullptr, nullptr, SOCK_CLOEXEC));
             if (!socket) return;
             ScriptedConnection connection(std::move(socket));
+            _current = connection.descriptor();
             script(connection, _connections++);
+            _current = -1;
         }
     });
 }
 
 ScriptedServer::~ScriptedServer() {
     ::shutdown(_listener.get(), SHUT_RDWR);
+    ::shutdown(_current, SHUT_RDWR);
     _thread.join();
 }
 

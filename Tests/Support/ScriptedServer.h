@@ -27,6 +27,8 @@ public:
     // Waits until the client has gone.
     void waitForEnd();
 
+    int descriptor() const { return _socket.get(); }
+
 private:
     FileDescriptor _socket;
     QByteArray _pending;
@@ -45,6 +47,7 @@ private:
     FileDescriptor _listener;
     int _port = 0;
     std::atomic<int> _connections = 0;
+    std::atomic<int> _current = -1; // the connection being served
     std::thread _thread;
 };
 
