@@ -7,8 +7,7 @@
 #include "Platform/MobileCoreServices/UTType.h"
 #include "Platform/Preferences/KorvaneSettings.h"
 
-#include <QDir>
-#include <QFile>
+#include <filesystem>
 
 namespace korvane {
 
@@ -41,7 +40,8 @@ std::optional<PhotoFile> openPhoto(const QByteArray &path, std::optional<NSError
 // The same picture as an asset's display image.
 std::optional<NSData> displayCopy(const QByteArray &path, const PhotoFile &photo, bool asPNG,
                                   std::optional<NSError> *error) {
-    QByteArrayList arguments = asPNG ? QByteArrayList{"--to", "png"} : QByteArrayList{"--to", "jpeg", "--quality", "100"};
+    QByteArrayList arguments =
+        asPNG ? QByteArrayList{"--to", "png"} : QByteArrayList{"--to", "jpeg", "--quality", "100"};
     const int maxPixels = KorvaneSettings::displayImageMaxPixels();
     if (maxPixels > 0) arguments += {"--max-pixels", QByteArray::number(maxPixels)};
     std::optional<NSError> reason;
@@ -51,7 +51,8 @@ std::optional<NSData> displayCopy(const QByteArray &path, const PhotoFile &photo
 }
 
 bool travelsAsItIs(const QString &type) {
-    return UTTypeConformsTo(type, kUTTypeJPEG) || UTTypeConformsTo(type, kUTTypePNG) || UTTypeConformsTo(type, kUTTypeGIF);
+    return UTTypeConformsTo(type, kUTTypeJPEG) || UTTypeConformsTo(type, kUTTypePNG) ||
+           UTTypeConformsTo(type, kUTTypeGIF);
 }
 
 } // namespace
@@ -61,8 +62,10 @@ std::optional<SLAttachment> SLAttachment::photoAttachment(const QByteArray &path
     const auto photo = openPhoto(path, error);
     if (!photo) return std::nullopt;
     if (!withoutMetadata && travelsAsItIs(photo->type)) {
-        const QString absolute = QDir::current().absoluteFilePath(QFile::decodeName(path));
-        return SLAttachment{SLAttachmentTypeData, photo->data, NSURL::fileURLWithPath(QFile::encodeName(absolute))};
+        std::error_code failure; // a current folder that is gone; the bytes are at hand all the same
+        const std::string absolute = std::filesystem::absolute(path.toStdString(), failure).string();
+        return SLAttachment{SLAttachmentTypeData, photo->data,
+                            NSURL::fileURLWithPath(QByteArray::fromStdString(absolute))};
     }
     if (!withoutMetadata)
         if (const auto asset = ALAssetsLibrary::assetURLForFile(path))

@@ -26,10 +26,10 @@ struct SLAttachment {
     std::variant<NSData, NSURL> payload;
     std::optional<NSURL> payloadSourceFileURL; // the file whose own bytes are the payload
 
-    // The photo in a file, given in the file system's own bytes. JPEG, PNG and GIF are their own bytes, left in their file.
-    // Other formats: an asset if the file is in the photo library, else converted to JPEG here. Without metadata any picture
-    // is a copy made here, upright and in sRGB, a PNG of a PNG and a JPEG of everything else. Converting blocks. Null, with
-    // an error placed that names the file.
+    // The photo in a file, given in the file system's own bytes. JPEG, PNG and GIF are their own bytes, left in their
+    // file. Other formats: an asset if the file is in the photo library, else converted to JPEG here. Without metadata
+    // any picture is a copy made here, upright and in sRGB, a PNG of a PNG and a JPEG of everything else. Converting
+    // blocks. Null, with an error placed that names the file.
     static std::optional<SLAttachment> photoAttachment(const QByteArray &path, bool withoutMetadata,
                                                        std::optional<NSError> *error = nullptr);
 

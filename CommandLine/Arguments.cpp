@@ -1,0 +1,52 @@
+// What the commands' arguments have in common.
+#include "CommandLine/Arguments.h"
+
+#include "Platform/Social/RemoteServiceError.h"
+
+#include <QStringDecoder>
+
+#include <algorithm>
+
+namespace korvane {
+
+std::string Arguments::problemWithText(const std::string &text) {
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString decoded = decoder(QByteArrayView(text.data(), qsizetype(text.size())));
+    if (decoder.hasError()) return "the text is not valid UTF-8";
+    return decoded.contains(QChar(u'\0')) ? "the text holds a NUL character" : std::string();
+}
+
+std::string Arguments::problemWithNumber(const std::string &text) {
+    const bool isDecimal = std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
+    bool fits = false;
+    const qint64 number = QByteArray::fromStdString(text).toLongLong(&fits);
+    return isDecimal && fits && number > 0 ? std::string() : "\"" + text + "\" is not a number above 0";
+}
+
+QStringList Arguments::texts(const std::vector<std::string> &arguments) {
+    QStringList list;
+    for (const std::string &argument : arguments)
+        list.append(QString::fromStdString(argument));
+    return list;
+}
+
+QString Arguments::shownPath(const QByteArray &path) {
+    return QString::fromUtf8(path);
+}
+
+ExitStatus Arguments::exitStatusOf(const NSError &error) {
+    if (error.domain() != RemoteServiceErrorDomain) return ExitUploadFailed;
+    switch (error.code()) {
+    case RemoteServiceErrorUnreachable:
+    case RemoteServiceErrorOtherSettings:
+    case RemoteServiceErrorNotAvailable:
+        return ExitUnreachable;
+    case RemoteServiceErrorUnusableRecord:
+    case RemoteServiceErrorNothingToShare:
+        return ExitUsage;
+    default:
+        return ExitUploadFailed;
+    }
+}
+
+} // namespace korvane

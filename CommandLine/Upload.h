@@ -1,0 +1,39 @@
+// One upload, as the upload service tells of it.
+#pragma once
+
+#include "Platform/Foundation/NSError.h"
+
+#include <QDateTime>
+#include <QString>
+#include <QVariantMap>
+
+#include <optional>
+
+namespace korvane {
+
+struct Upload {
+    QString id;
+    QString service;
+    QString title;
+    QString state;
+    QString waitingFor; // with "waiting", else empty
+    QDateTime nextTry;  // with "waiting", else invalid
+    qint64 bytesSent = 0;
+    qint64 bytesTotal = 0; // 0 while it is not known
+    qint64 attempts = 0;
+    QString createdAt;  // ISO 8601 in UTC
+    QString finishedAt; // the same; empty before the end
+    std::optional<NSError> error;
+
+    // From a dictionary of the status interface, with its nested values still as they came from the bus. What is
+    // missing or of the wrong type stays empty.
+    static Upload fromDictionary(const QVariantMap &dictionary);
+
+    bool isRunning() const { return state == QLatin1String("running"); }
+    bool isWaiting() const { return state == QLatin1String("waiting"); }
+    bool isDone() const { return state == QLatin1String("done"); }
+    bool hasFailed() const { return state == QLatin1String("failed"); }
+    bool isFinished() const { return isDone() || hasFailed(); }
+};
+
+} // namespace korvane

@@ -1,0 +1,85 @@
+// korvane: share photos from the command line.
+#include "CommandLine/AccountsCommand.h"
+#include "CommandLine/ExitStatus.h"
+#include "CommandLine/Output.h"
+#include "CommandLine/ShareCommand.h"
+#include "CommandLine/StandInCommand.h"
+#include "CommandLine/UploadsCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <QCoreApplication>
+
+#include <clocale>
+#include <cstdlib>
+#include <cstring>
+
+#include <langinfo.h>
+
+namespace {
+
+const char *const footer = R"(First steps:
+  korvane accounts add flickr --credential-file flickr.json
+  korvane share flickr --wait sunset.jpg
+  korvane uploads
+
+Each command tells more with --help.
+
+Environment:
+  KORVANE_FLICKR_URL     base address used in place of Flickr's own, to try things out (plain http on this machine only)
+  KORVANE_PHOTO_LIBRARY  folder used in place of your Pictures and Videos folders
+  NO_COLOR               if set, progress is shown without colours
+
+Files:
+  ~/.config/korvane        accounts and preferences
+  ~/.local/state/korvane   the queue of uploads and the copies of what is to be uploaded
+
+Exit status: 0 all well, 1 an upload failed, 2 bad usage or a file that cannot be used, 3 no account, 4 the upload
+service cannot be reached.)";
+
+// Texts are UTF-8 here and in Qt; under another encoding Qt would say so on standard error.
+void useUTF8() {
+    std::setlocale(LC_ALL, "");
+    if (std::strcmp(::nl_langinfo(CODESET), "UTF-8") != 0) ::setenv("LC_ALL", "C.UTF-8", 1);
+    std::setlocale(LC_ALL, "");
+}
+
+// A command that does not exist is left over by the parser, which then only misses one that does.
+std::string failureMessage(const CLI::App *program, const CLI::Error &error) {
+    const std::vector<std::string> unknown = program->remaining(true);
+    const bool isUnknown = dynamic_cast<const CLI::RequiredError *>(&error) && !unknown.empty();
+    return "korvane: " +
+           (isUnknown ? "There is no command \"" + unknown.front() + "\" here." : std::string(error.what())) +
+           "\nRun with --help for more information.\n";
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    useUTF8();
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("korvane"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
+
+    CLI::App program("Share photos to Flickr, and be sure that they get there.", "korvane");
+    program.set_version_flag("--version", "korvane " KORVANE_VERSION, "Show the version and exit");
+    program.require_subcommand(1);
+    program.get_formatter()->column_width(28);
+    program.footer(footer);
+    program.failure_message(failureMessage);
+    korvane::ShareCommand share(program);
+    korvane::UploadsCommand uploads(program);
+    korvane::AccountsCommand accounts(program);
+    korvane::StandInCommand standIn(program);
+    try {
+        program.parse(argc, argv);
+    } catch (const CLI::ParseError &error) {
+        return program.exit(error) == 0 ? korvane::ExitDone : korvane::ExitUsage;
+    }
+    int status = korvane::ExitDone;
+    if (share.isChosen()) status = share.run();
+    if (uploads.isChosen()) status = uploads.run();
+    if (accounts.isChosen()) status = accounts.run();
+    if (standIn.isChosen()) status = standIn.run();
+    if (!korvane::Output::finish() && status == korvane::ExitDone) return korvane::ExitUploadFailed;
+    return status;
+}

@@ -1,0 +1,127 @@
+// Texts, units, columns and JSON of uploads.
+#include "CommandLine/UploadText.h"
+#include "CommandLine/Arguments.h"
+#include "Platform/Social/RemoteServiceError.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <gtest/gtest.h>
+
+using namespace korvane;
+
+namespace {
+
+Upload failedUpload() {
+    return Upload::fromDictionary(
+        {{QStringLiteral("id"), QStringLiteral("12")},
+         {QStringLiteral("service"), QStringLiteral("flickr")},
+         {QStringLiteral("title"), QStringLiteral("a \"b\"\nc \x1b[31m 夏")},
+         {QStringLiteral("state"), QStringLiteral("failed")},
+         {QStringLiteral("bytesSent"), qint64(9007199254740993)}, // not a double
+         {QStringLiteral("bytesTotal"), qint64(9007199254740995)},
+         {QStringLiteral("attempts"), qint64(3)},
+         {QStringLiteral("createdAt"), QStringLiteral("2024-05-01T10:00:00Z")},
+         {QStringLiteral("finishedAt"), QStringLiteral("2024-05-01T10:05:00Z")},
+         {QStringLiteral("error"), QVariantMap{{QStringLiteral("domain"), QStringLiteral("D")},
+                                               {QStringLiteral("code"), qint64(98)},
+                                               {QStringLiteral("description"), QStringLiteral("no\u202E\x07!")}}}});
+}
+
+QJsonObject objectOf(const Upload &upload) {
+    return QJsonDocument::fromJson(UploadText::json(upload)).object();
+}
+
+} // namespace
+
+TEST(UploadText, BytesAreRoundedIntoTheUnitThatFits) {
+    const std::pair<qint64, const char *> cases[] = {
+        {0, "0 bytes"},          {999, "999 bytes"},       {1000, "1 kB"},          {999499, "999 kB"},
+        {999500, "1.0 MB"},      {12345678, "12.3 MB"},    {999949999, "999.9 MB"}, {999950000, "1.00 GB"},
+        {1250000000, "1.25 GB"}, {2147483648LL, "2.15 GB"}};
+    for (const auto &[count, text] : cases)
+        EXPECT_EQ(UploadText::bytes(count).toStdString(), text) << count;
+}
+
+TEST(UploadText, PrintableTextHoldsNothingThatATerminalObeys) {
+    const std::pair<QString, QString> cases[] = {
+        {QStringLiteral("a\tb\nc\rd"), QStringLiteral("a b c d")},
+        {QStringLiteral("\x1b]0;x\x07"), QStringLiteral("\uFFFD]0;x\uFFFD")},
+        {QString(QChar(0x9B)) + QStringLiteral("31m"), QStringLiteral("\uFFFD31m")},
+        {QStringLiteral("gpj.\u202Etxt"), QStringLiteral("gpj.\uFFFDtxt")},
+        {QString(QChar(0xD83D)) + u'x', QStringLiteral("\uFFFDx")},
+        {QStringLiteral("夏 é 🌅 \U0001F468\u200D\U0001F469"), QStringLiteral("夏 é 🌅 \U0001F468\u200D\U0001F469")}};
+    for (const auto &[text, shown] : cases)
+        EXPECT_EQ(UploadText::printable(text).toStdString(), shown.toStdString());
+}
+
+TEST(UploadText, CuttingKeepsCharactersWholeAndColumnsExact) {
+    const std::tuple<QString, int, QString> cases[] = {
+        {QStringLiteral("abc"), 3, QStringLiteral("abc")},
+        {QStringLiteral("abcd"), 3, QStringLiteral("ab…")},
+        {QStringLiteral("夏休み"), 6, QStringLiteral("夏休み")},
+        {QStringLiteral("夏休み"), 5, QStringLiteral("夏休…")},
+        {QStringLiteral("夏休み"), 4, QStringLiteral("夏…")}, // half a character is none
+        {QStringLiteral("🌅🌅"), 3, QStringLiteral("🌅…")},
+        {QStringLiteral("e\u0301e\u0301e\u0301"), 2, QStringLiteral("e\u0301…")},
+        {QStringLiteral("abc"), 1, QStringLiteral("…")},
+        {QStringLiteral("abc"), 0, QString()}};
+    for (const auto &[text, columns, expected] : cases) {
+        EXPECT_EQ(UploadText::cut(text, columns).toStdString(), expected.toStdString()) << columns;
+        EXPECT_LE(UploadText::width(UploadText::cut(text, columns)), columns);
+        EXPECT_EQ(UploadText::width(UploadText::padded(text, columns)), columns) << expected.toStdString();
+    }
+}
+
+TEST(UploadText, JSONHasTheDocumentedMembersWithExactNumbers) {
+    const QByteArray text = UploadText::json(failedUpload());
+    EXPECT_FALSE(text.contains('\n'));
+    const QJsonObject object = objectOf(failedUpload());
+    EXPECT_EQ(object.value(QStringLiteral("id")), QJsonValue(QStringLiteral("12")));
+    EXPECT_EQ(object.value(QStringLiteral("title")).toString(), failedUpload().title);
+    EXPECT_TRUE(text.contains("9007199254740993"));
+    EXPECT_EQ(object.value(QStringLiteral("attempts")).toInteger(), 3);
+    EXPECT_EQ(object.value(QStringLiteral("finishedAt")).toString(), QStringLiteral("2024-05-01T10:05:00Z"));
+    EXPECT_EQ(object.value(QStringLiteral("error")).toObject().value(QStringLiteral("code")).toInteger(), 98);
+    EXPECT_EQ(object.size(), 10);
+
+    const Upload queued = Upload::fromDictionary({{QStringLiteral("id"), QStringLiteral("1")}});
+    EXPECT_TRUE(objectOf(queued).value(QStringLiteral("error")).isNull());
+    EXPECT_TRUE(objectOf(queued).value(QStringLiteral("finishedAt")).isNull());
+    EXPECT_EQ(objectOf(queued).value(QStringLiteral("title")), QJsonValue(QString(QLatin1String(""))));
+}
+
+TEST(UploadText, RowsTellTheReasonSafelyAndFitTheTerminal) {
+    const QString row = UploadText::tableRow(failedUpload(), 0);
+    EXPECT_TRUE(row.contains(QStringLiteral("(no\uFFFD\uFFFD!)"))) << row.toStdString();
+    EXPECT_FALSE(row.contains(QChar(0x1B)));
+    EXPECT_FALSE(row.contains(u'\n'));
+    for (const int columns : {1, 20, 47, 48, 60, 200})
+        EXPECT_LE(UploadText::width(UploadText::tableRow(failedUpload(), columns)), columns);
+
+    Upload waiting = failedUpload();
+    waiting.state = QStringLiteral("waiting");
+    waiting.waitingFor = QStringLiteral("network");
+    waiting.nextTry = QDateTime::currentDateTimeUtc().addDays(1);
+    const QString day = waiting.nextTry.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm"));
+    EXPECT_EQ(UploadText::reason(waiting),
+              QStringLiteral("waiting for the network, at the latest %1: no\uFFFD\uFFFD!").arg(day));
+}
+
+TEST(Arguments, OnlyWhatCanBeCarriedIsTaken) {
+    EXPECT_EQ(Arguments::problemWithText("Sommer\n夏 " + std::string(10'000, 'x')), "");
+    EXPECT_NE(Arguments::problemWithText("caf\xe9"), "");
+    EXPECT_NE(Arguments::problemWithText("\xed\xa0\x80"), "");
+    EXPECT_NE(Arguments::problemWithText(std::string("a\0b", 3)), "");
+    EXPECT_EQ(Arguments::problemWithNumber("9223372036854775807"), "");
+    for (const char *text : {"", "0", "-1", "+1", "1.0", "9223372036854775808", "Summer"})
+        EXPECT_NE(Arguments::problemWithNumber(text), "") << text;
+}
+
+TEST(Arguments, ErrorsOfTheHandOverLeadToTheDocumentedStatus) {
+    const std::pair<qint64, ExitStatus> cases[] = {{1, ExitUnreachable},  {2, ExitUnreachable}, {3, ExitUsage},
+                                                   {4, ExitUploadFailed}, {5, ExitUsage},       {6, ExitUnreachable}};
+    for (const auto &[code, status] : cases)
+        EXPECT_EQ(Arguments::exitStatusOf(NSError(RemoteServiceErrorDomain, code)), status) << code;
+    EXPECT_EQ(Arguments::exitStatusOf(NSError(NSPOSIXErrorDomain, 2)), ExitUploadFailed);
+}
