@@ -2,6 +2,7 @@
 #include "Service/Notifier.h"
 
 #include <QDBusMessage>
+#include <QDBusPendingCall>
 
 #include <chrono>
 

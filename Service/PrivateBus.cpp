@@ -27,7 +27,12 @@ std::optional<QString> PrivateBus::start(std::optional<NSError> *error) {
     const QString socket = SessionBus::privateSocket();
     QFile::remove(socket); // what is left of a bus whose service was killed
     // The main thread lives as long as the process, so its end is the process's.
-    _daemon.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
+    _daemon.setChildProcessModifier([] {
+        ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+        sigset_t none;
+        sigemptyset(&none);
+        ::sigprocmask(SIG_SETMASK, &none, nullptr); // the signals that this process takes from a descriptor
+    });
     _daemon.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     _daemon.start(QStringLiteral("dbus-daemon"),
                   {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),

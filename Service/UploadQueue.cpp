@@ -167,13 +167,14 @@ void UploadQueue::_ended(qint64 id, const RunOutcome &outcome) {
             job.state = UploadState::Queued;
         else
             _apply(verdict, job);
-        // The photo's id is recorded by now, so the next run need not wait until the outcome has reached the disk.
+        const QString spoolFile = job.spoolFile;
         if (job.state == UploadState::Done) {
+            job.spoolFile.clear();
             _holds.erase(job.service);
-            _schedule();
+            _schedule(); // the photo's id is recorded: the next run need not wait until the outcome has reached the disk
         }
         _store->update(job, true);
-        if (job.state == UploadState::Done) _dropSpoolFile(job.spoolFile);
+        if (job.state == UploadState::Done) _dropSpoolFile(spoolFile);
         _announce(job);
         if (job.finishedAt != 0 && _observer.finished) _observer.finished(job);
     }
@@ -228,6 +229,7 @@ void UploadQueue::_requeue(std::vector<UploadJob> jobs) {
         job.waitReason = WaitReason::None;
         job.nextTryAt = 0;
         job.finishedAt = 0;
+        job.error.reset();
         _store->update(job, false);
         _announce(job);
     }

@@ -9,6 +9,7 @@
 #include "Service/DeathMarker.h"
 
 #include <QCoreApplication>
+#include <QDBusError>
 #include <QDir>
 #include <QFile>
 #include <QThread>

@@ -15,7 +15,7 @@ rm -rf "$demo"
 mkdir -p "$demo"/{config,state,run,library/Pictures,made}
 chmod 700 "$demo/run"
 export HOME=$demo XDG_CONFIG_HOME=$demo/config XDG_STATE_HOME=$demo/state XDG_RUNTIME_DIR=$demo/run
-export XDG_DATA_DIRS=$PWD/build/dev/share KORVANE_PHOTO_LIBRARY=$demo/library KORVANE_SECRETS=file
+export XDG_DATA_DIRS=$PWD/build/dev/share:/usr/local/share:/usr/share KORVANE_PHOTO_LIBRARY=$demo/library KORVANE_SECRETS=file
 
 started=()
 trap 'for process in "${started[@]}"; do kill "$process" 2>/dev/null || true; done; wait' EXIT

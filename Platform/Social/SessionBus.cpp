@@ -56,7 +56,12 @@ std::optional<QString> SessionBus::address() {
 std::optional<QString> SessionBus::addressStartingService(std::optional<NSError> *error) {
     if (const auto present = address()) return present;
     const QString program = QFile::decodeName(ChildProcess::pathOfProgram("korvane-uploadd"));
-    const bool started = QProcess::startDetached(program, {QStringLiteral("--private-bus")});
+    QProcess service;
+    service.setProgram(program);
+    service.setArguments({QStringLiteral("--private-bus")});
+    service.setStandardOutputFile(QProcess::nullDevice()); // it must not hold on to this program's terminal or pipe
+    service.setStandardErrorFile(stateFolder() + QStringLiteral("/korvane-uploadd.log"));
+    const bool started = service.startDetached();
     for (int attempt = 0; started && attempt < startAttempts; ++attempt) {
         if (const auto present = address()) return present;
         QThread::msleep(attemptMilliseconds);

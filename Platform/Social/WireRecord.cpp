@@ -60,7 +60,7 @@ private:
 
     bool _texts(const QStringList &texts, std::optional<NSError> *error) {
         for (const QString &text : texts) {
-            _size += text.size() * 3;
+            _size += text.toUtf8().size();
             if (!text.contains(QChar::Null)) continue;
             setError(error, unusable(QStringLiteral("\"%1\" holds a NUL character; remove it.").arg(_key)));
             return false;

@@ -1,0 +1,17 @@
+// A test on the whole way; shows the service's log where it fails.
+#pragma once
+
+#include "Tests/EndToEnd/ServiceHarness.h"
+
+#include <gtest/gtest.h>
+
+namespace korvane::test {
+
+class ServiceTest : public ::testing::Test, public ServiceHarness {
+public:
+    void TearDown() override {
+        if (HasFailure()) printf("service log:\n%s\n", log().toLocal8Bit().constData());
+    }
+};
+
+} // namespace korvane::test
