@@ -1,0 +1,14 @@
+// The web page that shows what the services received.
+#pragma once
+
+#include "StandIn/PhotoStore.h"
+
+namespace standin {
+
+// Self-contained HTML; everything that came from outside is escaped.
+QByteArray page(const PhotoStore &store);
+
+// The Content-Security-Policy to send with it.
+QByteArray pagePolicy();
+
+} // namespace standin

@@ -1,0 +1,21 @@
+#include "StandIn/RequestLog.h"
+
+namespace standin {
+
+size_t RequestLog::begin(const Request &request) {
+    const std::lock_guard lock(_mutex);
+    if (_enabled) _requests.push_back(request);
+    return _requests.size() - 1;
+}
+
+void RequestLog::update(size_t index, const Request &request) {
+    const std::lock_guard lock(_mutex);
+    if (_enabled) _requests.at(index) = request;
+}
+
+std::vector<Request> RequestLog::requests() const {
+    const std::lock_guard lock(_mutex);
+    return _requests;
+}
+
+} // namespace standin
