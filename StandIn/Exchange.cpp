@@ -11,10 +11,9 @@ QByteArray bytes(const std::string &text) {
 Request recordOf(const httplib::Request &request) {
     Request record;
     const QByteArray target = bytes(request.target);
-    const qsizetype mark = target.indexOf('?');
     record.method = bytes(request.method);
-    record.path = target.left(mark);
-    if (mark >= 0) record.parameters = decodedForm(target.mid(mark + 1));
+    record.path = pathOf(target);
+    record.parameters = decodedForm(queryOf(target));
     for (const auto &[name, value] : request.headers)
         record.headers.append({bytes(name), bytes(value)});
     if (!request.has_header("Authorization")) return record;

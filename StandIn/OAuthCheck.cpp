@@ -21,12 +21,7 @@ qsizetype skipSpaces(const QByteArray &text, qsizetype at) {
 QByteArray baseStringUri(const SignedRequest &request) {
     QByteArray host = request.host.trimmed().toLower();
     if (host.endsWith(":80")) host.chop(3);
-    return "http://" + host + request.target.left(request.target.indexOf('?'));
-}
-
-QByteArray queryOf(const QByteArray &target) {
-    const qsizetype mark = target.indexOf('?');
-    return mark < 0 ? QByteArray() : target.mid(mark + 1);
+    return "http://" + host + pathOf(request.target);
 }
 
 } // namespace

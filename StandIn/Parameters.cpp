@@ -18,6 +18,14 @@ QByteArray valueOf(const Parameters &parameters, const QByteArray &name) {
     return {};
 }
 
+QByteArray pathOf(const QByteArray &target) {
+    return target.split('?').first();
+}
+
+QByteArray queryOf(const QByteArray &target) {
+    return target.mid(pathOf(target).size() + 1);
+}
+
 QByteArray percentEncoded(const QByteArray &text) {
     return text.toPercentEncoding();
 }

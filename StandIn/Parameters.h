@@ -14,6 +14,10 @@ using Parameters = QList<Parameter>;
 // The first value of that name, else an empty one.
 QByteArray valueOf(const Parameters &parameters, const QByteArray &name);
 
+// The two halves of a request line's target, as sent.
+QByteArray pathOf(const QByteArray &target);
+QByteArray queryOf(const QByteArray &target);
+
 // RFC 5849 section 3.6: everything but letters, digits, "-", ".", "_" and "~" becomes %XX in upper case.
 QByteArray percentEncoded(const QByteArray &text);
 
