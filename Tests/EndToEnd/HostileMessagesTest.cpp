@@ -75,7 +75,6 @@ TEST_F(HostileMessages, RecordsOfAnyShapeAreTakenOrRefusedNeverFatal) {
 
 TEST_F(HostileMessages, DescriptorsThatCannotBeTrustedAreRefused) {
     startService();
-    const qint64 pid = servicePid();
     const QByteArray folder = QFile::encodeName(home.path(QStringLiteral("state/korvane/spool")));
     const QByteArray bytes = jpegOfSize(100'000);
     const FileDescriptor writable(::open(folder.constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600));

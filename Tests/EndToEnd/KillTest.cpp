@@ -1,7 +1,9 @@
 // Deaths of the service at any moment: nothing is missing, nothing is set aside that is not at fault.
+#include "Service/UploadStore.h"
 #include "Tests/EndToEnd/ServiceFixture.h"
 
 #include <QCryptographicHash>
+#include <QDBusArgument>
 #include <QDir>
 #include <QFile>
 #include <QMap>
@@ -30,6 +32,22 @@ QByteArray digest(const QByteArray &bytes) {
 
 class Kill : public ServiceTest {
 public:
+    // Notes of every upload whose answer is on record by now how many requests the stand-in had seen.
+    void noteRecordedAnswers() {
+        UploadStore store;
+        if (!store.open(home.path(QStringLiteral("state/korvane/queue.sqlite")), nullptr)) return;
+        for (const UploadJob &job : store.jobsAfter(0, 1000))
+            if (job.photoID != 0) _requestsWhenRecorded.try_emplace(job.id, flickr.server.requests().size());
+    }
+
+    // A photo whose answer was on record was not sent again. digests: of the uploads in the order of their ids, from 1 on.
+    void expectRecordedPhotosWereNotSentAgain(const QList<QByteArray> &digests) {
+        const auto requests = flickr.server.requests();
+        for (const auto &[id, seen] : _requestsWhenRecorded)
+            for (size_t i = seen; i < requests.size(); ++i)
+                EXPECT_NE(requests[i].photoSha256, digests[id - 1]) << "upload " << id << " was sent again";
+    }
+
     // Every photo is there, in the album, and done. Returns how many there are more than once.
     int expectAllArrived(const QSet<QByteArray> &sent, qint64 album) {
         QMap<QByteArray, int> copies;
@@ -44,6 +62,9 @@ public:
             duplicates += count - 1;
         return duplicates;
     }
+
+private:
+    std::map<qint64, size_t> _requestsWhenRecorded;
 };
 
 TEST_F(Kill, FiftyTimesInABatchOfFortyLosesNothing) {
@@ -53,10 +74,10 @@ TEST_F(Kill, FiftyTimesInABatchOfFortyLosesNothing) {
     flickr.server.delay(std::chrono::milliseconds(60));
     const qint64 album = flickr.server.albums()[0].id;
     std::vector<std::shared_ptr<FlickrPost>> posts;
-    QSet<QByteArray> sent;
+    QList<QByteArray> digests;
     for (quint32 i = 0; i < 40; ++i) {
         const QByteArray bytes = jpegOfSize(20'000 + 5'000 * (i % 7), seeded + i);
-        sent.insert(digest(bytes));
+        digests.append(digest(bytes));
         posts.push_back(post(bytes, album));
     }
     // The first kills fall into the hand-over: the client asks again under the same id.
@@ -66,6 +87,7 @@ TEST_F(Kill, FiftyTimesInABatchOfFortyLosesNothing) {
         QThread::usleep(random.bounded(120'000));
         if (servicePid() == 0) startService();
         killService(SIGKILL);
+        noteRecordedAnswers();
         if (handOver.wait_for(std::chrono::seconds(0)) == std::future_status::ready) startService();
     }
     while (!handOver.get()) // killed in both of its tries; the user taps Post again
@@ -74,7 +96,8 @@ TEST_F(Kill, FiftyTimesInABatchOfFortyLosesNothing) {
     EXPECT_TRUE(waitForState(QStringLiteral("done"), int(uploads().size())));
     EXPECT_EQ(countInState(QStringLiteral("failed")), 0);
     EXPECT_EQ(uploads().size(), 40) << "the posts were taken once";
-    const int duplicates = expectAllArrived(sent, album);
+    const int duplicates = expectAllArrived(QSet<QByteArray>(digests.begin(), digests.end()), album);
+    expectRecordedPhotosWereNotSentAgain(digests);
     printf("%d kills, %d photos sent again because their answer had not been recorded\n", kills, duplicates);
     EXPECT_LE(duplicates, 3 * kills);
     EXPECT_TRUE(QDir(home.path(QStringLiteral("state/korvane/spool"))).isEmpty());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Tests/EndToEnd/ServiceHarness.h"
+#include "Tests/Support/Printing.h"
 
 #include <gtest/gtest.h>
 

@@ -26,10 +26,8 @@ ServiceHarness::ServiceHarness(const standin::StandInOptions &options) : flickr(
 }
 
 ServiceHarness::~ServiceHarness() {
-    const qint64 pid = servicePid();
+    killService(SIGTERM);
     QDBusConnection::disconnectFromBus(QStringLiteral("test"));
-    if (pid > 0) ::kill(pid_t(pid), SIGTERM);
-    waitFor([&] { return pid <= 0 || ::kill(pid_t(pid), 0) != 0; });
     stopBus();
 }
 

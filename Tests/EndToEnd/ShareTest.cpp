@@ -1,8 +1,12 @@
 // Photos from a client to the stand-in, in good and in bad times.
 #include "Platform/Social/RemoteServiceError.h"
+#include "Platform/Social/WireRecord.h"
 #include "Tests/EndToEnd/ServiceFixture.h"
 
 #include <QCryptographicHash>
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusUnixFileDescriptor>
 #include <QDir>
 #include <QSet>
 
@@ -38,6 +42,7 @@ TEST_F(Share, ABatchArrivesWholeInItsAlbumAndLeavesNothingBehind) {
 }
 
 TEST_F(Share, TheSameMessageIsTakenOnce) {
+    WireRecord::registerTypes();
     const auto call = [&] {
         auto message = QDBusMessage::createMethodCall(QStringLiteral("com.zorvex.flickr.xpc"), QStringLiteral("/com/zorvex/flickr/xpc"),
                                                       QStringLiteral("com.zorvex.flickr.xpc"), QStringLiteral("uploadPosts"));

@@ -2,6 +2,7 @@
 #include "Platform/Foundation/NSData.h"
 #include "Platform/Foundation/NSNumber.h"
 #include "Platform/Foundation/NSURL.h"
+#include "Tests/Support/Printing.h"
 #include "Tests/Support/LogCapture.h"
 #include "Tests/Support/TemporaryHome.h"
 

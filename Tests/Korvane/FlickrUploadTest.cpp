@@ -6,6 +6,7 @@
 #include "Platform/Foundation/Dispatch.h"
 #include "Platform/Social/SLRequest.h"
 #include "Tests/Support/LogCapture.h"
+#include "Tests/Support/Printing.h"
 #include "Tests/Support/StandInAccount.h"
 #include "Tests/Support/WaitFor.h"
 

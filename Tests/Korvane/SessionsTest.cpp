@@ -5,6 +5,7 @@
 #include "Korvane/KRRemoteSession.h"
 #include "Platform/Accounts/ACAccountStore.h"
 #include "Platform/Preferences/CFPreferences.h"
+#include "Tests/Support/Printing.h"
 #include "Tests/Support/LogCapture.h"
 #include "Tests/Support/TemporaryHome.h"
 

@@ -3,6 +3,7 @@
 #include "Service/RecordCodec.h"
 #include "Service/Spool.h"
 #include "Service/UploadStore.h"
+#include "Tests/Support/Printing.h"
 #include "Tests/Support/TemporaryHome.h"
 
 #include <QDir>

@@ -21,6 +21,7 @@ public:
                                     QString::fromUtf8(user.username),
                                     {QString::fromUtf8(user.consumerKey), QString::fromUtf8(user.consumerSecret),
                                      QString::fromUtf8(user.token), QString::fromUtf8(user.tokenSecret)});
+        account->credential(); // says once where credentials are kept, before a test listens to the log
     }
 
     standin::StandIn server;
