@@ -55,7 +55,7 @@ bool Exchange::readBody(RequestBody &body) {
     body.finish();
     _noteBody(body);
     if (dropping) {
-        _connection.drop();
+        _drop();
         return false;
     }
     if (!whole) _connection.leaveBodyUnread();
@@ -70,12 +70,12 @@ bool Exchange::passesFault() {
         answer(_fault.status, _fault.contentType, _fault.body);
         return false;
     case Fault::Kind::DropAfterBytes:
-        _connection.drop();
+        _drop();
         return false;
     case Fault::Kind::Hang:
         _context.log.update(_recordIndex, _record);
         if (_context.gate.waitForRelease([this] { return _connection.peerHasGone(); })) return true;
-        _connection.drop();
+        _drop();
         return false;
     case Fault::Kind::None:
     case Fault::Kind::Truncate:
@@ -89,8 +89,8 @@ void Exchange::answer(int status, const QByteArray &contentType, const QByteArra
     if (_body && _body->photoIsComplete() && _record.photoId == 0 && _context.log.isEnabled())
         _record.photoSha256 = _body->photo()->sha256();
     const qint64 delay = _context.delay;
-    if (delay > 0 && !_context.gate.sleep(std::chrono::milliseconds(delay))) return _connection.drop();
-    if (_fault.kind == Fault::Kind::DropBeforeAnswer) return _connection.drop();
+    if (delay > 0 && !_context.gate.sleep(std::chrono::milliseconds(delay))) return _drop();
+    if (_fault.kind == Fault::Kind::DropBeforeAnswer) return _drop();
     _record.status = status;
     // Before the answer is out, so that a client that has it finds it in the log.
     _context.log.update(_recordIndex, _record);
@@ -128,6 +128,12 @@ void Exchange::_sendHalf(int status, const QByteArray &contentType, const QByteA
                             "\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n\r\n";
     const QByteArray sent = head + body.left(body.size() / 2);
     _connection.write(sent.constData(), size_t(sent.size()));
+    _drop();
+}
+
+// Noted before the client can see it.
+void Exchange::_drop() {
+    _context.log.update(_recordIndex, _record);
     _connection.drop();
 }
 

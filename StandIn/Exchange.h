@@ -51,6 +51,7 @@ private:
     std::optional<qint64> _contentLength() const;
     void _noteBody(const RequestBody &body);
     void _sendHalf(int status, const QByteArray &contentType, const QByteArray &body);
+    void _drop();
 
     ServiceContext &_context;
     const httplib::Request &_request;

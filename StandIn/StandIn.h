@@ -21,7 +21,7 @@ struct ServiceContext;
 
 struct StandInOptions {
     int port = 0;             // 0: any free one
-    QString stateFolder;      // empty: a temporary one, removed at the end
+    QString stateFolder = {}; // empty: a temporary one, removed at the end
     int albums = 3;           // from the start, at least the three named ones
     bool keepBodies = true;   // false: photos are counted but not stored, and have neither path nor SHA-256
     bool keepRequests = true; // false: requests() stays empty

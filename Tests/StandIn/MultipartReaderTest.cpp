@@ -1,0 +1,113 @@
+#include "StandIn/MultipartReader.h"
+
+#include <gtest/gtest.h>
+
+namespace standin {
+
+namespace {
+
+class Collector final : public PartReceiver {
+public:
+    bool partBegan(const PartHeader &header) override {
+        text += '[' + header.name + '|' + header.fileName.value_or("-") + '|' + header.contentType + '|';
+        return true;
+    }
+    bool partData(const char *data, qsizetype size) override {
+        text.append(data, size);
+        return true;
+    }
+    bool partEnded() override {
+        text += ']';
+        return true;
+    }
+    QByteArray refusal() const override { return "refused"; }
+
+    QByteArray text;
+};
+
+// What was read and the error, with the body fed in pieces of that size.
+std::pair<QByteArray, QByteArray> readIn(qsizetype pieces, const QByteArray &body) {
+    Collector parts;
+    MultipartReader reader("B", parts);
+    for (qsizetype at = 0; at < body.size(); at += pieces)
+        reader.feed(body.constData() + at, std::min(pieces, body.size() - at));
+    reader.finish();
+    return {parts.text, reader.error()};
+}
+
+const QByteArray Part("--B\r\nContent-Disposition: form-data; name=\"a\"\r\n\r\n");
+
+} // namespace
+
+TEST(MultipartReader, ReadsPartsWhereverTheBodyIsCut) {
+    const QByteArray tricky("\r\n--\r\n\r\n-B\r\n--C--B\r\r\n");
+    const QByteArray body = Part + tricky +
+                            "\r\n--B\r\ncontent-type: image/png\r\nX-More: 1\r\nContent-Disposition: form-data; " +
+                            "name=\"ph\\\"oto\"; filename=\"\"\r\n\r\n\r\n--B--\r\n";
+    const QByteArray expected = "[a|-||" + tricky + "][ph\"oto||image/png|]";
+    for (qsizetype pieces = 1; pieces <= body.size(); ++pieces) {
+        const auto [text, error] = readIn(pieces, body);
+        EXPECT_EQ(text, expected) << pieces;
+        EXPECT_EQ(error, "") << pieces;
+    }
+    EXPECT_EQ(readIn(7, body.chopped(2)).second, "") << "the last CRLF may be missing";
+}
+
+TEST(MultipartReader, KeepsLargeDataIntactAcrossPieces) {
+    QByteArray data;
+    for (int i = 0; i < 30'000; ++i)
+        data += "\r\n--" + QByteArray::number(i * 7919 % 10'007);
+    const QByteArray body = Part + data + "\r\n--B--\r\n";
+    for (const qsizetype pieces : {1000, 4096, 65'537})
+        EXPECT_TRUE(readIn(pieces, body).first == "[a|-||" + data + ']') << pieces;
+}
+
+TEST(MultipartReader, RefusesEveryDeviation) {
+    const QByteArray end("x\r\n--B--\r\n");
+    const std::pair<QByteArray, QByteArray> cases[] = {
+        {"", "the body ends before the final boundary"},
+        {Part, "the body ends before the final boundary"},
+        {Part + "x\r\n--B\r\n", "the body ends before the final boundary"},
+        {Part + "x\r\n--B-", "the body ends before the final boundary"},
+        {Part + "x\n--B--\n", "the body ends before the final boundary"},
+        {Part + "x\r\n--B--\r", "the body ends before the final boundary"},
+        {Part + end + "more", "bytes follow the final boundary"},
+        {Part + "x\r\n--B--more", "bytes follow the final boundary"},
+        {Part + "x\r\n--B more\r\n", "a boundary is not followed by CRLF"},
+        {"preamble\r\n" + Part + end, "the body does not begin with the boundary"},
+        {"\r\n" + Part + end, "the body does not begin with the boundary"},
+        {QByteArray(Part).replace("\r\n", "\n") + end, "a boundary is not followed by CRLF"},
+        {"--B\r\nContent-Disposition: form-data; name=\"a\"\nX: y\r\n\r\n" + end,
+         "a part's header has a line that does not end with CRLF"},
+        {"--B\r\n\r\n" + end, "a part has no header"},
+        {"--B\r\nContent-Type: text/plain\r\n\r\n" + end, "a part has no Content-Disposition header"},
+        {"--B\r\nContent-Disposition form-data\r\n\r\n" + end, "a part's header has a malformed line"},
+        {"--B\r\nContent-Disposition: form-data; name=\"a\"\r\n folded: 1\r\n\r\n" + end,
+         "a part's header has a malformed line"},
+        {"--B\r\nContent-Disposition: form-data\r\n\r\n" + end, "a part's Content-Disposition is malformed"},
+        {"--B\r\nContent-Disposition: form-data; name=a\r\n\r\n" + end, "a part's Content-Disposition is malformed"},
+        {"--B\r\nContent-Disposition: form-data; name=\"\"\r\n\r\n" + end, "a part's Content-Disposition is malformed"},
+        {"--B\r\nContent-Disposition: form-data; name=\"a\r\n\r\n" + end, "a part's Content-Disposition is malformed"},
+        {"--B\r\nContent-Disposition: attachment; name=\"a\"\r\n\r\n" + end,
+         "a part's Content-Disposition is malformed"},
+        {"--B\r\nContent-Disposition: form-data; name=\"a\"\r\nContent-Disposition: form-data; name=\"b\"\r\n\r\n" +
+             end,
+         "a part has two Content-Disposition headers"},
+        {"--B\r\n" + QByteArray(20'000, 'x'), "a part's header is too long"},
+    };
+    for (const auto &[body, problem] : cases) {
+        EXPECT_EQ(readIn(1, body).second, problem) << body.left(80).toStdString();
+        EXPECT_EQ(readIn(65'536, body).second, problem) << body.left(80).toStdString();
+    }
+}
+
+TEST(MultipartReader, TakesOnlyLegalBoundaries) {
+    EXPECT_EQ(MultipartReader::boundaryOf("multipart/form-data; boundary=a=b"), "a=b");
+    EXPECT_EQ(MultipartReader::boundaryOf("Multipart/Form-Data;charset=utf-8; Boundary=\"x y\""), "x y");
+    for (const QByteArray &wrong : {QByteArray("multipart/form-data"), QByteArray("multipart/form-data; boundary="),
+                                    QByteArray("multipart/mixed; boundary=a"), QByteArray("image/jpeg"),
+                                    "multipart/form-data; boundary=" + QByteArray(71, 'b')})
+        EXPECT_EQ(MultipartReader::boundaryOf(wrong), std::nullopt) << wrong.toStdString();
+}
+
+} // namespace standin
