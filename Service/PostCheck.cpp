@@ -1,6 +1,9 @@
 // What is looked at before an upload is begun.
 #include "Service/PostCheck.h"
 
+#include "Platform/AssetsLibrary/AssetLocation.h"
+#include "Platform/MobileCoreServices/UTType.h"
+
 #include <QFile>
 
 namespace korvane {
@@ -9,7 +12,9 @@ const QString PostCheck::ErrorDomain = QStringLiteral("KorvanePostCheckErrorDoma
 
 namespace {
 
-enum Objection { NothingToUpload = 1, FileUnreadable = 2, FileEmpty = 3, FileChanged = 4, DataLost = 5 };
+constexpr qint64 typeProbe = 4096; // bytes that tell what a file holds
+
+enum Objection { NothingToUpload = 1, FileUnreadable = 2, FileEmpty = 3, FileChanged = 4, DataLost = 5, NoPicture = 6 };
 
 NSError objectionWithText(Objection code, const QString &text) {
     return NSError::errorWithDescription(PostCheck::ErrorDomain, code, text);
@@ -28,6 +33,15 @@ std::optional<NSError> objectionToFile(const NSURL &url, const UploadJob &job) {
     return std::nullopt;
 }
 
+// An asset that is gone or unreadable is reported by the library; but what it holds must be a picture.
+std::optional<NSError> objectionToAsset(const NSURL &url) {
+    const auto location = AssetLocation::ofURL(url);
+    auto file = std::make_shared<FileDescriptor>(location ? location->open() : FileDescriptor());
+    if (!*file || !UTTypeConformsTo(typeIdentifierForData(NSData::dataWithFile(file, 0, typeProbe)), kUTTypeMovie))
+        return std::nullopt;
+    return objectionWithText(NoPicture, QStringLiteral("%1 is a video. Share it to Vimeo.").arg(QFile::decodeName(location->path)));
+}
+
 std::optional<NSError> objectionToData(const NSData &data) {
     if (data.length() == 0) return objectionWithText(FileEmpty, QStringLiteral("The photo is empty."));
     const auto file = data.file() ? FileIdentity::ofDescriptor(data.file()->get()) : std::nullopt;
@@ -40,7 +54,8 @@ std::optional<NSError> objectionToData(const NSData &data) {
 
 std::optional<NSError> PostCheck::objection(const FlickrPost &post, const UploadJob &job) {
     const QString scheme = post.assetURL ? post.assetURL->scheme() : QString();
-    if (post.photoID != 0 || scheme == QLatin1String("assets-library")) return std::nullopt;
+    if (post.photoID != 0) return std::nullopt;
+    if (scheme == QLatin1String("assets-library")) return objectionToAsset(*post.assetURL);
     if (scheme == QLatin1String("file")) return objectionToFile(*post.assetURL, job);
     if (post.photoData) return objectionToData(*post.photoData);
     if (!job.spoolFile.isEmpty())

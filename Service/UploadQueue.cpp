@@ -3,6 +3,7 @@
 
 #include "Platform/Accounts/ACAccountStore.h"
 #include "Platform/Foundation/NSLog.h"
+#include "Platform/Foundation/NSNumber.h"
 #include "Platform/Preferences/KorvaneSettings.h"
 #include "Platform/Social/RemoteServiceError.h"
 #include "Service/FlickrRunner.h"
@@ -158,7 +159,8 @@ void UploadQueue::_ended(qint64 id, const RunOutcome &outcome) {
     job.photoID = outcome.photoID != 0 ? outcome.photoID : job.photoID;
     if (outcome.bytes != 0) job.bytesTotal = outcome.bytes;
     job.deaths = 0;
-    const bool wantsPhotoSet = RecordCodec::decode(_store->record(id), nullptr).value(QStringLiteral("photoSetID")).toLongLong() != 0;
+    const QVariantMap record = RecordCodec::decode(_store->record(id), nullptr);
+    const bool wantsPhotoSet = integerValue(record.value(QStringLiteral("photoSetID"))) != 0;
     const Verdict verdict = FailureClassifier::verdictOnFlickrRun(outcome, wantsPhotoSet);
     if (stopReason == StopReason::Remove) {
         _forget(job);

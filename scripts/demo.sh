@@ -35,9 +35,9 @@ export DBUS_SESSION_BUS_ADDRESS
 if [ ${#files[@]} -eq 0 ]; then
   echo "Making three photos..."
   make() { ffmpeg -v error -f lavfi -i "$1" -frames:v 1 -q:v 2 "$demo/made/$2" </dev/null; }
-  make 'mandelbrot=s=2400x1600:start_scale=0.35' fractal.jpg
-  make 'gradients=s=1800x1200:c0=orange:c1=purple:x0=0:y0=0:x1=1800:y1=1200' sunset.png
-  make 'life=s=600x400:mold=10:ratio=0.1:death_color=navy:life_color=white,scale=1800:1200:flags=neighbor' garden.jpg
+  make 'mandelbrot=s=2400x1600:start_x=-0.7436:start_y=-0.1318:start_scale=0.004:maxiter=2000' fractal.jpg
+  make 'gradients=s=1800x1200:type=radial:c0=0xffe29a:c1=0xff6f61:c2=0x4b2e83:c3=0x0b1033:n=4:x0=900:y0=980:x1=1800:y1=0' dawn.png
+  make 'gradients=s=1800x1200:type=spiral:c0=0x0b6e4f:c1=0xf2c14e:c2=0xe4572e:c3=0x17bebb:n=4:seed=7' leaf.jpg
   files=("$demo"/made/*)
 fi
 

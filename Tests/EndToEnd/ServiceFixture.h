@@ -6,11 +6,15 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 namespace korvane::test {
 
 class ServiceTest : public ::testing::Test, public ServiceHarness {
 public:
     void TearDown() override {
+        killService(SIGTERM);
+        EXPECT_FALSE(log().contains(QStringLiteral("Sanitizer")));
         if (HasFailure()) printf("service log:\n%s\n", log().toLocal8Bit().constData());
     }
 };

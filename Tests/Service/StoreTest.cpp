@@ -199,4 +199,8 @@ TEST(PostCheck, ObjectsToWhatTheUploadCodeWouldDieOf) {
     const auto file = std::make_shared<const FileDescriptor>(::open(photo.constData(), O_RDONLY));
     post->photoData = NSData::dataWithFile(file, 50, 100);
     EXPECT_TRUE(objection(post).contains(QStringLiteral("damaged")));
+
+    home.file(QStringLiteral("library/clip.mp4"), QByteArray::fromHex("00000020667479706d703432000000006d7034326d7034316973366d61766331") + "moov");
+    post->assetURL = NSURL::URLWithString(QStringLiteral("assets-library://asset/asset.MP4?id=pictures%2Fclip.mp4&ext=MP4"));
+    EXPECT_TRUE(objection(post).contains(QStringLiteral("is a video")));
 }

@@ -53,7 +53,7 @@ TEST(WireRecord, RefusesWhatTheBusWouldGarbleOrDieOf) {
         {QStringList{QStringLiteral("ok"), QString(QChar::Null)}, "NUL"},
         {QUrl(QStringLiteral("http://a")), "QUrl"},
         {QVariant(), "key"},
-        {QString(12 * 1024 * 1024, u'x'), "Too much"},
+        {QString(40 * 1024 * 1024, u'x'), "Too much"},
     };
     for (const auto &[value, expected] : cases) {
         std::optional<NSError> error;
