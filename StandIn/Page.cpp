@@ -30,7 +30,7 @@ nav b { color: var(--accent); font-weight: 600; margin-left: 6px; }
 .grid { display: grid; grid-template-columns: repeat(auto-fill, minmax(250px, 1fr)); gap: 20px; padding-bottom: 48px; }
 article { background: var(--card); border: 1px solid var(--line); border-radius: 14px; overflow: hidden;
   display: flex; flex-direction: column; }
-article > a { display: block; aspect-ratio: 4 / 3; background: var(--empty); }
+article > a { display: block; text-decoration: none; aspect-ratio: 4 / 3; background: var(--empty); }
 article img { width: 100%; height: 100%; object-fit: cover; display: block; }
 article .blank { height: 100%; display: grid; place-items: center; color: var(--soft); font-size: 13px; }
 .text { padding: 12px 16px 14px; display: flex; flex-direction: column; gap: 6px; flex: 1; }
@@ -96,7 +96,7 @@ QByteArray chipsOf(const Photo &photo, const std::map<qint64, QString> &albumTit
     QByteArray chips = "<div class=\"chips\"><span class=\"chip who\">" + audienceOf(photo) + "</span>";
     if (isSet(photo, "hidden")) chips += "<span class=\"chip\">Hidden from searches</span>";
     for (const qint64 album : photo.albums)
-        chips += "<span class=\"chip\" title=\"Album\">&#128193; " + escaped(albumTitles.at(album)) + "</span>";
+        chips += "<span class=\"chip\" title=\"Album\">in " + escaped(albumTitles.at(album)) + "</span>";
     for (const QString &tag : tagsOf(valueOf(photo.parameters, "tags")))
         chips += "<span class=\"chip\" title=\"Tag\">#" + escaped(tag) + "</span>";
     return chips + "</div>";

@@ -50,6 +50,8 @@ std::optional<int> number(const QCommandLineParser &parser, const QString &name,
 }
 
 int serve(const standin::StandInOptions &options) {
+    // A shell starts background jobs with SIGINT ignored, and an ignored signal never reaches sigwait().
+    std::signal(SIGINT, SIG_DFL);
     sigset_t ends;
     sigemptyset(&ends);
     sigaddset(&ends, SIGINT);

@@ -109,6 +109,7 @@ TEST_F(FaultyService, StopsAtOnceWithRequestsUnderWayAndStartsAgainOnTheSamePort
     server.on("upload").hang();
     Client hanging(server);
     hanging.write(hanging.uploadRequest({}, jpeg(1000)));
+    ASSERT_TRUE(waitFor([&] { return !server.requests().empty() && server.requests()[0].photoBytes == 1000; }));
     Client halfSent(server);
     halfSent.write(halfSent.uploadRequest({}, jpeg(1000)).chopped(100));
     ASSERT_TRUE(waitFor([&] { return server.requests().size() == 2; }));
