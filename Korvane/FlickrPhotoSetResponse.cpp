@@ -21,6 +21,10 @@ FlickrPhotoSet photoSetOf(const QHash<QString, QString> &attributes) {
 } // namespace
 
 std::shared_ptr<FlickrPhotoSetResponse> FlickrPhotoSetResponse::responseWithData(const std::optional<NSData> &body) {
+    return initWithData(body);
+}
+
+std::shared_ptr<FlickrPhotoSetResponse> FlickrPhotoSetResponse::initWithData(const std::optional<NSData> &body) {
     const auto response = std::make_shared<FlickrPhotoSetResponse>();
     response->_initWithData(body);
     return response;

@@ -14,6 +14,7 @@ class FlickrPhotoSetResponse : private NSXMLParserDelegate {
 public:
     // Parses the body before it returns.
     static std::shared_ptr<FlickrPhotoSetResponse> responseWithData(const std::optional<NSData> &body);
+    static std::shared_ptr<FlickrPhotoSetResponse> initWithData(const std::optional<NSData> &body);
 
     std::vector<FlickrPhotoSet> photoSets; // the no-set entry first, then the user's sets in the answer's order
     qint64 stage = 0;                      // what the characters belong to: 0 nothing, 1 a title, 2 a description

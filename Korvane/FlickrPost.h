@@ -62,7 +62,7 @@ private:
     QString _photoContentType() const;
     void _uploadAnswered(const std::optional<NSData> &body, const std::shared_ptr<ACAccount> &account,
                          const Completion &completion);
-    void _addToPhotoSet(const std::shared_ptr<ACAccount> &account, const Completion &completion);
+    void _addToPhotoSet(qint64 uploadedPhotoID, const std::shared_ptr<ACAccount> &account, const Completion &completion);
 };
 
 } // namespace korvane

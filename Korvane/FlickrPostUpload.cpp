@@ -30,7 +30,7 @@ bool FlickrPost::uploadToAccount(const std::shared_ptr<ACAccount> &account, cons
     if (!account) return false;
     if (photoID != 0) {
         if (photoSetID != 0)
-            _addToPhotoSet(account, completion);
+            _addToPhotoSet(photoID, account, completion);
         else
             dispatchMain([completion] { completion(std::nullopt); });
         return true;
@@ -120,23 +120,23 @@ void FlickrPost::_uploadAnswered(const std::optional<NSData> &body, const std::s
         if (response->errorDescription) userInfo.insert(NSLocalizedDescriptionKey, *response->errorDescription);
         return completion(NSError(FlickrResponseErrorDomain, response->errorCode, userInfo));
     }
-    photoID = response->photoID;
-    if (checkpoint && photoID != 0) checkpoint(photoID);
+    if (checkpoint && response->photoID != 0) checkpoint(response->photoID);
     if (photoSetID == 0) return completion(std::nullopt);
-    _addToPhotoSet(account, completion);
+    _addToPhotoSet(response->photoID, account, completion);
 }
 
 // The photo is on Flickr by now: whatever becomes of its place in the set, the upload has succeeded.
-void FlickrPost::_addToPhotoSet(const std::shared_ptr<ACAccount> &account, const Completion &completion) {
+void FlickrPost::_addToPhotoSet(qint64 uploadedPhotoID, const std::shared_ptr<ACAccount> &account,
+                                const Completion &completion) {
     const QVariantMap parameters{{QStringLiteral("method"), QStringLiteral("flickr.photosets.addPhoto")},
                                  {QStringLiteral("photoset_id"), QString::number(photoSetID)},
-                                 {QStringLiteral("photo_id"), QString::number(photoID)}};
+                                 {QStringLiteral("photo_id"), QString::number(uploadedPhotoID)}};
     const auto self = std::static_pointer_cast<FlickrPost>(shared_from_this());
     sendRequestToEndPoint(
         RESTEndPoint(), parameters, [account](SLRequest &request) { request.setAccount(account); },
-        [self, completion](const std::optional<NSData> &, const std::optional<NSError> &error) {
+        [self, uploadedPhotoID, completion](const std::optional<NSData> &, const std::optional<NSError> &error) {
             if (error)
-                NSLog("########### Failed to add %lli to photo set %lli! %@", self->photoID, self->photoSetID, error);
+                NSLog("########### Failed to add %lli to photo set %lli! %@", uploadedPhotoID, self->photoSetID, error);
             completion(std::nullopt);
         });
 }

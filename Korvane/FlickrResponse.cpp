@@ -13,7 +13,7 @@ namespace {
 
 std::optional<QString> textOf(const std::optional<NSData> &body) {
     if (!body) return std::nullopt;
-    QStringDecoder decoder(QStringDecoder::Utf8);
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder(body->bytes());
     return decoder.hasError() ? std::nullopt : std::optional(text);
 }
@@ -26,6 +26,10 @@ std::optional<QString> attribute(const QHash<QString, QString> &attributes, cons
 } // namespace
 
 std::shared_ptr<FlickrResponse> FlickrResponse::responseWithData(const std::optional<NSData> &body) {
+    return initWithData(body);
+}
+
+std::shared_ptr<FlickrResponse> FlickrResponse::initWithData(const std::optional<NSData> &body) {
     const auto response = std::make_shared<FlickrResponse>();
     response->_initWithData(body);
     return response;

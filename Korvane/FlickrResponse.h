@@ -14,6 +14,7 @@ class FlickrResponse : private NSXMLParserDelegate {
 public:
     // Parses the body before it returns.
     static std::shared_ptr<FlickrResponse> responseWithData(const std::optional<NSData> &body);
+    static std::shared_ptr<FlickrResponse> initWithData(const std::optional<NSData> &body);
 
     bool isSuccess() const { return success; }
 

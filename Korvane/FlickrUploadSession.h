@@ -21,7 +21,8 @@ public:
 
     // Blocks, without a time limit, until the service has replied. Returns what it replied; its error is placed also when it
     // replied YES. An empty batch is sent as it is.
-    bool uploadPosts(const std::vector<std::shared_ptr<FlickrPost>> &posts, std::optional<NSError> *error);
+    bool uploadPosts(const std::vector<std::shared_ptr<FlickrPost>> &posts,
+                     std::optional<NSError> *error = nullptr);
 
     // The id under which the service knows the last hand-over; empty before the first.
     QString lastMessageID() const;

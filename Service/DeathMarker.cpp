@@ -27,8 +27,12 @@ void leaveMarker(int signal) {
 
 } // namespace
 
-bool DeathMarker::takeFromLastLife(const QString &path) {
-    return QFile::remove(path);
+bool DeathMarker::isThere(const QString &path) {
+    return QFile::exists(path);
+}
+
+void DeathMarker::remove(const QString &path) {
+    QFile::remove(path);
 }
 
 void DeathMarker::watch(const QString &path) {

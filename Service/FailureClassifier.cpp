@@ -76,7 +76,8 @@ Verdict verdictOnAnswer(const NSError &error, int status) {
     const QString message = redacted(error.localizedDescription().simplified().left(longestShownAnswer));
     if (error.code() == 105 || error.code() == 106)
         return waiting(WaitReason::NextTry, error, QStringLiteral("Flickr is not available just now: %1").arg(message));
-    if (error.code() == -1)
+    const bool saysNothing = error.code() == 0 && !error.userInfo().contains(NSLocalizedDescriptionKey);
+    if (error.code() == -1 || saysNothing)
         return failed(error, QStringLiteral("Flickr's answer was not understood (HTTP status %1). Retry later.").arg(status));
     return failed(error, QStringLiteral("Flickr refused the photo: %1 (code %2). %3")
                              .arg(message)
@@ -88,6 +89,7 @@ Verdict verdictOnAnswer(const NSError &error, int status) {
 // reached is asked for again, without the photo.
 Verdict verdictOnPhotoSet(const RunOutcome &outcome) {
     const auto &request = outcome.lastRequest;
+    if (outcome.photoID == 0) return {}; // an "ok" without an id: nothing could be asked for without sending the photo again
     const QString text = QStringLiteral("The photo is on Flickr; adding it to its album is still to be done. %1");
     if (request.transportError)
         return waiting(WaitReason::Network, *request.transportError,
@@ -103,6 +105,8 @@ Verdict verdictOnPhotoSet(const RunOutcome &outcome) {
 Verdict FailureClassifier::verdictOnFlickrRun(const RunOutcome &outcome, bool wantsPhotoSet) {
     if (outcome.end == RunOutcome::Unusable)
         return {UploadState::Failed, WaitReason::None, outcome.error};
+    if (outcome.end == RunOutcome::Hindered)
+        return {UploadState::Waiting, WaitReason::NextTry, outcome.error};
     if (outcome.end == RunOutcome::NoAccount)
         return {UploadState::Waiting, WaitReason::SignIn, outcome.error};
     if (!outcome.error) return wantsPhotoSet ? verdictOnPhotoSet(outcome) : Verdict{};

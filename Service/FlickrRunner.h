@@ -11,10 +11,13 @@
 
 namespace korvane {
 
+class ACAccountStore;
+
 struct FlickrRun {
     UploadJob job;
     QVariantMap record;
     std::shared_ptr<UploadContext> context;
+    std::shared_ptr<ACAccountStore> accounts;
     std::function<void(qint64 photoID)> answered;        // as soon as Flickr has given the photo an id; main thread
     std::function<void(const RunOutcome &outcome)> ended; // exactly once; main thread
 };

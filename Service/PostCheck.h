@@ -12,8 +12,14 @@ namespace PostCheck {
 
 extern const QString ErrorDomain;
 
-// Why the post cannot be uploaded, and what to do; null if it can. May block on a slow disk.
-std::optional<NSError> objection(const FlickrPost &post, const UploadJob &job);
+struct Objection {
+    NSError error;        // why the post cannot be uploaded, and what to do
+    bool mayPass = false; // it may be possible later without anybody doing anything
+};
+
+// Makes the post ready: a file is opened here, compared with the one that was shared, and stays the one that is sent, whatever
+// happens to its name. Null if the post can be uploaded. May block on a slow disk.
+std::optional<Objection> prepare(FlickrPost &post, const UploadJob &job);
 
 } // namespace PostCheck
 

@@ -39,7 +39,7 @@ std::optional<QString> PrivateBus::start(std::optional<NSError> *error) {
                    QStringLiteral("--address=unix:path=") + socket, QStringLiteral("--print-address")});
     if (_daemon.waitForReadyRead(startMilliseconds)) return QString::fromLocal8Bit(_daemon.readLine()).trimmed();
     setError(error, NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorUnreachable,
-                                                  QStringLiteral("dbus-daemon could not be started: %1").arg(_daemon.errorString())));
+                                                  QStringLiteral("dbus-daemon could not be started at %1").arg(socket)));
     return std::nullopt;
 }
 

@@ -13,6 +13,7 @@ struct RunOutcome {
     enum End {
         Finished,  // the upload code ran to its end; error says how
         Unusable,  // the post was not begun, since it cannot be uploaded; error says why
+        Hindered,  // not begun either, but it may be possible later; error says why
         NoAccount, // the account is gone or its credential cannot be read
     };
 

@@ -5,6 +5,7 @@
 #include "Platform/Social/UploadsInterface.h"
 
 #include <QDBusArgument>
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QFile>
@@ -33,23 +34,23 @@ bool StatusInterface::_handleProperties(const QDBusMessage &message) {
     const bool all = message.member() == QLatin1String("GetAll") && message.signature() == QLatin1String("s");
     if (!one && !all) return false;
     message.setDelayedReply(true);
-    _answerWithProperties(message, one ? message.arguments().at(1).toString() : QString());
+    _answerWithProperties(message, one ? std::optional(message.arguments().at(1).toString()) : std::nullopt);
     return true;
 }
 
-void StatusInterface::_answerWithProperties(const QDBusMessage &message, const QString &only) {
+void StatusInterface::_answerWithProperties(const QDBusMessage &message, const std::optional<QString> &only) {
     QVariantMap properties = ServiceSettings::current().dictionary();
     properties.insert(QStringLiteral("Paused"), _queue->isPaused());
     properties.insert(QStringLiteral("Version"), QStringLiteral(KORVANE_VERSION));
     _queue->counts([=, bus = _bus](const QVariant &counts) {
         QVariantMap values = properties;
         values.insert(QStringLiteral("Counts"), counts);
-        if (only.isEmpty())
+        if (!only)
             bus.send(message.createReply(values));
-        else if (values.contains(only))
-            bus.send(message.createReply(QVariant::fromValue(QDBusVariant(values.value(only)))));
+        else if (values.contains(*only))
+            bus.send(message.createReply(QVariant::fromValue(QDBusVariant(values.value(*only)))));
         else
-            bus.send(message.createErrorReply(QDBusError::UnknownProperty, only));
+            bus.send(message.createErrorReply(QDBusError::UnknownProperty, *only));
     });
 }
 
@@ -73,7 +74,7 @@ bool StatusInterface::_handleUploads(const QDBusMessage &message) {
     else if (call == QLatin1String("Pause()") || call == QLatin1String("Resume()"))
         _queue->setPaused(message.member() == QLatin1String("Pause"), _replyTo(message));
     else
-        return false;
+        _bus.send(message.createErrorReply(QDBusError::UnknownMethod, QStringLiteral("There is no method %1.").arg(call)));
     return true;
 }
 

@@ -28,7 +28,7 @@ public:
 private:
     bool _handleProperties(const QDBusMessage &message);
     bool _handleUploads(const QDBusMessage &message);
-    void _answerWithProperties(const QDBusMessage &message, const QString &only);
+    void _answerWithProperties(const QDBusMessage &message, const std::optional<QString> &only);
     UploadQueue::Answer _replyTo(const QDBusMessage &message) const;
     void _send(const QString &signal, const QVariantList &arguments) const;
 

@@ -11,17 +11,21 @@ namespace {
 
 constexpr qsizetype longestTitle = 500; // of what lists show; the record keeps the whole
 
-QString accountInUse(const QString &service) {
-    const ACAccountStore store;
+QString text(const QVariantMap &record, const QString &key) {
+    const QVariant value = record.value(key);
+    return value.typeId() == QMetaType::QString ? value.toString() : QString();
+}
+
+std::shared_ptr<ACAccount> accountInUse(const QString &service, const ACAccountStore &store) {
     const auto type = store.accountTypeWithAccountTypeIdentifier(service == flickrServiceID ? ACAccountTypeIdentifierFlickr
                                                                                             : ACAccountTypeIdentifierVimeo);
     const auto accounts = store.accountsWithAccountType(type);
-    return accounts.empty() ? QString() : accounts.back()->identifier();
+    return accounts.empty() ? nullptr : accounts.back();
 }
 
 // The size of what will be sent, as far as it is known now, and the identity of a file that will be read in place.
 void describeSource(const QVariantMap &record, UploadJob &job) {
-    const auto url = NSURL::URLWithString(record.value(QStringLiteral("assetURL")).toString());
+    const auto url = NSURL::URLWithString(text(record, QStringLiteral("assetURL")));
     if (url && url->isFileURL()) {
         job.source = FileIdentity::ofPath(url->fileSystemRepresentation());
         job.bytesTotal = job.source ? job.source->size : 0;
@@ -35,11 +39,12 @@ void describeSource(const QVariantMap &record, UploadJob &job) {
 }
 
 NewUpload uploadOfRecord(const QString &service, const QVariantMap &record, const RemoteMessage &message,
-                         const QString &spoolFile, const QString &account) {
+                         const QString &spoolFile, const std::shared_ptr<ACAccount> &account) {
     NewUpload upload;
     upload.job.service = service;
-    upload.job.title = record.value(QStringLiteral("title")).toString().left(longestTitle);
-    upload.job.accountID = account;
+    upload.job.title = text(record, QStringLiteral("title")).left(longestTitle);
+    upload.job.accountID = account ? account->identifier() : QString();
+    upload.job.accountName = account ? account->username() : QString();
     upload.job.createdAt = QDateTime::currentMSecsSinceEpoch();
     describeSource(record, upload.job);
     for (const QVariant &value : record)
@@ -52,14 +57,14 @@ NewUpload uploadOfRecord(const QString &service, const QVariantMap &record, cons
 
 std::optional<TakenMessage> TakeOver::prepare(const QString &service, const QVariantList &records,
                                               const RemoteMessage &message, const Spool &spool,
-                                              std::optional<NSError> *error) {
+                                              const ACAccountStore &accounts, std::optional<NSError> *error) {
     TakenMessage taken;
     if (message.dataFile) {
         const auto name = spool.adopt(message.dataFile->get(), error);
         if (!name) return std::nullopt;
         taken.spoolFile = *name;
     }
-    const QString account = accountInUse(service);
+    const auto account = accountInUse(service, accounts);
     for (const QVariant &record : records)
         taken.uploads.push_back(uploadOfRecord(service, record.toMap(), message, taken.spoolFile, account));
     return taken;

@@ -25,6 +25,7 @@ struct UploadJob {
     WaitReason waitReason = WaitReason::None;
     QString title;
     QString accountID;                   // empty until an account of the service exists
+    QString accountName;                 // its user's name, by which it is found when it was removed and added again
     QString spoolFile;                   // name in the spool; empty if the record holds all its data
     std::optional<FileIdentity> source;  // of the file that a "file" URL named when the post was taken over
     qint64 photoID = 0;                  // what Flickr answered with, once it has

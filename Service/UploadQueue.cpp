@@ -17,6 +17,8 @@ namespace korvane {
 namespace {
 
 constexpr qint64 messageMemory = 7 * 24 * 3'600'000LL; // how long a lost reply may be asked for again
+constexpr qint64 recordAgainAfter = 10'000;
+constexpr qint64 accountHold = 60'000; // an account that is added ends it
 
 qint64 now() {
     return QDateTime::currentMSecsSinceEpoch();
@@ -38,10 +40,10 @@ bool UploadQueue::open(bool fatalDeath, std::optional<NSError> *error) {
         _store = std::make_unique<UploadStore>();
         opened = _store->open(_folder + QStringLiteral("/queue.sqlite"), error);
         if (!opened) return;
-        for (const UploadJob &job : _store->recover(fatalDeath, now()))
+        for (const UploadJob &job : _store->recover(fatalDeath, now(), _policy.delays.back()))
             NSLog("Upload %lli was set aside: the service ended fatally while it ran, twice.", job.id);
         _store->forgetMessagesBefore(now() - messageMemory);
-        _spool.sweep(_store->spoolFiles());
+        if (const auto known = _store->spoolFiles()) _spool.sweep(*known);
         _paused = _store->isPaused();
     });
     return opened;
@@ -60,16 +62,21 @@ void UploadQueue::takeOver(const QString &service, const QVariantList &records, 
     if (records.isEmpty())
         return reply(false, NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNothingToShare,
                                                           QStringLiteral("There is nothing to share.")));
+    ++_takeOvers;
     // Large data takes its time to reach the disk; the queue goes on meanwhile.
     dispatchGlobal([=, this] {
         std::optional<NSError> error;
-        auto taken = TakeOver::prepare(service, records, message, _spool, &error);
-        if (!taken) return reply(false, error);
-        _queue.async([=, this, taken = std::move(*taken)] { _taken(message.id, taken, reply); });
+        const auto taken = TakeOver::prepare(service, records, message, _spool, *_accounts, &error);
+        if (!taken) reply(false, error);
+        _queue.async([=, this] {
+            if (taken) _taken(message.id, *taken, reply);
+            --_takeOvers;
+            _endIfStopped();
+        });
     });
 }
 
-void UploadQueue::_taken(const QString &messageID, TakenMessage taken, const XPCTransferCompletion &reply) {
+void UploadQueue::_taken(const QString &messageID, const TakenMessage &taken, const XPCTransferCompletion &reply) {
     std::optional<NSError> error;
     const bool known = _store->knowsMessage(messageID);
     const bool kept = !known && _store->take(messageID, taken.uploads, &error);
@@ -82,7 +89,7 @@ void UploadQueue::_taken(const QString &messageID, TakenMessage taken, const XPC
 }
 
 void UploadQueue::_schedule() {
-    if (!_started || _paused || _stopped || _suspectRuns) return;
+    if (!_started || _paused || _stopped || _suspectRuns || !_unrecorded.empty()) return;
     // What may have ended the service before is tried alone, so that its end names the culprit.
     if (const auto suspect = _store->suspect()) {
         if (_running.empty() && _holds[suspect->service].until <= now()) _start(*suspect);
@@ -95,15 +102,20 @@ void UploadQueue::_scheduleService(const QString &service, int limit) {
     const qint64 free = limit - qint64(_runningOf(service));
     if (free <= 0 || _holds[service].until > now()) return;
     for (const UploadJob &job : _store->queued(service, int(free)))
-        _start(job);
+        if (!_start(job)) return _armWake();
 }
 
-void UploadQueue::_start(UploadJob job) {
-    if (!_pinAccount(job)) return;
+// False where the service's uploads must wait for something.
+bool UploadQueue::_start(UploadJob job) {
+    if (!_pinAccount(job)) return false;
     job.state = UploadState::Running;
     ++job.attempts;
     job.error.reset();
-    if (!_store->update(job, false)) return;
+    if (!_store->update(job, false)) {
+        job.state = UploadState::Queued;
+        _unrecorded[job.id] = job;
+        return false;
+    }
     _suspectRuns = job.deaths > 0;
     const auto context = std::make_shared<UploadContext>();
     {
@@ -112,26 +124,28 @@ void UploadQueue::_start(UploadJob job) {
     }
     _announce(job);
     const auto data = job.spoolFile.isEmpty() ? nullptr : _spool.open(job.spoolFile);
-    FlickrRunner::start({job, RecordCodec::decode(_store->record(job.id), data), context,
+    FlickrRunner::start({job, RecordCodec::decode(_store->record(job.id), data), context, _accounts,
                          [this, id = job.id](qint64 photoID) { _queue.async([=, this] { _answered(id, photoID); }); },
                          [this, id = job.id](const RunOutcome &outcome) { _queue.async([=, this] { _ended(id, outcome); }); }});
+    return true;
 }
 
 // A post taken over while there was no account goes to the first that appears. Without one it waits, and this is false.
 bool UploadQueue::_pinAccount(UploadJob &job) {
     if (!job.accountID.isEmpty()) return true;
-    const ACAccountStore store;
-    const auto accounts =
-        store.accountsWithAccountType(store.accountTypeWithAccountTypeIdentifier(ACAccountTypeIdentifierFlickr));
+    const auto accounts = _accounts->accountsWithAccountType(
+        _accounts->accountTypeWithAccountTypeIdentifier(ACAccountTypeIdentifierFlickr));
     if (!accounts.empty()) {
         job.accountID = accounts.back()->identifier();
+        job.accountName = accounts.back()->username();
         return true;
     }
     _apply({UploadState::Waiting, WaitReason::SignIn,
             NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable,
                                           QStringLiteral("There is no Flickr account. Add one with: korvane accounts add flickr"))},
            job);
-    _store->update(job, true);
+    _holds[job.service].until = now() + accountHold; // the others need not all find that out
+    _record(job);
     _announce(job);
     return false;
 }
@@ -143,7 +157,8 @@ void UploadQueue::_answered(qint64 id, qint64 photoID) {
         const std::lock_guard lock(_runningMutex);
         found->second.job.photoID = photoID;
     }
-    _store->update(found->second.job, false);
+    // Without an album the outcome follows at once and brings it to the disk.
+    _store->update(found->second.job, integerValue(_recordOf(id).value(QStringLiteral("photoSetID"))) != 0);
 }
 
 void UploadQueue::_ended(qint64 id, const RunOutcome &outcome) {
@@ -159,11 +174,10 @@ void UploadQueue::_ended(qint64 id, const RunOutcome &outcome) {
     job.photoID = outcome.photoID != 0 ? outcome.photoID : job.photoID;
     if (outcome.bytes != 0) job.bytesTotal = outcome.bytes;
     job.deaths = 0;
-    const QVariantMap record = RecordCodec::decode(_store->record(id), nullptr);
-    const bool wantsPhotoSet = integerValue(record.value(QStringLiteral("photoSetID"))) != 0;
+    const bool wantsPhotoSet = integerValue(_recordOf(id).value(QStringLiteral("photoSetID"))) != 0;
     const Verdict verdict = FailureClassifier::verdictOnFlickrRun(outcome, wantsPhotoSet);
     if (stopReason == StopReason::Remove) {
-        _forget(job);
+        _dropSpoolFile(job.spoolFile);
     } else {
         if (stopReason == StopReason::Pause && verdict.state != UploadState::Done)
             job.state = UploadState::Queued;
@@ -175,14 +189,32 @@ void UploadQueue::_ended(qint64 id, const RunOutcome &outcome) {
             _holds.erase(job.service);
             _schedule(); // the photo's id is recorded: the next run need not wait until the outcome has reached the disk
         }
-        _store->update(job, true);
-        if (job.state == UploadState::Done) _dropSpoolFile(spoolFile);
+        if (_record(job) && job.state == UploadState::Done) _dropSpoolFile(spoolFile);
         _announce(job);
         if (job.finishedAt != 0 && _observer.finished) _observer.finished(job);
     }
     _schedule();
     _armWake();
-    if (_stopped && _running.empty()) _stopped();
+    _endIfStopped();
+}
+
+void UploadQueue::_endIfStopped() {
+    if (_stopped && _running.empty() && _takeOvers == 0) _stopped();
+}
+
+// An outcome that the disk does not take now is kept and written later.
+bool UploadQueue::_record(const UploadJob &job) {
+    if (_store->update(job, true)) return true;
+    _unrecorded[job.id] = job;
+    return false;
+}
+
+void UploadQueue::_recordAgain() {
+    std::erase_if(_unrecorded, [this](const auto &entry) { return _store->update(entry.second, true); });
+}
+
+QVariantMap UploadQueue::_recordOf(qint64 id) const {
+    return RecordCodec::decode(_store->record(id), nullptr);
 }
 
 void UploadQueue::_apply(const Verdict &verdict, UploadJob &job) {
@@ -214,10 +246,12 @@ void UploadQueue::_wait(UploadJob &job, const Verdict &verdict) {
         hold.until = now() + _policy.delayAfter(++hold.failures);
 }
 
-void UploadQueue::_forget(const UploadJob &job) {
-    _store->remove(job.id);
-    _dropSpoolFile(job.spoolFile);
-    if (_observer.removed) _observer.removed(QString::number(job.id));
+void UploadQueue::_forget(const std::vector<UploadJob> &jobs) {
+    _store->remove(jobs);
+    for (const UploadJob &job : jobs) {
+        if (!_running.contains(job.id)) _dropSpoolFile(job.spoolFile);
+        if (_observer.removed) _observer.removed(QString::number(job.id));
+    }
 }
 
 // A spool file holds the data of all posts of a message; the last of them takes it along.
@@ -232,7 +266,7 @@ void UploadQueue::_requeue(std::vector<UploadJob> jobs) {
         job.nextTryAt = 0;
         job.finishedAt = 0;
         job.error.reset();
-        _store->update(job, false);
+        if (!_store->update(job, false)) _unrecorded[job.id] = job;
         _announce(job);
     }
     _schedule();
@@ -243,6 +277,7 @@ void UploadQueue::_armWake() {
     std::optional<qint64> due = _store->nextDue();
     for (const auto &[service, hold] : _holds)
         if (hold.until > now()) due = std::min(due.value_or(hold.until), hold.until);
+    if (!_unrecorded.empty()) due = now() + recordAgainAfter;
     if (due && _observer.wakeAfter) _observer.wakeAfter(std::max<qint64>(0, *due - now()));
 }
 

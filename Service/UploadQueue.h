@@ -17,6 +17,8 @@
 
 namespace korvane {
 
+class ACAccountStore;
+
 // What the queue tells; called on its own thread.
 struct UploadQueueObserver {
     std::function<void(const QVariantMap &upload)> changed;
@@ -44,6 +46,8 @@ public:
     // life ended by its own fault. Blocks. False, with the error placed, if the database is unusable.
     bool open(bool fatalDeath, std::optional<NSError> *error);
     void start();
+    // Where the accounts are looked for; before start().
+    void setAccountStore(std::shared_ptr<ACAccountStore> accounts) { _accounts = std::move(accounts); }
 
     // Answers once all posts are on disk, or none.
     void takeOver(const QString &service, const QVariantList &records, const RemoteMessage &message,
@@ -83,21 +87,25 @@ private:
         qint64 failures = 0;
     };
 
-    void _taken(const QString &messageID, TakenMessage taken, const XPCTransferCompletion &reply);
+    void _taken(const QString &messageID, const TakenMessage &taken, const XPCTransferCompletion &reply);
     void _schedule();
     void _scheduleService(const QString &service, int limit);
-    void _start(UploadJob job);
+    bool _start(UploadJob job);
     bool _pinAccount(UploadJob &job);
     void _answered(qint64 id, qint64 photoID);
     void _ended(qint64 id, const RunOutcome &outcome);
     void _apply(const Verdict &verdict, UploadJob &job);
     void _wait(UploadJob &job, const Verdict &verdict);
-    void _forget(const UploadJob &job);
+    bool _record(const UploadJob &job);
+    void _recordAgain();
+    void _forget(const std::vector<UploadJob> &jobs);
+    void _endIfStopped();
     void _dropSpoolFile(const QString &name);
     void _requeue(std::vector<UploadJob> jobs);
     void _stopRunning(StopReason reason);
     void _armWake();
     void _announce(const UploadJob &job);
+    QVariantMap _recordOf(qint64 id) const;
     QVariantMap _dictionary(const UploadJob &job) const;
     size_t _runningOf(const QString &service) const;
     void _answerWhenDone(std::function<QVariant()> work, const Answer &answer);
@@ -107,7 +115,10 @@ private:
     const QString _folder;
     const Spool _spool;
     std::unique_ptr<UploadStore> _store;
-    std::map<QString, Hold> _holds; // by service
+    std::shared_ptr<ACAccountStore> _accounts;
+    std::map<QString, Hold> _holds;           // by service
+    std::map<qint64, UploadJob> _unrecorded; // what the disk did not take; nothing new starts before it does
+    std::atomic<int> _takeOvers = 0;         // under way
     std::function<void()> _stopped;
     bool _started = false;
     bool _suspectRuns = false;

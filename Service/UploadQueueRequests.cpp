@@ -89,21 +89,22 @@ void UploadQueue::retry(const QStringList &ids, const Answer &answer) {
 void UploadQueue::remove(const QStringList &ids, const Answer &answer) {
     _answerWhenDone(
         [=, this] {
-            quint32 count = 0;
+            std::vector<UploadJob> jobs;
             for (const QString &id : ids) {
                 const auto job = _store->job(id.toLongLong());
                 if (!job) continue;
-                ++count;
+                jobs.push_back(*job);
+                _unrecorded.erase(job->id);
                 const auto running = _running.find(job->id);
-                if (running == _running.end()) {
-                    _forget(*job);
-                } else {
-                    running->second.stopReason = StopReason::Remove;
-                    running->second.context->cancel();
-                }
+                if (running == _running.end()) continue;
+                running->second.stopReason = StopReason::Remove;
+                running->second.context->cancel();
             }
+            _forget(jobs);
+            if (_store->waiting(WaitReason::Network).empty()) _holds.clear();
+            _schedule();
             _armWake();
-            return QVariant(count);
+            return QVariant(quint32(jobs.size()));
         },
         answer);
 }
@@ -112,8 +113,7 @@ void UploadQueue::clear(const Answer &answer) {
     _answerWhenDone(
         [this] {
             const auto done = _store->done();
-            for (const UploadJob &job : done)
-                _forget(job);
+            _forget(done);
             return QVariant(quint32(done.size()));
         },
         answer);
@@ -124,17 +124,22 @@ void UploadQueue::setPaused(bool paused, const Answer &answer) {
         [=, this] {
             _paused = paused;
             _store->setPaused(paused);
-            if (paused)
+            if (paused) {
                 _stopRunning(StopReason::Pause);
-            else
+            } else {
+                _holds.clear();
                 _schedule();
+            }
             return QVariant();
         },
         answer);
 }
 
 void UploadQueue::wake() {
-    _queue.async([this] { _requeue(_store->dueBefore(QDateTime::currentMSecsSinceEpoch())); });
+    _queue.async([this] {
+        _recordAgain();
+        _requeue(_store->dueBefore(QDateTime::currentMSecsSinceEpoch()));
+    });
 }
 
 void UploadQueue::networkReturned() {
@@ -145,14 +150,17 @@ void UploadQueue::networkReturned() {
 }
 
 void UploadQueue::accountsChanged() {
-    _queue.async([this] { _requeue(_store->waiting(WaitReason::SignIn)); });
+    _queue.async([this] {
+        _holds.clear();
+        _requeue(_store->waiting(WaitReason::SignIn));
+    });
 }
 
 void UploadQueue::stop(const std::function<void()> &stopped) {
     _queue.async([=, this] {
         _stopped = stopped;
         _stopRunning(StopReason::Pause);
-        if (_running.empty()) stopped();
+        _endIfStopped();
     });
 }
 

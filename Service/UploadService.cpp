@@ -9,13 +9,16 @@
 #include "Service/DeathMarker.h"
 
 #include <QCoreApplication>
+#include <QDBusConnectionInterface>
 #include <QDBusError>
 #include <QDir>
 #include <QFile>
 #include <QThread>
 
 #include <sys/file.h>
+#include <unistd.h>
 
+#include <cerrno>
 #include <chrono>
 
 namespace korvane {
@@ -38,9 +41,10 @@ UploadService::UploadService(bool privateBus)
 UploadService::~UploadService() = default;
 
 UploadService::StartResult UploadService::start() {
-    if (!_lockQueue()) {
-        NSLog("Another upload service is running for this user.");
-        return AlreadyRunning;
+    switch (_lockQueue()) {
+    case Locked: break;
+    case TakenByAnother: return _otherIsOnOurBus() ? AlreadyRunning : Unable;
+    case Unusable: return Unable;
     }
     std::optional<NSError> error;
     const auto address = _busAddress(&error);
@@ -59,14 +63,28 @@ UploadService::StartResult UploadService::start() {
     return Running;
 }
 
-bool UploadService::_lockQueue() {
+UploadService::Lock UploadService::_lockQueue() {
     const QByteArray path = QFile::encodeName(_folder + QStringLiteral("/queue.lock"));
     _lock = FileDescriptor(::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
+    if (!_lock) {
+        NSLog("%@", NSError::errorWithErrno(errno, QStringLiteral("The folder %1 cannot be used").arg(_folder)));
+        return Unusable;
+    }
     for (int attempt = 0; attempt < lockAttempts; ++attempt) {
-        if (::flock(_lock.get(), LOCK_EX | LOCK_NB) == 0) return true;
+        if (::flock(_lock.get(), LOCK_EX | LOCK_NB) == 0) return Locked;
         QThread::msleep(lockAttemptMilliseconds);
     }
-    return false;
+    return TakenByAnother;
+}
+
+// A second service on the same bus is no trouble; one on another bus cannot be reached from here, so this start has failed.
+bool UploadService::_otherIsOnOurBus() {
+    const auto address = SessionBus::address();
+    if (address) _bus = QDBusConnection::connectToBus(*address, QStringLiteral("korvane-uploadd"));
+    const bool reachable = _bus.isConnected() && _bus.interface()->isServiceRegistered(FlickrRemoteServiceName);
+    NSLog(reachable ? "Another upload service is running for this user."
+                    : "Another upload service is running for this user, on another session bus. End it first.");
+    return reachable;
 }
 
 std::optional<QString> UploadService::_busAddress(std::optional<NSError> *error) {
@@ -75,14 +93,15 @@ std::optional<QString> UploadService::_busAddress(std::optional<NSError> *error)
 
 bool UploadService::_openQueue(std::optional<NSError> *error) {
     const QString marker = _folder + QStringLiteral("/death-marker");
-    const bool fatalDeath = DeathMarker::takeFromLastLife(marker);
     DeathMarker::watch(marker);
     QDir(_folder + QStringLiteral("/tmp")).removeRecursively();
     setTemporaryDirectory(_folder + QStringLiteral("/tmp"));
     _status = std::make_unique<StatusInterface>(_bus);
     _notifier = std::make_unique<Notifier>(_bus);
     _queue = std::make_unique<UploadQueue>(_folder, RetryPolicy::fromEnvironment(), _observer());
-    return _queue->open(fatalDeath, error);
+    if (!_queue->open(DeathMarker::isThere(marker), error)) return false;
+    DeathMarker::remove(marker);
+    return true;
 }
 
 UploadQueueObserver UploadService::_observer() {
@@ -98,6 +117,7 @@ UploadQueueObserver UploadService::_observer() {
 bool UploadService::_claimNames() {
     _flickrSession = std::make_unique<FlickrServiceSession>(*_queue);
     _vimeoSession = std::make_unique<VimeoServiceSession>(*_queue);
+    _queue->setAccountStore(_flickrSession->accountStore());
     if (!_status->registerFor(*_queue) || !_flickrSession->registerOn(_bus) || !_vimeoSession->registerOn(_bus)) {
         NSLog("The upload service's objects cannot be put on the bus: %@", _bus.lastError().message());
         return false;
@@ -154,7 +174,8 @@ void UploadService::_busLost() {
 void UploadService::stop(int exitStatus) {
     if (std::exchange(_stopping, true)) return;
     _queue->stop([exitStatus] { dispatchMain([exitStatus] { QCoreApplication::exit(exitStatus); }); });
-    QTimer::singleShot(stopLimit, this, [exitStatus] { QCoreApplication::exit(exitStatus); });
+    // All that counts is on disk; what still runs then is not worth waiting for.
+    QTimer::singleShot(stopLimit, this, [exitStatus] { ::_exit(exitStatus); });
 }
 
 } // namespace korvane

@@ -28,13 +28,16 @@ public:
     ~UploadService() override;
 
     enum StartResult { Running, AlreadyRunning, Unable };
-    // Takes the queue's lock, opens the queue and claims the names. Says in the log why it could not.
+    // Takes the queue's lock, opens the queue and claims the names. AlreadyRunning: another service has the names. Says in the
+    // log why it could not.
     StartResult start();
     // Stops uploads, keeping them queued, and then leaves the event loop with the status.
     void stop(int exitStatus);
 
 private:
-    bool _lockQueue();
+    enum Lock { Locked, TakenByAnother, Unusable };
+    Lock _lockQueue();
+    bool _otherIsOnOurBus();
     std::optional<QString> _busAddress(std::optional<NSError> *error);
     bool _openQueue(std::optional<NSError> *error);
     UploadQueueObserver _observer();

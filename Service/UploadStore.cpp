@@ -17,7 +17,8 @@ constexpr int schemaVersion = 1;
 // "state" is an UploadState; the partial index keeps the look for suspects free of cost while there are none.
 const char *const schema[] = {
     "CREATE TABLE uploads (id INTEGER PRIMARY KEY AUTOINCREMENT, service TEXT NOT NULL, state INTEGER NOT NULL, "
-    "wait_reason INTEGER NOT NULL, title TEXT NOT NULL, account TEXT NOT NULL, spool TEXT NOT NULL, source TEXT NOT NULL, "
+    "wait_reason INTEGER NOT NULL, title TEXT NOT NULL, account TEXT NOT NULL, account_name TEXT NOT NULL, "
+    "spool TEXT NOT NULL, source TEXT NOT NULL, "
     "photo INTEGER NOT NULL, bytes INTEGER NOT NULL, attempts INTEGER NOT NULL, failures INTEGER NOT NULL, "
     "failing_since INTEGER NOT NULL, deaths INTEGER NOT NULL, created INTEGER NOT NULL, finished INTEGER NOT NULL, "
     "next_try INTEGER NOT NULL, error_domain TEXT, error_code INTEGER, error_text TEXT, message TEXT NOT NULL, "
@@ -31,8 +32,8 @@ const char *const schema[] = {
     "CREATE TABLE settings (name TEXT PRIMARY KEY, value INTEGER NOT NULL)",
 };
 
-const QString columns = QStringLiteral("id, service, state, wait_reason, title, account, spool, source, photo, bytes, attempts, "
-                                       "failures, failing_since, deaths, created, finished, next_try, error_domain, "
+const QString columns = QStringLiteral("id, service, state, wait_reason, title, account, account_name, spool, source, photo, bytes, "
+                                       "attempts, failures, failing_since, deaths, created, finished, next_try, error_domain, "
                                        "error_code, error_text");
 
 QString identityText(const std::optional<FileIdentity> &identity) {
@@ -61,6 +62,7 @@ UploadJob jobOfRow(const QSqlQuery &row) {
     job.waitReason = WaitReason(number());
     job.title = text();
     job.accountID = text();
+    job.accountName = text();
     job.spoolFile = text();
     job.source = identityOf(text());
     job.photoID = number();
@@ -86,7 +88,7 @@ QString bound(const QString &text) {
 // Binds everything from "service" to "error_text", in the order of the columns.
 void bindJob(QSqlQuery &query, const UploadJob &job) {
     for (const QVariant &value : QVariantList{bound(job.service), int(job.state), int(job.waitReason), bound(job.title),
-                                              bound(job.accountID), bound(job.spoolFile), identityText(job.source),
+                                              bound(job.accountID), bound(job.accountName), bound(job.spoolFile), identityText(job.source),
                                               job.photoID, job.bytesTotal, job.attempts, job.failures, job.failingSince,
                                               job.deaths, job.createdAt, job.finishedAt, job.nextTryAt})
         query.addBindValue(value);
@@ -119,13 +121,21 @@ bool UploadStore::open(const QString &path, std::optional<NSError> *error) {
     QSqlQuery version(QStringLiteral("PRAGMA user_version"), _database);
     const int found = version.next() ? version.value(0).toInt() : -1;
     version.finish();
-    if (found == schemaVersion) return true;
+    if (found == schemaVersion) {
+        if (_isSound() || (_exec(QStringLiteral("REINDEX")) && _isSound())) return true;
+        return fail(QStringLiteral("it is damaged. Move it away to begin a new queue; the data of its posts stands in the spool beside it"));
+    }
     if (found != 0) return fail(QStringLiteral("it was written by another version of Korvane"));
     _database.transaction();
     for (const char *statement : schema)
         if (!_exec(QLatin1String(statement))) return fail(_errorText);
     _exec(QStringLiteral("PRAGMA user_version=%1").arg(schemaVersion));
     return _database.commit() || fail(_database.lastError().text());
+}
+
+bool UploadStore::_isSound() {
+    QSqlQuery check(QStringLiteral("PRAGMA quick_check(1)"), _database);
+    return check.next() && check.value(0).toString() == QLatin1String("ok");
 }
 
 bool UploadStore::take(const QString &messageID, const std::vector<NewUpload> &uploads, std::optional<NSError> *error) {
@@ -137,10 +147,10 @@ bool UploadStore::take(const QString &messageID, const std::vector<NewUpload> &u
     message.addBindValue(QDateTime::currentMSecsSinceEpoch());
     taken = taken && _run(message);
     QSqlQuery query(_database);
-    query.prepare(QStringLiteral("INSERT INTO uploads (service, state, wait_reason, title, account, spool, source, photo, bytes, "
+    query.prepare(QStringLiteral("INSERT INTO uploads (service, state, wait_reason, title, account, account_name, spool, source, photo, bytes, "
                                  "attempts, failures, failing_since, deaths, created, finished, next_try, error_domain, "
                                  "error_code, error_text, message, record) "
-                                 "VALUES (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)"));
+                                 "VALUES (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)"));
     for (const NewUpload &upload : uploads) {
         if (!taken) break;
         bindJob(query, upload.job);
@@ -231,7 +241,7 @@ bool UploadStore::update(const UploadJob &job, bool durable) {
     _setDurable(durable);
     QSqlQuery query(_database);
     query.prepare(QStringLiteral(
-        "UPDATE uploads SET service = ?, state = ?, wait_reason = ?, title = ?, account = ?, spool = ?, source = ?, photo = ?, "
+        "UPDATE uploads SET service = ?, state = ?, wait_reason = ?, title = ?, account = ?, account_name = ?, spool = ?, source = ?, photo = ?, "
         "bytes = ?, attempts = ?, failures = ?, failing_since = ?, deaths = ?, created = ?, finished = ?, next_try = ?, "
         "error_domain = ?, error_code = ?, error_text = ? WHERE id = ?"));
     bindJob(query, job);
@@ -239,12 +249,16 @@ bool UploadStore::update(const UploadJob &job, bool durable) {
     return _run(query);
 }
 
-void UploadStore::remove(qint64 id) {
+void UploadStore::remove(const std::vector<UploadJob> &jobs) {
     _setDurable(true);
+    _database.transaction();
     QSqlQuery query(_database);
     query.prepare(QStringLiteral("DELETE FROM uploads WHERE id = ?"));
-    query.addBindValue(id);
-    _run(query);
+    for (const UploadJob &job : jobs) {
+        query.addBindValue(job.id);
+        _run(query);
+    }
+    _database.commit();
 }
 
 std::vector<UploadJob> UploadStore::done() {
@@ -252,19 +266,30 @@ std::vector<UploadJob> UploadStore::done() {
 }
 
 bool UploadStore::spoolFileIsNeeded(const QString &name) {
-    return !_select(QStringLiteral("spool = ? LIMIT 1"), {name}).empty();
+    QSqlQuery query(_database);
+    query.prepare(QStringLiteral("SELECT count(*) FROM uploads WHERE spool = ?"));
+    query.addBindValue(name);
+    return !_run(query) || !query.next() || query.value(0).toInt() > 0;
 }
 
-QSet<QString> UploadStore::spoolFiles() {
+std::optional<QSet<QString>> UploadStore::spoolFiles() {
     QSet<QString> names;
-    QSqlQuery query(QStringLiteral("SELECT DISTINCT spool FROM uploads"), _database);
+    QSqlQuery query(_database);
+    query.prepare(QStringLiteral("SELECT DISTINCT spool FROM uploads"));
+    if (!_run(query)) return std::nullopt;
     while (query.next())
         names.insert(query.value(0).toString());
-    return names;
+    return query.lastError().isValid() ? std::nullopt : std::optional(names);
 }
 
-std::vector<UploadJob> UploadStore::recover(bool fatal, qint64 now) {
+std::vector<UploadJob> UploadStore::recover(bool fatal, qint64 now, qint64 longestWait) {
     std::vector<UploadJob> setAside;
+    _setDurable(true);
+    _database.transaction();
+    _exec(QStringLiteral("UPDATE uploads SET next_try = min(next_try, %1), failing_since = min(failing_since, %2) WHERE state = %3")
+              .arg(now + longestWait)
+              .arg(now)
+              .arg(int(UploadState::Waiting)));
     for (UploadJob &job : _select(QStringLiteral("state = ?"), {int(UploadState::Running)})) {
         job.state = UploadState::Queued;
         if (fatal) ++job.deaths;
@@ -279,6 +304,7 @@ std::vector<UploadJob> UploadStore::recover(bool fatal, qint64 now) {
         }
         update(job, true);
     }
+    _database.commit();
     return setAside;
 }
 

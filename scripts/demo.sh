@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Shares photos to a local stand-in of Flickr, the whole way: scripts/demo.sh [FILE...]
-# Sets up and builds first. Without files it makes some. Touches nothing outside of build/demo.
+# Sets up and builds first. Without files it makes some. Keeps everything in build/demo.
 set -euo pipefail
 files=()
 for file in "$@"; do files+=("$(realpath -- "$file")"); done
@@ -12,13 +12,13 @@ scripts/build.sh dev
 bin=$PWD/build/dev/bin
 demo=$PWD/build/demo
 rm -rf "$demo"
-mkdir -p "$demo"/{config,state,run,library/Pictures,made}
-chmod 700 "$demo/run"
-export HOME=$demo XDG_CONFIG_HOME=$demo/config XDG_STATE_HOME=$demo/state XDG_RUNTIME_DIR=$demo/run
+mkdir -p "$demo"/{config,state,library/Pictures,made}
+run=$(mktemp -d) # sockets need a short path
+export HOME=$demo XDG_CONFIG_HOME=$demo/config XDG_STATE_HOME=$demo/state XDG_RUNTIME_DIR=$run
 export XDG_DATA_DIRS=$PWD/build/dev/share:/usr/local/share:/usr/share KORVANE_PHOTO_LIBRARY=$demo/library KORVANE_SECRETS=file
 
 started=()
-trap 'for process in "${started[@]}"; do kill "$process" 2>/dev/null || true; done; wait' EXIT
+trap 'for process in "${started[@]}"; do kill "$process" 2>/dev/null || true; done; wait; rm -rf "$run"' EXIT
 
 mkfifo "$demo/ready" "$demo/address"
 "$bin/korvane-standin" --port 0 --state "$demo/standin" >"$demo/ready" &
@@ -27,7 +27,7 @@ read -r line <"$demo/ready"
 url=${line##* }
 export KORVANE_FLICKR_URL=${url%/}
 
-dbus-daemon --session --nofork --nopidfile --address="unix:path=$demo/run/demo-bus" --print-address=3 3>"$demo/address" 2>"$demo/service.log" &
+dbus-daemon --session --nofork --nopidfile --address="unix:path=$run/demo-bus" --print-address=3 3>"$demo/address" 2>"$demo/service.log" &
 started=($! "${started[@]}") # ended first: the upload service ends with its bus
 read -r DBUS_SESSION_BUS_ADDRESS <"$demo/address"
 export DBUS_SESSION_BUS_ADDRESS

@@ -35,13 +35,18 @@ std::optional<NSData> NSData::dataWithContentsOfFile(const QByteArray &path, std
         setError(error, NSError::errorWithErrno(code, QFile::decodeName(path)));
         return std::nullopt;
     };
+    if (path.contains('\0')) return fail(ENOENT);
     // O_NONBLOCK keeps a FIFO from blocking here; it means nothing to regular files.
     FileDescriptor file(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     if (!file) return fail(errno);
     struct stat status;
     if (::fstat(file.get(), &status) != 0) return fail(errno);
     if (S_ISDIR(status.st_mode)) return fail(EISDIR);
-    if (!S_ISREG(status.st_mode)) return fail(EINVAL);
+    if (!S_ISREG(status.st_mode)) {
+        setError(error, NSError::errorWithDescription(NSPOSIXErrorDomain, EINVAL,
+                                                      QFile::decodeName(path) + QStringLiteral(": not a regular file")));
+        return std::nullopt;
+    }
     return dataWithFile(std::make_shared<FileDescriptor>(std::move(file)), 0, status.st_size);
 }
 

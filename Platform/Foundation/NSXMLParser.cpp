@@ -4,13 +4,20 @@
 #include <QXmlStreamReader>
 
 namespace korvane {
+namespace {
+
+constexpr int deepestElement = 100; // the reader keeps every open element in memory
+
+} // namespace
 
 bool NSXMLParser::parse() {
     QXmlStreamReader reader(_data ? _data->bytes() : QByteArray());
     reader.setNamespaceProcessing(false);
+    int depth = 0;
     while (!reader.atEnd()) {
         switch (reader.readNext()) {
         case QXmlStreamReader::StartElement: {
+            if (++depth > deepestElement) reader.raiseError(QStringLiteral("elements are nested too deeply"));
             QHash<QString, QString> attributes;
             for (const QXmlStreamAttribute &attribute : reader.attributes())
                 attributes.insert(attribute.qualifiedName().toString(), attribute.value().toString());
@@ -21,6 +28,7 @@ bool NSXMLParser::parse() {
             if (_delegate) _delegate->parserFoundCharacters(*this, reader.text().toString());
             break;
         case QXmlStreamReader::EndElement:
+            --depth;
             if (_delegate) _delegate->parserDidEndElement(*this, reader.qualifiedName().toString());
             break;
         default: break;

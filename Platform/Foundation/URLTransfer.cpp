@@ -15,7 +15,7 @@
 namespace korvane {
 namespace {
 
-constexpr qint64 largestAnswer = 64 * 1024 * 1024;
+constexpr qint64 largestAnswer = 8 * 1024 * 1024; // a thousand albums take half of one
 constexpr long uploadBuffer = 512 * 1024;
 constexpr int longestWaitMilliseconds = 250;
 
@@ -52,7 +52,7 @@ qint64 errorCode(CURLcode code, long osError, const QString &host) {
 }
 
 QByteArray proxyExceptions() {
-    return qgetenv("no_proxy") + ",localhost,127.0.0.1,::1";
+    return qgetenv("no_proxy") + ',' + qgetenv("NO_PROXY") + ",localhost,127.0.0.1,::1";
 }
 
 } // namespace

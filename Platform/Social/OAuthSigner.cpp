@@ -34,11 +34,12 @@ QByteArray normalized(const OAuthParameters &parameters) {
 
 QString baseURI(const NSURL &url) {
     const QString scheme = url.scheme().toLower();
-    const bool namesPort = url.port() >= 0 && url.port() != (scheme == QLatin1String("https") ? 443 : 80);
-    const QString text = url.withoutQuery().absoluteString();
-    const qsizetype slash = text.indexOf(u'/', text.indexOf(QLatin1String("://")) + 3);
-    return scheme + QStringLiteral("://") + url.host().toLower() + (namesPort ? u':' + QString::number(url.port()) : QString()) +
-           (slash < 0 ? QStringLiteral("/") : text.mid(slash));
+    const QString rest = url.withoutQuery().absoluteString().mid(scheme.size() + 3);
+    const qsizetype slash = rest.indexOf(u'/');
+    QString authority = rest.left(slash).toLower(); // as in the "Host" header, an IPv6 address in its brackets
+    const QString standardPort = scheme == QLatin1String("https") ? QStringLiteral(":443") : QStringLiteral(":80");
+    if (authority.endsWith(standardPort)) authority.chop(standardPort.size());
+    return scheme + QStringLiteral("://") + authority + (slash < 0 ? QStringLiteral("/") : rest.mid(slash));
 }
 
 } // namespace

@@ -14,6 +14,7 @@
 #include <sys/un.h>
 
 #include <algorithm>
+#include <csignal>
 #include <cstring>
 
 namespace korvane {
@@ -61,14 +62,19 @@ std::optional<QString> SessionBus::addressStartingService(std::optional<NSError>
     service.setArguments({QStringLiteral("--private-bus")});
     service.setStandardOutputFile(QProcess::nullDevice()); // it must not hold on to this program's terminal or pipe
     service.setStandardErrorFile(stateFolder() + QStringLiteral("/korvane-uploadd.log"));
-    const bool started = service.startDetached();
+    qint64 pid = 0;
+    const bool started = service.startDetached(&pid);
     for (int attempt = 0; started && attempt < startAttempts; ++attempt) {
+        const bool isThere = ::kill(pid_t(pid), 0) == 0;
         if (const auto present = address()) return present;
+        if (!isThere) break;
         QThread::msleep(attemptMilliseconds);
     }
     setError(error, NSError::errorWithDescription(
                         RemoteServiceErrorDomain, RemoteServiceErrorUnreachable,
-                        QStringLiteral("There is no session bus, and the upload service could not be started (%1).").arg(program)));
+                        QStringLiteral("There is no session bus, and the upload service %1 could not be started. "
+                                       "Its log says why: %2")
+                            .arg(program, stateFolder() + QStringLiteral("/korvane-uploadd.log"))));
     return std::nullopt;
 }
 

@@ -124,11 +124,13 @@ TEST_F(Share, PauseStopsWhatRunsAndRemovalForgetsIt) {
         posts.push_back(post(jpegOfSize(100'000, i)));
     ASSERT_TRUE(share(posts));
     ASSERT_TRUE(waitForState(QStringLiteral("running"), 3));
+    ASSERT_TRUE(waitFor([&] { return flickr.server.requests().size() == 3; }));
     ask(QStringLiteral("Pause"));
     ASSERT_TRUE(waitForState(QStringLiteral("queued"), 4));
     killService(SIGTERM);
     EXPECT_EQ(countInState(QStringLiteral("queued")), 4) << "a pause outlives the service";
 
+    flickr.server.clearFaults();
     flickr.server.on("upload").hang(1);
     ask(QStringLiteral("Resume"));
     ASSERT_TRUE(waitForState(QStringLiteral("done"), 3));

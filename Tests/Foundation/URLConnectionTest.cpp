@@ -136,10 +136,10 @@ TEST(URLConnection, AFileThatChangesWhileItIsSentNeverArrivesWhole) {
     const TemporaryHome home;
     for (const bool shrinks : {true, false}) {
         const QByteArray path = home.file(QStringLiteral("photo.jpg"), jpegOfSize(20'000'000));
-        QByteArray received;
+        std::atomic<qsizetype> received = 0;
         const ScriptedServer server([&](ScriptedConnection &connection, int) {
             const QByteArray head = connection.readHead();
-            received = connection.readBody(100'000);
+            received = connection.readBody(100'000).size();
             QFile file(QFile::decodeName(path));
             file.open(QIODevice::ReadWrite);
             if (shrinks)
@@ -147,13 +147,13 @@ TEST(URLConnection, AFileThatChangesWhileItIsSentNeverArrivesWhole) {
             else
                 file.write("other");
             file.close();
-            received += connection.readBody(20'000'000 - received.size());
+            received += connection.readBody(20'000'000 - received).size();
             connection.write(okAnswer);
         });
         const Answer answer = send(post(server.url(), {*NSData::dataWithContentsOfFile(path)}));
         ASSERT_TRUE(answer.error);
         EXPECT_TRUE(answer.error->localizedDescription().contains(QStringLiteral("changed")));
-        EXPECT_LT(received.size(), 20'000'000);
+        EXPECT_LT(received, 20'000'000);
     }
 }
 

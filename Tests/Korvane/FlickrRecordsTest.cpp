@@ -97,6 +97,7 @@ TEST(FlickrResponse, ReadsTheAnswerAsItsEventsCome) {
         {"oauth_problem=token_rejected", false, 0, -1, QStringLiteral("oauth_problem=token_rejected")},
         {"<rsp stat=\"ok\"><photoid>7</photoid>", false, 7, -1, QStringLiteral("<rsp stat=\"ok\"><photoid>7</photoid>")},
         {"\xff\xfe", false, 0, -1, {}},
+        {"cut off in a character \xc3", false, 0, -1, {}},
     };
     for (const Case &test : cases) {
         SCOPED_TRACE(test.body);

@@ -50,6 +50,7 @@ TEST(FailureClassifier, TellsPassingFailuresFromFinalOnesAndSaysWhatToDo) {
         {response(-1, "oauth_problem=timestamp_refused", 401), UploadState::Failed, WaitReason::None, "clock"},
         {response(-1, "oauth_problem=nonce_used", 401), UploadState::Waiting, WaitReason::NextTry, "again"},
         {response(-1, "<html>hotel wifi</html>", 200), UploadState::Failed, WaitReason::None, "not understood"},
+        {response(0, nullptr, 404), UploadState::Failed, WaitReason::None, "not understood (HTTP status 404)"},
         {withError(FlickrPostErrorDomain, 3, nullptr), UploadState::Failed, WaitReason::None, "library"},
     };
     for (const Case &test : cases) {

@@ -110,24 +110,65 @@ TEST_F(Store, KeepsEveryFieldOverAReopening) {
 
 TEST_F(Store, AfterAKillEverythingGoesOnAndNothingIsSuspected) {
     running(3);
-    EXPECT_TRUE(store.recover(false, 1).empty());
+    EXPECT_TRUE(store.recover(false, 1, 1000).empty());
     EXPECT_EQ(store.queued(flickrServiceID, 10).size(), 3u);
     EXPECT_FALSE(store.suspect());
 }
 
 TEST_F(Store, AfterFatalEndsTheCulpritIsSetAsideAndItsNeighboursAreNot) {
     const auto jobs = running(3);
-    EXPECT_TRUE(store.recover(true, 1).empty());
+    EXPECT_TRUE(store.recover(true, 1, 1000).empty());
     ASSERT_TRUE(store.suspect());
     UploadJob culprit = *store.suspect();
     EXPECT_EQ(culprit.id, jobs[0].id);
     culprit.state = UploadState::Running;
     store.update(culprit, true);
-    const auto setAside = store.recover(true, 2);
+    const auto setAside = store.recover(true, 2, 1000);
     ASSERT_EQ(setAside.size(), 1u);
     EXPECT_EQ(setAside[0].id, culprit.id);
     EXPECT_EQ(store.job(culprit.id)->state, UploadState::Failed);
     EXPECT_EQ(store.queued(flickrServiceID, 10).size(), 2u);
+}
+
+TEST_F(Store, DrawsInTimesThatAWrongClockLeft) {
+    UploadJob job = running(1)[0];
+    job.state = UploadState::Waiting;
+    job.nextTryAt = 1'000'000;
+    job.failingSince = 1'000'000;
+    store.update(job, true);
+    store.recover(false, 500, 1000);
+    EXPECT_EQ(store.job(job.id)->nextTryAt, 1500);
+    EXPECT_EQ(store.job(job.id)->failingSince, 500);
+}
+
+TEST_F(Store, ADamagedIndexIsMadeAnewAndADamagedTableIsRefused) {
+    running(100);
+    const auto damage = [&](const char *object) {
+        qint64 page = 0;
+        {
+            auto database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("damage"));
+            database.setDatabaseName(home.path(QStringLiteral("queue.sqlite")));
+            database.open();
+            QSqlQuery(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"), database).next();
+            QSqlQuery root(QStringLiteral("SELECT rootpage FROM sqlite_master WHERE name = '%1'").arg(QLatin1String(object)), database);
+            if (root.next()) page = root.value(0).toLongLong();
+        }
+        QSqlDatabase::removeDatabase(QStringLiteral("damage"));
+        QFile file(home.path(QStringLiteral("queue.sqlite")));
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek((page - 1) * 4096));
+        file.write(QByteArray(64, '\xff'));
+    };
+    damage("uploads_spool");
+    std::optional<NSError> error;
+    {
+        UploadStore repaired;
+        ASSERT_TRUE(repaired.open(home.path(QStringLiteral("queue.sqlite")), &error)) << error->description().toStdString();
+        EXPECT_EQ(repaired.jobsAfter(0, 1000).size(), 100u);
+        EXPECT_TRUE(repaired.spoolFiles());
+    }
+    damage("uploads");
+    EXPECT_FALSE(UploadStore().open(home.path(QStringLiteral("queue.sqlite")), &error));
+    EXPECT_TRUE(error->localizedDescription().contains(QStringLiteral("damaged"))) << error->localizedDescription().toStdString();
 }
 
 TEST_F(Store, RefusesADatabaseThatIsNone) {
@@ -177,13 +218,17 @@ TEST(PostCheck, ObjectsToWhatTheUploadCodeWouldDieOf) {
         return post;
     };
     UploadJob job;
-    EXPECT_FALSE(PostCheck::objection(*withFile(photo), job));
+    EXPECT_TRUE(PostCheck::prepare(*withFile(photo), job)) << "it was not there when it was shared";
     job.source = FileIdentity::ofPath(photo);
-    EXPECT_FALSE(PostCheck::objection(*withFile(photo), job));
+    const auto usable = withFile(photo);
+    EXPECT_FALSE(PostCheck::prepare(*usable, job));
+    ::unlink(photo.constData());
+    EXPECT_EQ(usable->photoData->bytes(), jpegOfSize(100)) << "the file that was looked at is the one that is sent";
+    home.file(QStringLiteral("photo.jpg"), jpegOfSize(100));
     const QByteArray other = home.file(QStringLiteral("other.jpg"), jpegOfSize(100, 2));
     const auto objection = [&](const std::shared_ptr<FlickrPost> &post) {
-        const auto error = PostCheck::objection(*post, job);
-        return error ? error->localizedDescription() : QString();
+        const auto reason = PostCheck::prepare(*post, job);
+        return reason ? reason->error.localizedDescription() : QString();
     };
     EXPECT_TRUE(objection(withFile(other)).contains(QStringLiteral("has changed")));
     EXPECT_TRUE(objection(withFile(empty)).contains(QStringLiteral("is empty")));

@@ -78,6 +78,7 @@ TEST(OAuthSigner, KeepsPortsPathsAndRepeatedNamesApart) {
         return OAuthSigner::signatureBaseString("GET", url(target), parameters);
     };
     EXPECT_TRUE(base("http://h:8080/A%7e", {}).startsWith("GET&http%3A%2F%2Fh%3A8080%2FA%257e&"));
+    EXPECT_TRUE(base("http://[::1]:8743/x", {}).startsWith("GET&http%3A%2F%2F%5B%3A%3A1%5D%3A8743%2Fx&"));
     EXPECT_TRUE(base("https://h:443", {}).startsWith("GET&https%3A%2F%2Fh%2F&"));
     EXPECT_TRUE(base("https://h:80/", {}).startsWith("GET&https%3A%2F%2Fh%3A80%2F&"));
     EXPECT_TRUE(base("http://h/", {{text("a"), text("2")}, {text("a"), text("10")}, {text("a"), text("")}})
