@@ -12,8 +12,8 @@ namespace korvane::bench {
 double secondsOf(const std::function<void()> &work);
 double median(std::vector<double> values);
 
-// Runs both in turn, rounds times, and prints the medians and the median of the ratios (measured / reference), and the bound
-// that the ratio is held to. Returns whether it holds.
+// Runs both in turn, rounds times, and prints the medians and the median of the ratios (measured / reference), and the
+// bound that the ratio is held to. Returns whether it holds.
 bool printRatio(const std::string &name, int rounds, const std::function<double()> &measured,
                 const std::function<double()> &reference, double bound, bool atMost);
 

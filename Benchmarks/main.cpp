@@ -73,13 +73,18 @@ void handOver() {
     const auto share = [&] {
         const auto posts = postsOf(paths);
         double seconds = 0;
-        servicePeak = std::max(servicePeak, peakDuring([&] { return anonymousMemory(service); }, [&] {
-            clientPeak = std::max(clientPeak, peakDuring([] { return anonymousMemory(0); }, [&] {
-                seconds = secondsOf([&] {
-                    if (!harness.share(posts)) qFatal("the hand-over failed");
-                });
-            }));
-        }));
+        servicePeak =
+            std::max(servicePeak, peakDuring([&] { return anonymousMemory(service); },
+                                             [&] {
+                                                 clientPeak = std::max(
+                                                     clientPeak, peakDuring([] { return anonymousMemory(0); },
+                                                                            [&] {
+                                                                                seconds = secondsOf([&] {
+                                                                                    if (!harness.share(posts))
+                                                                                        qFatal("the hand-over failed");
+                                                                                });
+                                                                            }));
+                                             }));
         removeAll(harness);
         return seconds;
     };
@@ -117,8 +122,9 @@ void sideBySide() {
         setParallelUploads(parallel);
         return uploadAll(harness, paths);
     };
-    check(printRatio("500 photos of 1 MB, 50 ms an answer: one / three at a time (s)", 1, [&] { return timeWith(1); },
-                     [&] { return timeWith(3); }, 2.7, false));
+    check(printRatio(
+        "500 photos of 1 MB, 50 ms an answer: one / three at a time (s)", 1, [&] { return timeWith(1); },
+        [&] { return timeWith(3); }, 2.7, false));
 }
 
 // Each photo with curl -F over one connection, signed as the stand-in wants it.
@@ -130,10 +136,10 @@ QStringList curlArguments(ServiceHarness &harness, const QByteArrayList &paths) 
             "POST", *NSURL::URLWithString(url), {}, *harness.flickr.account->credential(),
             QDateTime::currentSecsSinceEpoch(), QUuid::createUuid().toString(QUuid::Id128));
         if (!arguments.isEmpty()) arguments.append(QStringLiteral("--next"));
-        arguments << QStringLiteral("-sf") << QStringLiteral("-o") << QStringLiteral("/dev/null") << QStringLiteral("-H")
-                  << QStringLiteral("Expect:") << QStringLiteral("-H") << QStringLiteral("Authorization: ") + QString::fromLatin1(header)
-                  << QStringLiteral("-F") << QStringLiteral("photo=@") + QFile::decodeName(path) + QStringLiteral(";type=image/jpeg")
-                  << url;
+        arguments << QStringLiteral("-sf") << QStringLiteral("-o") << QStringLiteral("/dev/null")
+                  << QStringLiteral("-H") << QStringLiteral("Expect:") << QStringLiteral("-H")
+                  << QStringLiteral("Authorization: ") + QString::fromLatin1(header) << QStringLiteral("-F")
+                  << QStringLiteral("photo=@") + QFile::decodeName(path) + QStringLiteral(";type=image/jpeg") << url;
     }
     return arguments;
 }
@@ -174,7 +180,8 @@ void oneStream() {
     const QByteArrayList large = makeFiles(harness.home, 3, 200 * megabyte);
     setParallelUploads(3);
     const qint64 peak = peakDuring([&] { return anonymousMemory(pid); }, [&] { uploadAll(harness, large); });
-    check(printBound("  service with three photos of 200 MB over its idle size", double(peak - idle) / (1 << 20), "MiB", 64));
+    check(printBound("  service with three photos of 200 MB over its idle size", double(peak - idle) / (1 << 20), "MiB",
+                     64));
 }
 
 void longQueue() {
@@ -198,7 +205,8 @@ void longQueue() {
         harness.home.setEnvironment("DBUS_SESSION_BUS_ADDRESS", harness.busAddress.toLocal8Bit());
         harness.home.setEnvironment("XDG_STATE_HOME", QFile::encodeName(harness.home.path(QStringLiteral("state"))));
         harness.home.setEnvironment("KORVANE_FLICKR_URL", harness.flickr.server.url().toLocal8Bit());
-        harness.home.setEnvironment("KORVANE_PHOTO_LIBRARY", QFile::encodeName(harness.home.path(QStringLiteral("library"))));
+        harness.home.setEnvironment("KORVANE_PHOTO_LIBRARY",
+                                    QFile::encodeName(harness.home.path(QStringLiteral("library"))));
         QDBusConnection::disconnectFromBus(QStringLiteral("test"));
         return secondsOf(work);
     };
@@ -218,7 +226,9 @@ void longQueue() {
     };
     share(full);
     share(empty);
-    check(printRatio("take a post with 100,000 waiting / with none (s)", 9, [&] { return share(full); }, [&] { return share(empty); }, 1.5, true));
+    check(printRatio(
+        "take a post with 100,000 waiting / with none (s)", 9, [&] { return share(full); },
+        [&] { return share(empty); }, 1.5, true));
     const double page = in(full, [&] { full.ask(QStringLiteral("List"), {qint64(90'000), quint32(100)}); });
     check(printBound("a page of 100 at the end of 100,000", page * 1000, "ms", 100));
 }

@@ -8,7 +8,9 @@ namespace korvane {
 namespace {
 
 FlickrPhotoSet photoSetOf(const QHash<QString, QString> &attributes) {
-    const auto number = [&](const char16_t *name) { return integerValue(attributes.value(QStringView(name).toString())); };
+    const auto number = [&](const char16_t *name) {
+        return integerValue(attributes.value(QStringView(name).toString()));
+    };
     FlickrPhotoSet set;
     set.identifier = number(u"id");
     set.primaryPhotoID = number(u"primary");

@@ -21,7 +21,8 @@ public:
 
 private:
     void _initWithData(const std::optional<NSData> &body);
-    void parserDidStartElement(NSXMLParser &, const QString &element, const QHash<QString, QString> &attributes) override;
+    void parserDidStartElement(NSXMLParser &, const QString &element,
+                               const QHash<QString, QString> &attributes) override;
     void parserFoundCharacters(NSXMLParser &, const QString &characters) override;
     void parserDidEndElement(NSXMLParser &, const QString &element) override;
 

@@ -32,24 +32,25 @@ public:
     QVariantMap serializedDictionary() const;
     static bool supportsSecureCoding() { return true; }
 
-    std::optional<NSURL> assetURL;    // "assets-library" or "file"
-    std::optional<NSData> photoData;  // the encoded photo
+    std::optional<NSURL> assetURL;   // "assets-library" or "file"
+    std::optional<NSData> photoData; // the encoded photo
     std::optional<QString> title;
     std::optional<QString> postDescription;
     std::optional<QStringList> tags;
-    qint64 photoSetID = 0;            // 0: no photo set
-    quint32 visibility = 0;           // FlickrVisibility bits
-    qint32 safetyLevel = 0;           // 0: not sent
-    qint32 contentType = 0;           // 0: not sent
+    qint64 photoSetID = 0;  // 0: no photo set
+    quint32 visibility = 0; // FlickrVisibility bits
+    qint32 safetyLevel = 0; // 0: not sent
+    qint32 contentType = 0; // 0: not sent
     bool hidden = false;
 
-    // The id that Flickr gave the photo in an earlier run, else 0. With an id the upload only adds the photo to its set.
+    // The id that Flickr gave the photo in an earlier run, else 0. With an id the upload only adds the photo to its
+    // set.
     qint64 photoID = 0;
     // Hears the id as soon as Flickr has answered with it, on the main thread, before anything else is done with it.
     std::function<void(qint64 photoID)> checkpoint;
 
-    // Uploads the photo, and adds it to its photo set. False, and no completion, without an account. Thread: any; a file is
-    // opened on the calling thread. A post without bytes and usable URL stops the process.
+    // Uploads the photo, and adds it to its photo set. False, and no completion, without an account. Thread: any; a
+    // file is opened on the calling thread. A post without bytes and usable URL stops the process.
     bool uploadToAccount(const std::shared_ptr<ACAccount> &account, const Completion &completion);
 
 private:
@@ -62,7 +63,8 @@ private:
     QString _photoContentType() const;
     void _uploadAnswered(const std::optional<NSData> &body, const std::shared_ptr<ACAccount> &account,
                          const Completion &completion);
-    void _addToPhotoSet(qint64 uploadedPhotoID, const std::shared_ptr<ACAccount> &account, const Completion &completion);
+    void _addToPhotoSet(qint64 uploadedPhotoID, const std::shared_ptr<ACAccount> &account,
+                        const Completion &completion);
 };
 
 } // namespace korvane

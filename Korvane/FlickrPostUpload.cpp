@@ -50,7 +50,8 @@ bool FlickrPost::uploadToAccount(const std::shared_ptr<ACAccount> &account, cons
     return true;
 }
 
-// The display image goes out, newly encoded, and not the asset's own file: what the user saw in the library is what is posted.
+// The display image goes out, newly encoded, and not the asset's own file: what the user saw in the library is what is
+// posted.
 void FlickrPost::_encodeAsset(const std::shared_ptr<ACAccount> &account, const Completion &completion) {
     const auto self = std::static_pointer_cast<FlickrPost>(shared_from_this());
     const auto fail = [completion](const NSError &error) { dispatchMain([=] { completion(error); }); };
@@ -63,8 +64,9 @@ void FlickrPost::_encodeAsset(const std::shared_ptr<ACAccount> &account, const C
             }
             const auto representation = asset->defaultRepresentation();
             const UIImage image = UIImage::imageWithCGImage(representation->zoomableDisplayImage());
-            self->photoData = UTTypeConformsTo(representation->UTI(), kUTTypePNG) ? UIImagePNGRepresentation(image)
-                                                                                  : UIImageJPEGRepresentation(image, 1.0);
+            self->photoData = UTTypeConformsTo(representation->UTI(), kUTTypePNG)
+                                  ? UIImagePNGRepresentation(image)
+                                  : UIImageJPEGRepresentation(image, 1.0);
             self->_uploadData(self->photoData, account, completion);
         },
         [self, fail](const NSError &error) {
@@ -75,8 +77,8 @@ void FlickrPost::_encodeAsset(const std::shared_ptr<ACAccount> &account, const C
 
 void FlickrPost::_uploadData(const std::optional<NSData> &, const std::shared_ptr<ACAccount> &account,
                              const Completion &completion) {
-    KRAssert(photoData.has_value(), "_photoData", "-[FlickrPost _uploadData:toAccount:completion:]", "Korvane/FlickrPost",
-             100);
+    KRAssert(photoData.has_value(), "_photoData", "-[FlickrPost _uploadData:toAccount:completion:]",
+             "Korvane/FlickrPost", 100);
     const auto self = std::static_pointer_cast<FlickrPost>(shared_from_this());
     sendRequestToEndPoint(
         uploadEndPoint(), _uploadParameters(),

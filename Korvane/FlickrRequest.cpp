@@ -44,7 +44,8 @@ void FlickrRequest::_sendRequestToEndPoint(const QString &endPoint, const QVaria
         const std::optional<NSData> body = NSURLConnection::sendSynchronousRequest(prepared, nullptr, &error);
         dispatchMain([=] {
             if (error && isWorthRetrying(*error) && failedAttempts <= 2) {
-                NSLog("Flickr request failed with error %ld, trying again. Fail count: %lu", error->code(), failedAttempts);
+                NSLog("Flickr request failed with error %ld, trying again. Fail count: %lu", error->code(),
+                      failedAttempts);
                 self->_sendRequestToEndPoint(endPoint, params, requestModifications, completion, failedAttempts + 1);
             } else if (completion) {
                 completion(body, error);

@@ -24,8 +24,8 @@ class FlickrRequest : public std::enable_shared_from_this<FlickrRequest> {
 public:
     virtual ~FlickrRequest() = default;
 
-    // Sends the parameters to the endpoint (full URL without a query) and returns at once. Time-outs, lost connections and a
-    // missing network are tried again at once, up to three times. HTTP status and answer are left to the caller.
+    // Sends the parameters to the endpoint (full URL without a query) and returns at once. Time-outs, lost connections
+    // and a missing network are tried again at once, up to three times. HTTP status and answer are left to the caller.
     void sendRequestToEndPoint(const QString &endPoint, const QVariantMap &params,
                                const FlickrRequestModifications &requestModifications,
                                const FlickrRequestCompletion &completion);

@@ -13,7 +13,9 @@ namespace {
 class FlickrRemoteSession : public FlickrRemoteSessionProtocol {
 public:
     explicit FlickrRemoteSession(std::shared_ptr<RemoteServiceProxy> proxy) : _proxy(std::move(proxy)) {}
-    void uploadPosts(const QVariantList &posts, const XPCTransferCompletion &reply) override { _proxy->send(posts, reply); }
+    void uploadPosts(const QVariantList &posts, const XPCTransferCompletion &reply) override {
+        _proxy->send(posts, reply);
+    }
 
 private:
     std::shared_ptr<RemoteServiceProxy> _proxy;

@@ -19,10 +19,9 @@ public:
     // A client with a proxy of its own. No connection is tested here.
     static std::shared_ptr<FlickrUploadSession> init();
 
-    // Blocks, without a time limit, until the service has replied. Returns what it replied; its error is placed also when it
-    // replied YES. An empty batch is sent as it is.
-    bool uploadPosts(const std::vector<std::shared_ptr<FlickrPost>> &posts,
-                     std::optional<NSError> *error = nullptr);
+    // Blocks, without a time limit, until the service has replied. Returns what it replied; its error is placed also
+    // when it replied YES. An empty batch is sent as it is.
+    bool uploadPosts(const std::vector<std::shared_ptr<FlickrPost>> &posts, std::optional<NSError> *error = nullptr);
 
     // The id under which the service knows the last hand-over; empty before the first.
     QString lastMessageID() const;

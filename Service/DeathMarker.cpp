@@ -42,7 +42,7 @@ void DeathMarker::watch(const QString &path) {
     static char stack[16384];
     const stack_t alternative{stack, 0, sizeof stack};
     ::sigaltstack(&alternative, nullptr);
-    struct sigaction action{};
+    struct sigaction action {};
     action.sa_handler = leaveMarker;
     action.sa_flags = SA_RESETHAND | SA_ONSTACK | SA_NODEFER;
     for (const int signal : {SIGABRT, SIGSEGV, SIGBUS, SIGFPE, SIGILL})

@@ -65,31 +65,35 @@ std::optional<Verdict> verdictOnOAuthProblem(const NSError &error) {
         return waiting(WaitReason::NextTry, error, QStringLiteral("Flickr asks to send the request again."));
     if (problem == QLatin1String("timestamp_refused"))
         return failed(error, QStringLiteral("Flickr refused the request's time. Set this device's clock, then retry."));
-    return failed(error, QStringLiteral("Flickr does not accept the sign-in (%1). Sign in again (korvane accounts), then retry.")
-                             .arg(redacted(problem.left(longestShownAnswer))));
+    return failed(
+        error, QStringLiteral("Flickr does not accept the sign-in (%1). Sign in again (korvane accounts), then retry.")
+                   .arg(redacted(problem.left(longestShownAnswer))));
 }
 
 Verdict verdictOnAnswer(const NSError &error, int status) {
     if (const auto verdict = error.code() == -1 ? verdictOnOAuthProblem(error) : std::nullopt) return *verdict;
     if (isServerTrouble(status))
-        return waiting(WaitReason::NextTry, error, QStringLiteral("Flickr is in trouble (HTTP status %1).").arg(status));
+        return waiting(WaitReason::NextTry, error,
+                       QStringLiteral("Flickr is in trouble (HTTP status %1).").arg(status));
     const QString message = redacted(error.localizedDescription().simplified().left(longestShownAnswer));
     if (error.code() == 105 || error.code() == 106)
         return waiting(WaitReason::NextTry, error, QStringLiteral("Flickr is not available just now: %1").arg(message));
     const bool saysNothing = error.code() == 0 && !error.userInfo().contains(NSLocalizedDescriptionKey);
     if (error.code() == -1 || saysNothing)
-        return failed(error, QStringLiteral("Flickr's answer was not understood (HTTP status %1). Retry later.").arg(status));
+        return failed(error,
+                      QStringLiteral("Flickr's answer was not understood (HTTP status %1). Retry later.").arg(status));
     return failed(error, QStringLiteral("Flickr refused the photo: %1 (code %2). %3")
                              .arg(message)
                              .arg(error.code())
                              .arg(adviceOnCode(error.code())));
 }
 
-// The upload code reports success once the photo is on Flickr, whatever became of its place in the photo set; a set that was not
-// reached is asked for again, without the photo.
+// The upload code reports success once the photo is on Flickr, whatever became of its place in the photo set; a set
+// that was not reached is asked for again, without the photo.
 Verdict verdictOnPhotoSet(const RunOutcome &outcome) {
     const auto &request = outcome.lastRequest;
-    if (outcome.photoID == 0) return {}; // an "ok" without an id: nothing could be asked for without sending the photo again
+    if (outcome.photoID == 0)
+        return {}; // an "ok" without an id: nothing could be asked for without sending the photo again
     const QString text = QStringLiteral("The photo is on Flickr; adding it to its album is still to be done. %1");
     if (request.transportError)
         return waiting(WaitReason::Network, *request.transportError,
@@ -103,18 +107,16 @@ Verdict verdictOnPhotoSet(const RunOutcome &outcome) {
 } // namespace
 
 Verdict FailureClassifier::verdictOnFlickrRun(const RunOutcome &outcome, bool wantsPhotoSet) {
-    if (outcome.end == RunOutcome::Unusable)
-        return {UploadState::Failed, WaitReason::None, outcome.error};
-    if (outcome.end == RunOutcome::Hindered)
-        return {UploadState::Waiting, WaitReason::NextTry, outcome.error};
-    if (outcome.end == RunOutcome::NoAccount)
-        return {UploadState::Waiting, WaitReason::SignIn, outcome.error};
+    if (outcome.end == RunOutcome::Unusable) return {UploadState::Failed, WaitReason::None, outcome.error};
+    if (outcome.end == RunOutcome::Hindered) return {UploadState::Waiting, WaitReason::NextTry, outcome.error};
+    if (outcome.end == RunOutcome::NoAccount) return {UploadState::Waiting, WaitReason::SignIn, outcome.error};
     if (!outcome.error) return wantsPhotoSet ? verdictOnPhotoSet(outcome) : Verdict{};
     const NSError &error = *outcome.error;
     if (error.domain() == NSURLErrorDomain) return verdictOnTransport(error);
     if (error.domain() == FlickrResponseErrorDomain) return verdictOnAnswer(error, outcome.lastRequest.httpStatus);
     if (error.domain() == FlickrPostErrorDomain)
-        return failed(error, QStringLiteral("The photo is no longer in the photo library. Share it again from where it is now."));
+        return failed(
+            error, QStringLiteral("The photo is no longer in the photo library. Share it again from where it is now."));
     return failed(error, error.localizedDescription());
 }
 

@@ -7,9 +7,9 @@
 namespace korvane {
 
 struct Verdict {
-    UploadState state = UploadState::Done;     // Done, Waiting or Failed
-    WaitReason waitReason = WaitReason::None;  // with Waiting
-    std::optional<NSError> error;              // for people: what happened and what to do
+    UploadState state = UploadState::Done;    // Done, Waiting or Failed
+    WaitReason waitReason = WaitReason::None; // with Waiting
+    std::optional<NSError> error;             // for people: what happened and what to do
 };
 
 namespace FailureClassifier {

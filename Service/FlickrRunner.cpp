@@ -20,9 +20,10 @@ void end(const std::shared_ptr<FlickrRun> &run, const RunOutcome &outcome) {
 }
 
 RunOutcome withoutAccount(const QString &name) {
-    const QString text = QStringLiteral("There is no usable sign-in for the Flickr account of %1, from which this was shared. "
-                                        "Add it with: korvane accounts add flickr")
-                             .arg(name);
+    const QString text =
+        QStringLiteral("There is no usable sign-in for the Flickr account of %1, from which this was shared. "
+                       "Add it with: korvane accounts add flickr")
+            .arg(name);
     return {RunOutcome::NoAccount, NSError::errorWithDescription(PostCheck::ErrorDomain, 10, text), {}, 0, 0};
 }
 
@@ -31,8 +32,8 @@ std::shared_ptr<ACAccount> pinnedAccount(const ACAccountStore &accounts, const U
     if (const auto account = accounts.accountWithIdentifier(job.accountID)) return account;
     const auto all =
         accounts.accountsWithAccountType(accounts.accountTypeWithAccountTypeIdentifier(ACAccountTypeIdentifierFlickr));
-    const auto found =
-        std::find_if(all.begin(), all.end(), [&](const auto &account) { return account->username() == job.accountName; });
+    const auto found = std::find_if(all.begin(), all.end(),
+                                    [&](const auto &account) { return account->username() == job.accountName; });
     return found == all.end() ? nullptr : *found;
 }
 

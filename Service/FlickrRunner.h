@@ -18,14 +18,14 @@ struct FlickrRun {
     QVariantMap record;
     std::shared_ptr<UploadContext> context;
     std::shared_ptr<ACAccountStore> accounts;
-    std::function<void(qint64 photoID)> answered;        // as soon as Flickr has given the photo an id; main thread
+    std::function<void(qint64 photoID)> answered;         // as soon as Flickr has given the photo an id; main thread
     std::function<void(const RunOutcome &outcome)> ended; // exactly once; main thread
 };
 
 namespace FlickrRunner {
 
-// Checks the post, then uploads it with the device kept awake. Returns at once. Thread: any; disk and key ring are read on a
-// pool thread.
+// Checks the post, then uploads it with the device kept awake. Returns at once. Thread: any; disk and key ring are read
+// on a pool thread.
 void start(FlickrRun run);
 
 } // namespace FlickrRunner

@@ -16,7 +16,8 @@ public:
     void uploadPosts(const QVariantList &posts, const XPCTransferCompletion &reply) override;
 
 protected:
-    void received(const QVariantList &records, const RemoteMessage &message, const XPCTransferCompletion &reply) override;
+    void received(const QVariantList &records, const RemoteMessage &message,
+                  const XPCTransferCompletion &reply) override;
 
 private:
     UploadQueue &_queue;

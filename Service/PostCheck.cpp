@@ -18,7 +18,15 @@ namespace {
 constexpr qint64 typeProbe = 4096; // bytes that tell what a file holds
 constexpr qint64 smallestRoom = 32 * 1024 * 1024;
 
-enum Reason { NothingToUpload = 1, FileUnreadable = 2, FileEmpty = 3, FileChanged = 4, DataLost = 5, NoPicture = 6, NoRoom = 7 };
+enum Reason {
+    NothingToUpload = 1,
+    FileUnreadable = 2,
+    FileEmpty = 3,
+    FileChanged = 4,
+    DataLost = 5,
+    NoPicture = 6,
+    NoRoom = 7
+};
 
 PostCheck::Objection objectionWithText(Reason code, const QString &text) {
     return {NSError::errorWithDescription(PostCheck::ErrorDomain, code, text), code == NoRoom};
@@ -31,10 +39,12 @@ std::optional<PostCheck::Objection> objectionToFile(FlickrPost &post, const Uplo
     const auto data = NSData::dataWithContentsOfURL(url, &error);
     if (!data)
         return objectionWithText(FileUnreadable,
-                                 QStringLiteral("The file cannot be read (%1). Bring it back, then retry.").arg(error->localizedDescription()));
+                                 QStringLiteral("The file cannot be read (%1). Bring it back, then retry.")
+                                     .arg(error->localizedDescription()));
     if (data->length() == 0) return objectionWithText(FileEmpty, QStringLiteral("The file %1 is empty.").arg(name));
     if (!job.source || FileIdentity::ofDescriptor(data->file()->get()) != job.source)
-        return objectionWithText(FileChanged, QStringLiteral("The file %1 has changed since it was shared. Share it again.").arg(name));
+        return objectionWithText(
+            FileChanged, QStringLiteral("The file %1 has changed since it was shared. Share it again.").arg(name));
     post.photoData = data;
     post.assetURL.reset();
     return std::nullopt;
@@ -46,7 +56,8 @@ bool hasRoomToEncode(qint64 assetSize) {
     struct statvfs space;
     const FileDescriptor probe(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!probe || ::faccessat(AT_FDCWD, folder.constData(), W_OK, AT_EACCESS) != 0) return false;
-    return ::fstatvfs(probe.get(), &space) != 0 || qint64(space.f_bavail * space.f_frsize) > 8 * assetSize + smallestRoom;
+    return ::fstatvfs(probe.get(), &space) != 0 ||
+           qint64(space.f_bavail * space.f_frsize) > 8 * assetSize + smallestRoom;
 }
 
 // An asset that is gone or unreadable is reported by the library; but what it holds must be a picture.
@@ -57,15 +68,18 @@ std::optional<PostCheck::Objection> objectionToAsset(const NSURL &url) {
     if (!hasRoomToEncode(FileIdentity::ofDescriptor(file->get()).value_or(FileIdentity{}).size))
         return objectionWithText(NoRoom, QStringLiteral("There is no room to convert %1 in %2.")
                                              .arg(QFile::decodeName(location->path), NSTemporaryDirectory()));
-    if (!UTTypeConformsTo(typeIdentifierForData(NSData::dataWithFile(file, 0, typeProbe)), kUTTypeMovie)) return std::nullopt;
-    return objectionWithText(NoPicture, QStringLiteral("%1 is a video. Share it to Vimeo.").arg(QFile::decodeName(location->path)));
+    if (!UTTypeConformsTo(typeIdentifierForData(NSData::dataWithFile(file, 0, typeProbe)), kUTTypeMovie))
+        return std::nullopt;
+    return objectionWithText(
+        NoPicture, QStringLiteral("%1 is a video. Share it to Vimeo.").arg(QFile::decodeName(location->path)));
 }
 
 std::optional<PostCheck::Objection> objectionToData(const NSData &data) {
     if (data.length() == 0) return objectionWithText(FileEmpty, QStringLiteral("The photo is empty."));
     const auto file = data.file() ? FileIdentity::ofDescriptor(data.file()->get()) : std::nullopt;
     if (file && file->size < data.fileOffset() + data.length())
-        return objectionWithText(DataLost, QStringLiteral("The photo's data was damaged on this device. Share it again."));
+        return objectionWithText(DataLost,
+                                 QStringLiteral("The photo's data was damaged on this device. Share it again."));
     return std::nullopt;
 }
 
@@ -78,7 +92,8 @@ std::optional<PostCheck::Objection> PostCheck::prepare(FlickrPost &post, const U
     if (scheme == QLatin1String("file")) return objectionToFile(post, job);
     if (post.photoData) return objectionToData(*post.photoData);
     if (!job.spoolFile.isEmpty())
-        return objectionWithText(DataLost, QStringLiteral("The photo's data is gone from this device. Share it again."));
+        return objectionWithText(DataLost,
+                                 QStringLiteral("The photo's data is gone from this device. Share it again."));
     return objectionWithText(NothingToUpload, QStringLiteral("The post holds no photo. Share the photo again."));
 }
 

@@ -17,8 +17,8 @@ struct Objection {
     bool mayPass = false; // it may be possible later without anybody doing anything
 };
 
-// Makes the post ready: a file is opened here, compared with the one that was shared, and stays the one that is sent, whatever
-// happens to its name. Null if the post can be uploaded. May block on a slow disk.
+// Makes the post ready: a file is opened here, compared with the one that was shared, and stays the one that is sent,
+// whatever happens to its name. Null if the post can be uploaded. May block on a slow disk.
 std::optional<Objection> prepare(FlickrPost &post, const UploadJob &job);
 
 } // namespace PostCheck

@@ -38,8 +38,9 @@ std::optional<QString> PrivateBus::start(std::optional<NSError> *error) {
                   {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
                    QStringLiteral("--address=unix:path=") + socket, QStringLiteral("--print-address")});
     if (_daemon.waitForReadyRead(startMilliseconds)) return QString::fromLocal8Bit(_daemon.readLine()).trimmed();
-    setError(error, NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorUnreachable,
-                                                  QStringLiteral("dbus-daemon could not be started at %1").arg(socket)));
+    setError(error,
+             NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorUnreachable,
+                                           QStringLiteral("dbus-daemon could not be started at %1").arg(socket)));
     return std::nullopt;
 }
 

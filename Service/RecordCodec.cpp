@@ -15,7 +15,8 @@ namespace {
 constexpr QCborTag rangeTag{0x6b72};
 
 QCborValue encodedData(const NSData &data, const std::shared_ptr<const FileDescriptor> &dataFile) {
-    if (data.file() && data.file() == dataFile) return QCborValue(rangeTag, QCborArray{data.fileOffset(), data.length()});
+    if (data.file() && data.file() == dataFile)
+        return QCborValue(rangeTag, QCborArray{data.fileOffset(), data.length()});
     return data.bytes();
 }
 
@@ -29,20 +30,28 @@ QCborValue encodedTexts(const QVariantList &list) {
 QCborValue encodedValue(const QVariant &value, const std::shared_ptr<const FileDescriptor> &dataFile) {
     if (value.typeId() == qMetaTypeId<NSData>()) return encodedData(value.value<NSData>(), dataFile);
     switch (value.typeId()) {
-    case QMetaType::QString: return value.toString();
-    case QMetaType::QByteArray: return value.toByteArray();
-    case QMetaType::Bool: return value.toBool();
-    case QMetaType::Double: return value.toDouble();
-    case QMetaType::QStringList: return QCborArray::fromStringList(value.toStringList());
-    case QMetaType::QVariantList: return encodedTexts(value.toList());
+    case QMetaType::QString:
+        return value.toString();
+    case QMetaType::QByteArray:
+        return value.toByteArray();
+    case QMetaType::Bool:
+        return value.toBool();
+    case QMetaType::Double:
+        return value.toDouble();
+    case QMetaType::QStringList:
+        return QCborArray::fromStringList(value.toStringList());
+    case QMetaType::QVariantList:
+        return encodedTexts(value.toList());
     case QMetaType::UChar:
     case QMetaType::Short:
     case QMetaType::UShort:
     case QMetaType::Int:
     case QMetaType::UInt:
     case QMetaType::LongLong:
-    case QMetaType::ULongLong: return value.toLongLong();
-    default: return QCborValue(QCborValue::Undefined);
+    case QMetaType::ULongLong:
+        return value.toLongLong();
+    default:
+        return QCborValue(QCborValue::Undefined);
     }
 }
 
@@ -65,7 +74,8 @@ QVariant decodedValue(const QCborValue &value, const std::shared_ptr<const FileD
 QByteArray RecordCodec::encode(const QVariantMap &record, const std::shared_ptr<const FileDescriptor> &dataFile) {
     QCborMap map;
     for (auto it = record.cbegin(); it != record.cend(); ++it)
-        if (const QCborValue value = encodedValue(it.value(), dataFile); !value.isUndefined()) map.insert(it.key(), value);
+        if (const QCborValue value = encodedValue(it.value(), dataFile); !value.isUndefined())
+            map.insert(it.key(), value);
     return QCborValue(map).toCbor();
 }
 

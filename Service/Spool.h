@@ -18,8 +18,8 @@ public:
     // Makes the folder.
     explicit Spool(QString folder);
 
-    // Gives an unnamed file a name in the spool, or copies it where that cannot be, and returns the name once file and name
-    // are on disk. Null, with the error placed and nothing left behind, if it cannot be kept.
+    // Gives an unnamed file a name in the spool, or copies it where that cannot be, and returns the name once file and
+    // name are on disk. Null, with the error placed and nothing left behind, if it cannot be kept.
     std::optional<QString> adopt(int file, std::optional<NSError> *error) const;
 
     // The file, open for reading; null if it is gone.

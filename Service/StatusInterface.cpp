@@ -24,7 +24,8 @@ bool StatusInterface::registerFor(UploadQueue &queue) {
 
 bool StatusInterface::handleMessage(const QDBusMessage &message, const QDBusConnection &) {
     if (message.interface() == propertiesInterface) return _handleProperties(message);
-    if (message.interface() == UploadsInterface::name() || message.interface().isEmpty()) return _handleUploads(message);
+    if (message.interface() == UploadsInterface::name() || message.interface().isEmpty())
+        return _handleUploads(message);
     return false;
 }
 
@@ -74,7 +75,8 @@ bool StatusInterface::_handleUploads(const QDBusMessage &message) {
     else if (call == QLatin1String("Pause()") || call == QLatin1String("Resume()"))
         _queue->setPaused(message.member() == QLatin1String("Pause"), _replyTo(message));
     else
-        _bus.send(message.createErrorReply(QDBusError::UnknownMethod, QStringLiteral("There is no method %1.").arg(call)));
+        _bus.send(
+            message.createErrorReply(QDBusError::UnknownMethod, QStringLiteral("There is no method %1.").arg(call)));
     return true;
 }
 

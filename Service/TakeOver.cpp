@@ -17,8 +17,8 @@ QString text(const QVariantMap &record, const QString &key) {
 }
 
 std::shared_ptr<ACAccount> accountInUse(const QString &service, const ACAccountStore &store) {
-    const auto type = store.accountTypeWithAccountTypeIdentifier(service == flickrServiceID ? ACAccountTypeIdentifierFlickr
-                                                                                            : ACAccountTypeIdentifierVimeo);
+    const auto type = store.accountTypeWithAccountTypeIdentifier(
+        service == flickrServiceID ? ACAccountTypeIdentifierFlickr : ACAccountTypeIdentifierVimeo);
     const auto accounts = store.accountsWithAccountType(type);
     return accounts.empty() ? nullptr : accounts.back();
 }

@@ -18,11 +18,10 @@ struct TakenMessage {
 
 namespace TakeOver {
 
-// Gives the data its name in the spool, looks at the files that the posts name, and pins the account in use. Blocks until the
-// data is on disk. Null, with the error placed and nothing left behind, if it cannot be kept. Thread: any.
+// Gives the data its name in the spool, looks at the files that the posts name, and pins the account in use. Blocks
+// until the data is on disk. Null, with the error placed and nothing left behind, if it cannot be kept. Thread: any.
 std::optional<TakenMessage> prepare(const QString &service, const QVariantList &records, const RemoteMessage &message,
-                                    const Spool &spool, const ACAccountStore &accounts,
-                                    std::optional<NSError> *error);
+                                    const Spool &spool, const ACAccountStore &accounts, std::optional<NSError> *error);
 
 } // namespace TakeOver
 

@@ -16,8 +16,9 @@ QString timeText(qint64 milliseconds) {
 }
 
 QString stateText(UploadState state) {
-    static const std::array<QString, 5> names{QStringLiteral("queued"), QStringLiteral("running"), QStringLiteral("waiting"),
-                                              QStringLiteral("done"), QStringLiteral("failed")};
+    static const std::array<QString, 5> names{QStringLiteral("queued"), QStringLiteral("running"),
+                                              QStringLiteral("waiting"), QStringLiteral("done"),
+                                              QStringLiteral("failed")};
     return names.at(size_t(state));
 }
 

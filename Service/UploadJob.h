@@ -24,16 +24,16 @@ struct UploadJob {
     UploadState state = UploadState::Queued;
     WaitReason waitReason = WaitReason::None;
     QString title;
-    QString accountID;                   // empty until an account of the service exists
-    QString accountName;                 // its user's name, by which it is found when it was removed and added again
-    QString spoolFile;                   // name in the spool; empty if the record holds all its data
-    std::optional<FileIdentity> source;  // of the file that a "file" URL named when the post was taken over
-    qint64 photoID = 0;                  // what Flickr answered with, once it has
-    qint64 bytesTotal = 0;               // 0 while unknown
-    qint64 attempts = 0;                 // runs begun
-    qint64 failures = 0;                 // transient failures in a row, and
-    qint64 failingSince = 0;             // when the first of them was
-    qint64 deaths = 0;                   // fatal ends of the service during a run of this job
+    QString accountID;                  // empty until an account of the service exists
+    QString accountName;                // its user's name, by which it is found when it was removed and added again
+    QString spoolFile;                  // name in the spool; empty if the record holds all its data
+    std::optional<FileIdentity> source; // of the file that a "file" URL named when the post was taken over
+    qint64 photoID = 0;                 // what Flickr answered with, once it has
+    qint64 bytesTotal = 0;              // 0 while unknown
+    qint64 attempts = 0;                // runs begun
+    qint64 failures = 0;                // transient failures in a row, and
+    qint64 failingSince = 0;            // when the first of them was
+    qint64 deaths = 0;                  // fatal ends of the service during a run of this job
     qint64 createdAt = 0;
     qint64 finishedAt = 0;
     qint64 nextTryAt = 0;

@@ -124,9 +124,10 @@ bool UploadQueue::_start(UploadJob job) {
     }
     _announce(job);
     const auto data = job.spoolFile.isEmpty() ? nullptr : _spool.open(job.spoolFile);
-    FlickrRunner::start({job, RecordCodec::decode(_store->record(job.id), data), context, _accounts,
-                         [this, id = job.id](qint64 photoID) { _queue.async([=, this] { _answered(id, photoID); }); },
-                         [this, id = job.id](const RunOutcome &outcome) { _queue.async([=, this] { _ended(id, outcome); }); }});
+    FlickrRunner::start(
+        {job, RecordCodec::decode(_store->record(job.id), data), context, _accounts,
+         [this, id = job.id](qint64 photoID) { _queue.async([=, this] { _answered(id, photoID); }); },
+         [this, id = job.id](const RunOutcome &outcome) { _queue.async([=, this] { _ended(id, outcome); }); }});
     return true;
 }
 
@@ -141,8 +142,9 @@ bool UploadQueue::_pinAccount(UploadJob &job) {
         return true;
     }
     _apply({UploadState::Waiting, WaitReason::SignIn,
-            NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable,
-                                          QStringLiteral("There is no Flickr account. Add one with: korvane accounts add flickr"))},
+            NSError::errorWithDescription(
+                RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable,
+                QStringLiteral("There is no Flickr account. Add one with: korvane accounts add flickr"))},
            job);
     _holds[job.service].until = now() + accountHold; // the others need not all find that out
     _record(job);
@@ -187,7 +189,8 @@ void UploadQueue::_ended(qint64 id, const RunOutcome &outcome) {
         if (job.state == UploadState::Done) {
             job.spoolFile.clear();
             _holds.erase(job.service);
-            _schedule(); // the photo's id is recorded: the next run need not wait until the outcome has reached the disk
+            _schedule(); // the photo's id is recorded: the next run need not wait until the outcome has reached the
+                         // disk
         }
         if (_record(job) && job.state == UploadState::Done) _dropSpoolFile(spoolFile);
         _announce(job);

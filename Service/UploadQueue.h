@@ -23,8 +23,8 @@ class ACAccountStore;
 struct UploadQueueObserver {
     std::function<void(const QVariantMap &upload)> changed;
     std::function<void(const QString &id)> removed;
-    std::function<void(const UploadJob &job)> finished;  // done or failed just now
-    std::function<void(qint64 milliseconds)> wakeAfter;  // wants a call of wake() then; replaces an earlier wish
+    std::function<void(const UploadJob &job)> finished; // done or failed just now
+    std::function<void(qint64 milliseconds)> wakeAfter; // wants a call of wake() then; replaces an earlier wish
 };
 
 struct UploadProgress {
@@ -42,8 +42,8 @@ public:
     UploadQueue(QString folder, RetryPolicy policy, UploadQueueObserver observer);
     ~UploadQueue();
 
-    // Opens the database and puts what was running in the last life back; nothing runs before start(). fatalDeath: the last
-    // life ended by its own fault. Blocks. False, with the error placed, if the database is unusable.
+    // Opens the database and puts what was running in the last life back; nothing runs before start(). fatalDeath: the
+    // last life ended by its own fault. Blocks. False, with the error placed, if the database is unusable.
     bool open(bool fatalDeath, std::optional<NSError> *error);
     void start();
     // Where the accounts are looked for; before start().
@@ -54,19 +54,19 @@ public:
                   const XPCTransferCompletion &reply);
 
     using Answer = std::function<void(const QVariant &value)>;
-    void list(qint64 after, quint32 limit, const Answer &answer);   // QList<QVariantMap>
-    void get(const QStringList &ids, const Answer &answer);         // QList<QVariantMap>
+    void list(qint64 after, quint32 limit, const Answer &answer);      // QList<QVariantMap>
+    void get(const QStringList &ids, const Answer &answer);            // QList<QVariantMap>
     void idsOfMessage(const QString &messageID, const Answer &answer); // QStringList
-    void counts(const Answer &answer);                              // QVariantMap
-    void retry(const QStringList &ids, const Answer &answer);       // uint
-    void remove(const QStringList &ids, const Answer &answer);      // uint
-    void clear(const Answer &answer);                               // uint
+    void counts(const Answer &answer);                                 // QVariantMap
+    void retry(const QStringList &ids, const Answer &answer);          // uint
+    void remove(const QStringList &ids, const Answer &answer);         // uint
+    void clear(const Answer &answer);                                  // uint
     void setPaused(bool paused, const Answer &answer);
     bool isPaused() const { return _paused; }
 
-    void wake();             // something may be due
-    void networkReturned();  // what waits for the network is due
-    void accountsChanged();  // what waits for a sign-in is due
+    void wake();            // something may be due
+    void networkReturned(); // what waits for the network is due
+    void accountsChanged(); // what waits for a sign-in is due
 
     // Stops what runs, keeping it queued, and starts nothing more; stopped is called once nothing runs.
     void stop(const std::function<void()> &stopped);
@@ -116,7 +116,7 @@ private:
     const Spool _spool;
     std::unique_ptr<UploadStore> _store;
     std::shared_ptr<ACAccountStore> _accounts;
-    std::map<QString, Hold> _holds;           // by service
+    std::map<QString, Hold> _holds;          // by service
     std::map<qint64, UploadJob> _unrecorded; // what the disk did not take; nothing new starts before it does
     std::atomic<int> _takeOvers = 0;         // under way
     std::function<void()> _stopped;

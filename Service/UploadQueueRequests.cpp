@@ -10,7 +10,8 @@ namespace {
 
 constexpr quint32 largestPage = 1000;
 
-// What a run has sent and what is certain of it. A multipart body is a little longer than the photo, so the count is cut.
+// What a run has sent and what is certain of it. A multipart body is a little longer than the photo, so the count is
+// cut.
 UploadProgress progressOf(const UploadJob &job, const UploadContext::Snapshot &request) {
     const qint64 total = job.bytesTotal != 0 ? job.bytesTotal : request.bytesTotal;
     if (job.photoID != 0) return {QString::number(job.id), total, total, total};
@@ -181,7 +182,8 @@ std::vector<UploadProgress> UploadQueue::progress() const {
 
 QVariantMap UploadQueue::_dictionary(const UploadJob &job) const {
     const auto running = _running.find(job.id);
-    UploadProgress bytes = progressOf(job, running == _running.end() ? UploadContext::Snapshot{} : running->second.context->snapshot());
+    UploadProgress bytes =
+        progressOf(job, running == _running.end() ? UploadContext::Snapshot{} : running->second.context->snapshot());
     if (job.state == UploadState::Done) bytes.bytesSent = bytes.bytesConfirmed = bytes.bytesTotal;
     return dictionaryOfJob(job, bytes.bytesSent, bytes.bytesConfirmed, bytes.bytesTotal);
 }

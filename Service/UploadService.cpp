@@ -42,15 +42,19 @@ UploadService::~UploadService() = default;
 
 UploadService::StartResult UploadService::start() {
     switch (_lockQueue()) {
-    case Locked: break;
-    case TakenByAnother: return _otherIsOnOurBus() ? AlreadyRunning : Unable;
-    case Unusable: return Unable;
+    case Locked:
+        break;
+    case TakenByAnother:
+        return _otherIsOnOurBus() ? AlreadyRunning : Unable;
+    case Unusable:
+        return Unable;
     }
     std::optional<NSError> error;
     const auto address = _busAddress(&error);
     if (address) _bus = QDBusConnection::connectToBus(*address, QStringLiteral("korvane-uploadd"));
     if (!address || !_bus.isConnected()) {
-        NSLog("The session bus cannot be reached: %@", error ? error->localizedDescription() : _bus.lastError().message());
+        NSLog("The session bus cannot be reached: %@",
+              error ? error->localizedDescription() : _bus.lastError().message());
         return Unable;
     }
     if (!_openQueue(&error)) {
@@ -77,7 +81,8 @@ UploadService::Lock UploadService::_lockQueue() {
     return TakenByAnother;
 }
 
-// A second service on the same bus is no trouble; one on another bus cannot be reached from here, so this start has failed.
+// A second service on the same bus is no trouble; one on another bus cannot be reached from here, so this start has
+// failed.
 bool UploadService::_otherIsOnOurBus() {
     const auto address = SessionBus::address();
     if (address) _bus = QDBusConnection::connectToBus(*address, QStringLiteral("korvane-uploadd"));
@@ -127,8 +132,9 @@ bool UploadService::_claimNames() {
         NSLog("The name %@ is taken on the bus.", name);
         return false;
     }
-    return _bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
-                        QStringLiteral("Disconnected"), this, SLOT(_busLost()));
+    return _bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+                        QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
+                        SLOT(_busLost()));
 }
 
 void UploadService::_watchSurroundings() {

@@ -28,8 +28,8 @@ public:
     ~UploadService() override;
 
     enum StartResult { Running, AlreadyRunning, Unable };
-    // Takes the queue's lock, opens the queue and claims the names. AlreadyRunning: another service has the names. Says in the
-    // log why it could not.
+    // Takes the queue's lock, opens the queue and claims the names. AlreadyRunning: another service has the names. Says
+    // in the log why it could not.
     StartResult start();
     // Stops uploads, keeping them queued, and then leaves the event loop with the status.
     void stop(int exitStatus);

@@ -32,9 +32,10 @@ const char *const schema[] = {
     "CREATE TABLE settings (name TEXT PRIMARY KEY, value INTEGER NOT NULL)",
 };
 
-const QString columns = QStringLiteral("id, service, state, wait_reason, title, account, account_name, spool, source, photo, bytes, "
-                                       "attempts, failures, failing_since, deaths, created, finished, next_try, error_domain, "
-                                       "error_code, error_text");
+const QString columns =
+    QStringLiteral("id, service, state, wait_reason, title, account, account_name, spool, source, photo, bytes, "
+                   "attempts, failures, failing_since, deaths, created, finished, next_try, error_domain, "
+                   "error_code, error_text");
 
 QString identityText(const std::optional<FileIdentity> &identity) {
     if (!identity) return QStringLiteral("");
@@ -48,7 +49,8 @@ QString identityText(const std::optional<FileIdentity> &identity) {
 std::optional<FileIdentity> identityOf(const QString &text) {
     const QStringList fields = text.split(u' ');
     if (fields.size() != 4) return std::nullopt;
-    return FileIdentity{fields[0].toULongLong(), fields[1].toULongLong(), fields[2].toLongLong(), fields[3].toLongLong()};
+    return FileIdentity{fields[0].toULongLong(), fields[1].toULongLong(), fields[2].toLongLong(),
+                        fields[3].toLongLong()};
 }
 
 UploadJob jobOfRow(const QSqlQuery &row) {
@@ -87,10 +89,10 @@ QString bound(const QString &text) {
 
 // Binds everything from "service" to "error_text", in the order of the columns.
 void bindJob(QSqlQuery &query, const UploadJob &job) {
-    for (const QVariant &value : QVariantList{bound(job.service), int(job.state), int(job.waitReason), bound(job.title),
-                                              bound(job.accountID), bound(job.accountName), bound(job.spoolFile), identityText(job.source),
-                                              job.photoID, job.bytesTotal, job.attempts, job.failures, job.failingSince,
-                                              job.deaths, job.createdAt, job.finishedAt, job.nextTryAt})
+    for (const QVariant &value : QVariantList{
+             bound(job.service), int(job.state), int(job.waitReason), bound(job.title), bound(job.accountID),
+             bound(job.accountName), bound(job.spoolFile), identityText(job.source), job.photoID, job.bytesTotal,
+             job.attempts, job.failures, job.failingSince, job.deaths, job.createdAt, job.finishedAt, job.nextTryAt})
         query.addBindValue(value);
     query.addBindValue(job.error ? QVariant(job.error->domain()) : QVariant());
     query.addBindValue(job.error ? QVariant(job.error->code()) : QVariant());
@@ -111,8 +113,9 @@ bool UploadStore::open(const QString &path, std::optional<NSError> *error) {
     _database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), _connectionName);
     _database.setDatabaseName(path);
     const auto fail = [&](const QString &text) {
-        setError(error, NSError::errorWithDescription(NSCocoaErrorDomain, 256,
-                                                      QStringLiteral("The upload queue %1 cannot be used: %2").arg(path, text)));
+        setError(error, NSError::errorWithDescription(
+                            NSCocoaErrorDomain, 256,
+                            QStringLiteral("The upload queue %1 cannot be used: %2").arg(path, text)));
         return false;
     };
     if (!_database.open()) return fail(_database.lastError().text());
@@ -122,8 +125,9 @@ bool UploadStore::open(const QString &path, std::optional<NSError> *error) {
     const int found = version.next() ? version.value(0).toInt() : -1;
     version.finish();
     if (found == schemaVersion) {
-        if (_isSound() || (_exec(QStringLiteral("REINDEX")) && _isSound())) return true;
-        return fail(QStringLiteral("it is damaged. Move it away to begin a new queue; the data of its posts stands in the spool beside it"));
+        if (_isSound()) return true;
+        return fail(QStringLiteral(
+            "it is damaged. Move it away to begin a new queue; the data of its posts stands in the spool beside it"));
     }
     if (found != 0) return fail(QStringLiteral("it was written by another version of Korvane"));
     _database.transaction();
@@ -147,10 +151,11 @@ bool UploadStore::take(const QString &messageID, const std::vector<NewUpload> &u
     message.addBindValue(QDateTime::currentMSecsSinceEpoch());
     taken = taken && _run(message);
     QSqlQuery query(_database);
-    query.prepare(QStringLiteral("INSERT INTO uploads (service, state, wait_reason, title, account, account_name, spool, source, photo, bytes, "
-                                 "attempts, failures, failing_since, deaths, created, finished, next_try, error_domain, "
-                                 "error_code, error_text, message, record) "
-                                 "VALUES (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)"));
+    query.prepare(QStringLiteral(
+        "INSERT INTO uploads (service, state, wait_reason, title, account, account_name, spool, source, photo, bytes, "
+        "attempts, failures, failing_since, deaths, created, finished, next_try, error_domain, "
+        "error_code, error_text, message, record) "
+        "VALUES (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)"));
     for (const NewUpload &upload : uploads) {
         if (!taken) break;
         bindJob(query, upload.job);
@@ -215,11 +220,13 @@ std::map<UploadState, qint64> UploadStore::counts() {
 }
 
 std::vector<UploadJob> UploadStore::queued(const QString &service, int limit) {
-    return _select(QStringLiteral("state = ? AND service = ? ORDER BY id LIMIT ?"), {int(UploadState::Queued), service, limit});
+    return _select(QStringLiteral("state = ? AND service = ? ORDER BY id LIMIT ?"),
+                   {int(UploadState::Queued), service, limit});
 }
 
 std::optional<UploadJob> UploadStore::suspect() {
-    const auto found = _select(QStringLiteral("deaths > 0 AND state = ? ORDER BY id LIMIT 1"), {int(UploadState::Queued)});
+    const auto found =
+        _select(QStringLiteral("deaths > 0 AND state = ? ORDER BY id LIMIT 1"), {int(UploadState::Queued)});
     return found.empty() ? std::nullopt : std::optional(found.front());
 }
 
@@ -232,7 +239,8 @@ std::vector<UploadJob> UploadStore::dueBefore(qint64 time) {
 }
 
 std::optional<qint64> UploadStore::nextDue() {
-    QSqlQuery query(QStringLiteral("SELECT min(next_try) FROM uploads WHERE state = %1").arg(int(UploadState::Waiting)), _database);
+    QSqlQuery query(QStringLiteral("SELECT min(next_try) FROM uploads WHERE state = %1").arg(int(UploadState::Waiting)),
+                    _database);
     if (!query.next() || query.value(0).isNull()) return std::nullopt;
     return query.value(0).toLongLong();
 }
@@ -240,10 +248,11 @@ std::optional<qint64> UploadStore::nextDue() {
 bool UploadStore::update(const UploadJob &job, bool durable) {
     _setDurable(durable);
     QSqlQuery query(_database);
-    query.prepare(QStringLiteral(
-        "UPDATE uploads SET service = ?, state = ?, wait_reason = ?, title = ?, account = ?, account_name = ?, spool = ?, source = ?, photo = ?, "
-        "bytes = ?, attempts = ?, failures = ?, failing_since = ?, deaths = ?, created = ?, finished = ?, next_try = ?, "
-        "error_domain = ?, error_code = ?, error_text = ? WHERE id = ?"));
+    query.prepare(QStringLiteral("UPDATE uploads SET service = ?, state = ?, wait_reason = ?, title = ?, account = ?, "
+                                 "account_name = ?, spool = ?, source = ?, photo = ?, "
+                                 "bytes = ?, attempts = ?, failures = ?, failing_since = ?, deaths = ?, created = ?, "
+                                 "finished = ?, next_try = ?, "
+                                 "error_domain = ?, error_code = ?, error_text = ? WHERE id = ?"));
     bindJob(query, job);
     query.addBindValue(job.id);
     return _run(query);
@@ -286,10 +295,12 @@ std::vector<UploadJob> UploadStore::recover(bool fatal, qint64 now, qint64 longe
     std::vector<UploadJob> setAside;
     _setDurable(true);
     _database.transaction();
-    _exec(QStringLiteral("UPDATE uploads SET next_try = min(next_try, %1), failing_since = min(failing_since, %2) WHERE state = %3")
-              .arg(now + longestWait)
-              .arg(now)
-              .arg(int(UploadState::Waiting)));
+    _exec(
+        QStringLiteral(
+            "UPDATE uploads SET next_try = min(next_try, %1), failing_since = min(failing_since, %2) WHERE state = %3")
+            .arg(now + longestWait)
+            .arg(now)
+            .arg(int(UploadState::Waiting)));
     for (UploadJob &job : _select(QStringLiteral("state = ?"), {int(UploadState::Running)})) {
         job.state = UploadState::Queued;
         if (fatal) ++job.deaths;
@@ -298,8 +309,9 @@ std::vector<UploadJob> UploadStore::recover(bool fatal, qint64 now, qint64 longe
             job.finishedAt = now;
             job.error = NSError::errorWithDescription(
                 RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable,
-                QStringLiteral("The upload service ended unexpectedly each time it tried this upload, so it was set aside. "
-                               "Check the file, then retry or remove the upload."));
+                QStringLiteral(
+                    "The upload service ended unexpectedly each time it tried this upload, so it was set aside. "
+                    "Check the file, then retry or remove the upload."));
             setAside.push_back(job);
         }
         update(job, true);

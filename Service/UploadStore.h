@@ -25,8 +25,8 @@ public:
     UploadStore();
     ~UploadStore();
 
-    // Opens or makes the database, and makes its indexes anew if they are damaged. False, with the error placed, if it is
-    // unusable or of another version.
+    // Opens or makes the database. False, with the error placed and nothing changed, if it is damaged or of another
+    // version.
     bool open(const QString &path, std::optional<NSError> *error);
 
     // All uploads of a message, or none of them; on disk when it returns.
@@ -49,7 +49,8 @@ public:
     std::vector<UploadJob> dueBefore(qint64 time);
     std::optional<qint64> nextDue();
 
-    // Writes all of the job's fields but its record. durable: on disk when it returns, else only safe from a death of the process.
+    // Writes all of the job's fields but its record. durable: on disk when it returns, else only safe from a death of
+    // the process.
     bool update(const UploadJob &job, bool durable);
     void remove(const std::vector<UploadJob> &jobs); // all at once
     // The done ones, and how many.
@@ -59,9 +60,9 @@ public:
     // Null where the database does not say.
     std::optional<QSet<QString>> spoolFiles();
 
-    // After a death of the service: what was running is queued again. fatal: the death was of the service's own making, so each
-    // of them is suspected; those suspected before are set aside as failed. Returns those set aside. Times that a wrong clock
-    // has put into the future are drawn in: nothing waits longer than longestWait.
+    // After a death of the service: what was running is queued again. fatal: the death was of the service's own making,
+    // so each of them is suspected; those suspected before are set aside as failed. Returns those set aside. Times that
+    // a wrong clock has put into the future are drawn in: nothing waits longer than longestWait.
     std::vector<UploadJob> recover(bool fatal, qint64 now, qint64 longestWait);
 
     bool isPaused();

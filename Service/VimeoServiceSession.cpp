@@ -9,7 +9,7 @@ VimeoServiceSession::VimeoServiceSession(UploadQueue &queue)
     : KRRemoteSession(VimeoRemoteServiceName, VimeoRemoteSessionProtocol::interface()), _queue(queue) {}
 
 void VimeoServiceSession::received(const QVariantList &records, const RemoteMessage &message,
-                                    const XPCTransferCompletion &reply) {
+                                   const XPCTransferCompletion &reply) {
     _message = message;
     uploadPost(records.value(0).toMap(), reply);
     _message = {};

@@ -1,8 +1,8 @@
 // The upload service's end of the Vimeo hand-over.
 #pragma once
 
-#include "Korvane/VimeoRemoteSessionProtocol.h"
 #include "Korvane/KRRemoteSession.h"
+#include "Korvane/VimeoRemoteSessionProtocol.h"
 
 namespace korvane {
 
@@ -16,7 +16,8 @@ public:
     void uploadPost(const QVariantMap &post, const XPCTransferCompletion &reply) override;
 
 protected:
-    void received(const QVariantList &records, const RemoteMessage &message, const XPCTransferCompletion &reply) override;
+    void received(const QVariantList &records, const RemoteMessage &message,
+                  const XPCTransferCompletion &reply) override;
 
 private:
     UploadQueue &_queue;

@@ -33,21 +33,26 @@ int main(int argc, char **argv) {
     QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Uploads what was shared to Flickr and Vimeo. Started by the session bus, systemd or the desktop; goes on with what is queued.\n"
-        "Exit status: 0 asked to end or already running, 1 bus or queue unusable."));
+    parser.setApplicationDescription(
+        QStringLiteral("Uploads what was shared to Flickr and Vimeo. Started by the session bus, systemd or the "
+                       "desktop; goes on with what is queued.\n"
+                       "Exit status: 0 asked to end or already running, 1 bus or queue unusable."));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption privateBus(QStringLiteral("private-bus"),
-                                        QStringLiteral("Run a message bus of its own, for a session without one, and end when the queue is empty."));
+    const QCommandLineOption privateBus(
+        QStringLiteral("private-bus"),
+        QStringLiteral("Run a message bus of its own, for a session without one, and end when the queue is empty."));
     parser.addOption(privateBus);
     parser.process(application);
 
     korvane::UploadService service(parser.isSet(privateBus));
     switch (service.start()) {
-    case korvane::UploadService::Running: break;
-    case korvane::UploadService::AlreadyRunning: return 0;
-    case korvane::UploadService::Unable: return 1;
+    case korvane::UploadService::Running:
+        break;
+    case korvane::UploadService::AlreadyRunning:
+        return 0;
+    case korvane::UploadService::Unable:
+        return 1;
     }
     QSocketNotifier notifier(signals, QSocketNotifier::Read);
     QObject::connect(&notifier, &QSocketNotifier::activated, &service, [&service] { service.stop(0); });

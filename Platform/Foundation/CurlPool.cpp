@@ -43,8 +43,8 @@ std::unique_ptr<CurlHandle> CurlPool::take(const QString &origin) {
     {
         const std::lock_guard lock(idle().mutex);
         auto &handles = idle().handles;
-        const auto found =
-            std::find_if(handles.rbegin(), handles.rend(), [&](const IdleHandle &entry) { return entry.origin == origin; });
+        const auto found = std::find_if(handles.rbegin(), handles.rend(),
+                                        [&](const IdleHandle &entry) { return entry.origin == origin; });
         if (found != handles.rend()) {
             auto handle = std::move(found->handle);
             handles.erase(std::next(found).base());

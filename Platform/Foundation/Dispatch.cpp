@@ -10,7 +10,8 @@
 namespace korvane {
 namespace {
 
-// The work waits in a queue of our own; Qt's event only wakes the main thread, so that one mutex orders every hand-over.
+// The work waits in a queue of our own; Qt's event only wakes the main thread, so that one mutex orders every
+// hand-over.
 class MainQueue : public QObject {
 public:
     static MainQueue &instance() {

@@ -10,8 +10,8 @@
 
 namespace korvane {
 
-// Runs the work on the main thread's event loop, in the order of the calls. Thread: any. Work that is still queued when the
-// application object goes is dropped.
+// Runs the work on the main thread's event loop, in the order of the calls. Thread: any. Work that is still queued when
+// the application object goes is dropped.
 void dispatchMain(std::function<void()> work);
 
 // Runs the work on a pool thread. A thread is added whenever none is idle, since most work here blocks on the network.
@@ -22,8 +22,8 @@ void dispatchGlobal(std::function<void()> work);
 class SerialQueue {
 public:
     SerialQueue();
-    // Runs what is queued, then ends the thread. Destroyed on its own thread (by the work that held the last reference),
-    // it lets the thread end by itself.
+    // Runs what is queued, then ends the thread. Destroyed on its own thread (by the work that held the last
+    // reference), it lets the thread end by itself.
     ~SerialQueue();
     SerialQueue(const SerialQueue &) = delete;
     SerialQueue &operator=(const SerialQueue &) = delete;

@@ -43,8 +43,9 @@ std::optional<NSData> NSData::dataWithContentsOfFile(const QByteArray &path, std
     if (::fstat(file.get(), &status) != 0) return fail(errno);
     if (S_ISDIR(status.st_mode)) return fail(EISDIR);
     if (!S_ISREG(status.st_mode)) {
-        setError(error, NSError::errorWithDescription(NSPOSIXErrorDomain, EINVAL,
-                                                      QFile::decodeName(path) + QStringLiteral(": not a regular file")));
+        setError(error,
+                 NSError::errorWithDescription(NSPOSIXErrorDomain, EINVAL,
+                                               QFile::decodeName(path) + QStringLiteral(": not a regular file")));
         return std::nullopt;
     }
     return dataWithFile(std::make_shared<FileDescriptor>(std::move(file)), 0, status.st_size);

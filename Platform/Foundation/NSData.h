@@ -13,7 +13,8 @@
 
 namespace korvane {
 
-// What identifies the contents of a file as it was when it was looked at: another file, size or time means other contents.
+// What identifies the contents of a file as it was when it was looked at: another file, size or time means other
+// contents.
 struct FileIdentity {
     quint64 device = 0;
     quint64 inode = 0;
@@ -25,16 +26,17 @@ struct FileIdentity {
     friend bool operator==(const FileIdentity &, const FileIdentity &) = default;
 };
 
-// Copies share the bytes or the open file. A file's part is read with pread when it is needed and never mapped, so that a
-// file that shrinks gives fewer bytes instead of a signal. Thread: any; nothing changes after construction.
+// Copies share the bytes or the open file. A file's part is read with pread when it is needed and never mapped, so that
+// a file that shrinks gives fewer bytes instead of a signal. Thread: any; nothing changes after construction.
 class NSData {
 public:
     NSData() = default; // empty
     explicit NSData(QByteArray bytes) : _bytes(std::move(bytes)), _length(_bytes.size()) {}
 
-    // Stands for the whole file: it is opened here and read later. Null, with the error placed, if it cannot be opened for
-    // reading or is not a regular file.
-    static std::optional<NSData> dataWithContentsOfFile(const QByteArray &path, std::optional<NSError> *error = nullptr);
+    // Stands for the whole file: it is opened here and read later. Null, with the error placed, if it cannot be opened
+    // for reading or is not a regular file.
+    static std::optional<NSData> dataWithContentsOfFile(const QByteArray &path,
+                                                        std::optional<NSError> *error = nullptr);
     static std::optional<NSData> dataWithContentsOfURL(const NSURL &url, std::optional<NSError> *error = nullptr);
     // Stands for length bytes of an open regular file from offset on.
     static NSData dataWithFile(std::shared_ptr<const FileDescriptor> file, qint64 offset, qint64 length);

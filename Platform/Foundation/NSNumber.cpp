@@ -10,7 +10,8 @@ namespace {
 
 qsizetype skipSpace(QStringView text) {
     qsizetype i = 0;
-    while (i < text.size() && text[i].isSpace()) ++i;
+    while (i < text.size() && text[i].isSpace())
+        ++i;
     return i;
 }
 
@@ -38,7 +39,8 @@ qint64 truncated(double value) {
 bool leadingBool(QStringView text) {
     qsizetype i = skipSpace(text);
     if (i < text.size() && (text[i] == u'-' || text[i] == u'+')) ++i;
-    while (i < text.size() && text[i] == u'0') ++i;
+    while (i < text.size() && text[i] == u'0')
+        ++i;
     return i < text.size() && QStringView(u"YyTt123456789").contains(text[i]);
 }
 
@@ -46,11 +48,14 @@ bool leadingBool(QStringView text) {
 
 qint64 integerValue(const QVariant &value) {
     switch (value.typeId()) {
-    case QMetaType::QString: return leadingInteger(value.toString());
+    case QMetaType::QString:
+        return leadingInteger(value.toString());
     case QMetaType::Double:
-    case QMetaType::Float: return truncated(value.toDouble());
+    case QMetaType::Float:
+        return truncated(value.toDouble());
     case QMetaType::ULongLong:
-    case QMetaType::ULong: return qint64(value.toULongLong());
+    case QMetaType::ULong:
+        return qint64(value.toULongLong());
     case QMetaType::Bool:
     case QMetaType::Char:
     case QMetaType::SChar:
@@ -60,8 +65,10 @@ qint64 integerValue(const QVariant &value) {
     case QMetaType::Int:
     case QMetaType::UInt:
     case QMetaType::Long:
-    case QMetaType::LongLong: return value.toLongLong();
-    default: return 0;
+    case QMetaType::LongLong:
+        return value.toLongLong();
+    default:
+        return 0;
     }
 }
 

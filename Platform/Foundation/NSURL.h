@@ -9,7 +9,8 @@
 
 namespace korvane {
 
-// QUrl rewrites some escapes (%7E, %2e); what is signed, stored or compared must not change, so the text stands beside it.
+// QUrl rewrites some escapes (%7E, %2e); what is signed, stored or compared must not change, so the text stands beside
+// it.
 class NSURL {
 public:
     // Null if the text is not a valid URL of RFC 3986 (white space, non-ASCII characters, a bare "%").

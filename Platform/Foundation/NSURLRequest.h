@@ -24,7 +24,7 @@ struct NSMutableURLRequest {
     QByteArray HTTPMethod = "GET";
     HTTPHeaders headers = {};
     std::vector<NSData> HTTPBody = {}; // sent one after the other as one body
-    double timeoutInterval = 60;  // seconds without a byte moved
+    double timeoutInterval = 60;       // seconds without a byte moved
     bool allowsCellularAccess = true;
     std::shared_ptr<UploadContext> uploadContext = {}; // may be null
 

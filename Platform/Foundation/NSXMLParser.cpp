@@ -31,7 +31,8 @@ bool NSXMLParser::parse() {
             --depth;
             if (_delegate) _delegate->parserDidEndElement(*this, reader.qualifiedName().toString());
             break;
-        default: break;
+        default:
+            break;
         }
     }
     if (!reader.hasError()) return true;

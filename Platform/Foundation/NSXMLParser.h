@@ -12,8 +12,8 @@ namespace korvane {
 
 class NSXMLParser;
 
-// Hears the events in document order. CDATA sections arrive as characters. Element names are those of the document, with
-// any namespace prefix.
+// Hears the events in document order. CDATA sections arrive as characters. Element names are those of the document,
+// with any namespace prefix.
 class NSXMLParserDelegate {
 public:
     virtual ~NSXMLParserDelegate() = default;

@@ -32,22 +32,32 @@ qint64 errorCode(CURLcode code, long osError, const QString &host) {
         return online;
     };
     switch (code) {
-    case CURLE_OPERATION_TIMEDOUT: return NSURLErrorTimedOut;
+    case CURLE_OPERATION_TIMEDOUT:
+        return NSURLErrorTimedOut;
     case CURLE_COULDNT_RESOLVE_HOST:
-    case CURLE_COULDNT_RESOLVE_PROXY: return unlessOffline(NSURLErrorCannotFindHost);
-    case CURLE_COULDNT_CONNECT: return unlessOffline(NSURLErrorCannotConnectToHost);
+    case CURLE_COULDNT_RESOLVE_PROXY:
+        return unlessOffline(NSURLErrorCannotFindHost);
+    case CURLE_COULDNT_CONNECT:
+        return unlessOffline(NSURLErrorCannotConnectToHost);
     case CURLE_SEND_ERROR:
     case CURLE_SEND_FAIL_REWIND:
     case CURLE_RECV_ERROR:
     case CURLE_GOT_NOTHING:
-    case CURLE_PARTIAL_FILE: return NSURLErrorNetworkConnectionLost;
-    case CURLE_ABORTED_BY_CALLBACK: return NSURLErrorCancelled;
-    case CURLE_SSL_CONNECT_ERROR: return NSURLErrorSecureConnectionFailed;
-    case CURLE_PEER_FAILED_VERIFICATION: return NSURLErrorServerCertificateUntrusted;
+    case CURLE_PARTIAL_FILE:
+        return NSURLErrorNetworkConnectionLost;
+    case CURLE_ABORTED_BY_CALLBACK:
+        return NSURLErrorCancelled;
+    case CURLE_SSL_CONNECT_ERROR:
+        return NSURLErrorSecureConnectionFailed;
+    case CURLE_PEER_FAILED_VERIFICATION:
+        return NSURLErrorServerCertificateUntrusted;
     case CURLE_SSL_ISSUER_ERROR:
-    case CURLE_SSL_CACERT_BADFILE: return NSURLErrorServerCertificateHasUnknownRoot;
-    case CURLE_SSL_CERTPROBLEM: return NSURLErrorClientCertificateRequired;
-    default: return NSURLErrorUnknown;
+    case CURLE_SSL_CACERT_BADFILE:
+        return NSURLErrorServerCertificateHasUnknownRoot;
+    case CURLE_SSL_CERTPROBLEM:
+        return NSURLErrorClientCertificateRequired;
+    default:
+        return NSURLErrorUnknown;
     }
 }
 
@@ -123,7 +133,8 @@ std::optional<NSError> URLTransfer::_drive() {
         int running = 0;
         curl_multi_perform(_handle.multi, &running);
         int waiting = 0;
-        if (const CURLMsg *message = curl_multi_info_read(_handle.multi, &waiting)) return _result(message->data.result);
+        if (const CURLMsg *message = curl_multi_info_read(_handle.multi, &waiting))
+            return _result(message->data.result);
         if (_hasStalled()) return end(NSURLErrorTimedOut, QStringLiteral("The web service did not respond in time."));
         curl_multi_poll(_handle.multi, nullptr, 0, longestWaitMilliseconds, nullptr);
     }
@@ -185,8 +196,8 @@ size_t URLTransfer::_readBody(char *buffer, size_t capacity) {
     return size_t(count);
 }
 
-// curl rewinds to repeat a request on a new connection when the kept one turns out dead. Once the whole body has gone out
-// the service may have acted on it, so the repetition is left to those who can tell, with a new nonce.
+// curl rewinds to repeat a request on a new connection when the kept one turns out dead. Once the whole body has gone
+// out the service may have acted on it, so the repetition is left to those who can tell, with a new nonce.
 bool URLTransfer::_rewind(qint64 position) {
     if (position != 0 || _bodyRead == _bodyLength) return false;
     _piece = 0;
@@ -209,7 +220,8 @@ size_t URLTransfer::_onRead(char *buffer, size_t size, size_t count, void *self)
 }
 
 int URLTransfer::_onSeek(void *self, curl_off_t offset, int origin) {
-    return origin == SEEK_SET && static_cast<URLTransfer *>(self)->_rewind(offset) ? CURL_SEEKFUNC_OK : CURL_SEEKFUNC_FAIL;
+    return origin == SEEK_SET && static_cast<URLTransfer *>(self)->_rewind(offset) ? CURL_SEEKFUNC_OK
+                                                                                   : CURL_SEEKFUNC_FAIL;
 }
 
 size_t URLTransfer::_onWrite(char *bytes, size_t size, size_t count, void *self) {

@@ -46,11 +46,11 @@ private:
     NSHTTPURLResponse _response;
     QByteArray _body;
     qint64 _bodyLength = 0;
-    qint64 _bodyRead = 0;   // bytes handed to curl; at most _bodyLength
-    size_t _piece = 0;      // the piece that is being read, and
-    qint64 _pieceRead = 0;  // how much of it was
-    qint64 _lastMoved = -1; // bytes moved both ways when something last moved, and
-    Clock::time_point _lastMove; // when that was
+    qint64 _bodyRead = 0;               // bytes handed to curl; at most _bodyLength
+    size_t _piece = 0;                  // the piece that is being read, and
+    qint64 _pieceRead = 0;              // how much of it was
+    qint64 _lastMoved = -1;             // bytes moved both ways when something last moved, and
+    Clock::time_point _lastMove;        // when that was
     std::optional<NSError> _localError; // a fault of our own body or of the answer's size
 };
 

@@ -9,14 +9,14 @@
 
 namespace korvane {
 
-// Hangs on the account object of one job; every request prepared for that account carries it to the send. The upload code
-// above knows nothing of it. Thread: any; one mutex guards everything.
+// Hangs on the account object of one job; every request prepared for that account carries it to the send. The upload
+// code above knows nothing of it. Thread: any; one mutex guards everything.
 class UploadContext {
 public:
     struct Snapshot {
-        qint64 bytesSent = 0;  // of the current request's body, without what still waits in the socket
-        qint64 bytesTotal = 0; // of the current request's body
-        int httpStatus = 0;    // of the last answer; 0 while the current request has none
+        qint64 bytesSent = 0;                  // of the current request's body, without what still waits in the socket
+        qint64 bytesTotal = 0;                 // of the current request's body
+        int httpStatus = 0;                    // of the last answer; 0 while the current request has none
         std::optional<NSError> transportError; // of the last request that ended
     };
 

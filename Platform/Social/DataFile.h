@@ -13,8 +13,9 @@ public:
     // Makes the file in the folder. Null, with the error placed, if it cannot be.
     static std::optional<DataFile> create(const QString &folder, std::optional<NSError> *error);
 
-    // Appends the data at the next page boundary and returns its offset; null, with the error placed, if it cannot be written
-    // whole or its source changed meanwhile. Within a file system that can, the bytes are shared instead of copied.
+    // Appends the data at the next page boundary and returns its offset; null, with the error placed, if it cannot be
+    // written whole or its source changed meanwhile. Within a file system that can, the bytes are shared instead of
+    // copied.
     std::optional<qint64> append(const NSData &data, std::optional<NSError> *error);
 
     // The file, open for reading only; the writable descriptor is closed. Nothing may be appended afterwards.

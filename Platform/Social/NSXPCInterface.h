@@ -11,8 +11,7 @@
 namespace korvane {
 
 // The reply to an operation. success: null counts as NO. Runs exactly once, on a thread of the caller's choosing.
-using XPCTransferCompletion =
-    std::function<void(std::optional<bool> success, const std::optional<NSError> &error)>;
+using XPCTransferCompletion = std::function<void(std::optional<bool> success, const std::optional<NSError> &error)>;
 
 struct NSXPCInterface {
     enum Argument { Record, Records };

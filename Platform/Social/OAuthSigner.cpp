@@ -54,9 +54,9 @@ OAuthParameters OAuthSigner::parametersOfQuery(const QString &query) {
     return parameters;
 }
 
-QByteArray OAuthSigner::signatureBaseString(const QByteArray &method, const NSURL &url, const OAuthParameters &parameters) {
-    return method.toUpper() + '&' + encoded(baseURI(url)) + '&' +
-           encoded(QString::fromLatin1(normalized(parameters)));
+QByteArray OAuthSigner::signatureBaseString(const QByteArray &method, const NSURL &url,
+                                            const OAuthParameters &parameters) {
+    return method.toUpper() + '&' + encoded(baseURI(url)) + '&' + encoded(QString::fromLatin1(normalized(parameters)));
 }
 
 QByteArray OAuthSigner::signature(const QByteArray &baseString, const ACAccountCredential &credential) {
@@ -64,9 +64,9 @@ QByteArray OAuthSigner::signature(const QByteArray &baseString, const ACAccountC
     return QMessageAuthenticationCode::hash(baseString, key, QCryptographicHash::Sha1).toBase64();
 }
 
-QByteArray OAuthSigner::authorizationHeader(const QByteArray &method, const NSURL &url, const OAuthParameters &parameters,
-                                            const ACAccountCredential &credential, qint64 timestamp,
-                                            const QString &nonce) {
+QByteArray OAuthSigner::authorizationHeader(const QByteArray &method, const NSURL &url,
+                                            const OAuthParameters &parameters, const ACAccountCredential &credential,
+                                            qint64 timestamp, const QString &nonce) {
     OAuthParameters oauth{{QStringLiteral("oauth_consumer_key"), credential.consumerKey},
                           {QStringLiteral("oauth_nonce"), nonce},
                           {QStringLiteral("oauth_signature_method"), QStringLiteral("HMAC-SHA1")},

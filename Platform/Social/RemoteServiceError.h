@@ -10,12 +10,12 @@ namespace korvane {
 extern const QString RemoteServiceErrorDomain;
 
 enum RemoteServiceErrorCode : qint64 {
-    RemoteServiceErrorUnreachable = 1,     // no bus, or the service cannot be started or does not answer
-    RemoteServiceErrorOtherSettings = 2,   // the service that runs uploads to other hosts or from other folders
-    RemoteServiceErrorUnusableRecord = 3,  // a record that cannot cross between programs
-    RemoteServiceErrorUnusableData = 4,    // the data that came with a message cannot be trusted
-    RemoteServiceErrorNothingToShare = 5,  // an empty batch
-    RemoteServiceErrorNotAvailable = 6,    // the service cannot take posts just now
+    RemoteServiceErrorUnreachable = 1,    // no bus, or the service cannot be started or does not answer
+    RemoteServiceErrorOtherSettings = 2,  // the service that runs uploads to other hosts or from other folders
+    RemoteServiceErrorUnusableRecord = 3, // a record that cannot cross between programs
+    RemoteServiceErrorUnusableData = 4,   // the data that came with a message cannot be trusted
+    RemoteServiceErrorNothingToShare = 5, // an empty batch
+    RemoteServiceErrorNotAvailable = 6,   // the service cannot take posts just now
 };
 
 // An error as it crosses between programs: "domain", "code" and, where there is one, "description".

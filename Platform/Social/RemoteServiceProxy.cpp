@@ -57,11 +57,12 @@ private:
         if (!_connectionName.isEmpty()) QDBusConnection::disconnectFromBus(std::exchange(_connectionName, QString()));
     }
 
-    // The data goes into a file beside the service's spool, so both must mean the same folder, and the same web services.
-    // Null: they agree.
+    // The data goes into a file beside the service's spool, so both must mean the same folder, and the same web
+    // services. Null: they agree.
     std::optional<Outcome> _agreeOnSettings() {
-        auto call = QDBusMessage::createMethodCall(_serviceName, UploadsInterface::path(),
-                                                   QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("GetAll"));
+        auto call =
+            QDBusMessage::createMethodCall(_serviceName, UploadsInterface::path(),
+                                           QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("GetAll"));
         call << UploadsInterface::name();
         const auto reply = QDBusConnection(_connectionName).call(call, QDBus::Block, INT_MAX);
         if (reply.type() != QDBusMessage::ReplyMessage)

@@ -22,13 +22,16 @@ NSError unusableData(const QString &text) {
     return NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorUnusableData, text);
 }
 
-// A file that others can reach or write to could change after it was taken over, so only an unnamed one without a writer will do.
+// A file that others can reach or write to could change after it was taken over, so only an unnamed one without a
+// writer will do.
 std::optional<NSError> distrust(int descriptor) {
     struct stat status;
     if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode))
         return unusableData(QStringLiteral("The data came as something other than a regular file."));
-    if (status.st_uid != ::geteuid()) return unusableData(QStringLiteral("The file with the data belongs to another user."));
-    if (status.st_nlink != 0) return unusableData(QStringLiteral("The file with the data has a name; send an unnamed one."));
+    if (status.st_uid != ::geteuid())
+        return unusableData(QStringLiteral("The file with the data belongs to another user."));
+    if (status.st_nlink != 0)
+        return unusableData(QStringLiteral("The file with the data has a name; send an unnamed one."));
     if (::fcntl(descriptor, F_SETLEASE, F_RDLCK) == 0)
         ::fcntl(descriptor, F_SETLEASE, F_UNLCK);
     else if (errno == EAGAIN)
@@ -77,16 +80,19 @@ bool RemoteServiceSession::handleMessage(const QDBusMessage &message, const QDBu
     const bool batch = _interface.argument == NSXPCInterface::Records;
     if (message.signature() != (batch ? QLatin1String("saa{sv}ah") : QLatin1String("sa{sv}ah"))) {
         connection.send(message.createErrorReply(
-            QDBusError::InvalidArgs, QStringLiteral("%1 takes a message id, records and at most one file.").arg(message.member())));
+            QDBusError::InvalidArgs,
+            QStringLiteral("%1 takes a message id, records and at most one file.").arg(message.member())));
         return true;
     }
     message.setDelayedReply(true);
     const auto reply = [message, connection](std::optional<bool> success, const std::optional<NSError> &error) {
-        connection.send(message.createReply({success.value_or(false), error ? dictionaryOfError(*error) : QVariantMap()}));
+        connection.send(
+            message.createReply({success.value_or(false), error ? dictionaryOfError(*error) : QVariantMap()}));
     };
     std::optional<NSError> error;
     RemoteMessage extra{message.arguments().at(0).toString(), nullptr};
-    if (extra.id.isEmpty() || extra.id.size() > longestID) error = unusableData(QStringLiteral("The message has no usable id."));
+    if (extra.id.isEmpty() || extra.id.size() > longestID)
+        error = unusableData(QStringLiteral("The message has no usable id."));
     if (!error) extra.dataFile = dataFileOf(message.arguments().at(2), &error);
     QVariantList records;
     if (!error) records = decoded(batch, message.arguments().at(1), extra.dataFile, &error);

@@ -14,8 +14,9 @@ namespace korvane {
 
 // What came with a message beside its records.
 struct RemoteMessage {
-    QString id;                                     // the same when a client asks again after a lost reply
-    std::shared_ptr<const FileDescriptor> dataFile; // unnamed, own, nobody writes to it; null if all data is in the records
+    QString id; // the same when a client asks again after a lost reply
+    std::shared_ptr<const FileDescriptor>
+        dataFile; // unnamed, own, nobody writes to it; null if all data is in the records
 };
 
 // Registers itself on the bus under the service's name, checks what arrives and hands it to its derived class.

@@ -28,8 +28,8 @@ RequestBody RequestBody::multipart(const OAuthParameters &parameters, const std:
     RequestBody body{"multipart/form-data; boundary=" + boundary, {}};
     QByteArray text;
     for (const auto &[name, value] : parameters)
-        text += "--" + boundary + "\r\nContent-Disposition: form-data; name=" + quoted(name) + "\r\n\r\n" + value.toUtf8() +
-                "\r\n";
+        text += "--" + boundary + "\r\nContent-Disposition: form-data; name=" + quoted(name) + "\r\n\r\n" +
+                value.toUtf8() + "\r\n";
     for (const MultipartPart &part : parts) {
         text += "--" + boundary + "\r\nContent-Disposition: form-data; name=" + quoted(part.name);
         if (part.filename) text += "; filename=" + quoted(*part.filename);

@@ -22,7 +22,8 @@ struct RequestBody {
 
     // application/x-www-form-urlencoded, with "%20" for a space as OAuth wants it.
     static RequestBody form(const OAuthParameters &parameters);
-    // multipart/form-data (RFC 7578): the parameters as text parts, then the parts, whose bytes are referred to, not copied.
+    // multipart/form-data (RFC 7578): the parameters as text parts, then the parts, whose bytes are referred to, not
+    // copied.
     static RequestBody multipart(const OAuthParameters &parameters, const std::vector<MultipartPart> &parts);
 };
 

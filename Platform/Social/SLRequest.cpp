@@ -60,8 +60,9 @@ NSMutableURLRequest SLRequest::preparedURLRequest() const {
     if (const auto credential = _account->credential()) {
         const qint64 timestamp = timestampSource ? timestampSource() : QDateTime::currentSecsSinceEpoch();
         const QString nonce = nonceSource ? nonceSource() : QUuid::createUuid().toString(QUuid::Id128);
-        request.headers.append({"Authorization", OAuthSigner::authorizationHeader(request.HTTPMethod, _url, _signedParameters(),
-                                                                                  *credential, timestamp, nonce)});
+        request.headers.append(
+            {"Authorization", OAuthSigner::authorizationHeader(request.HTTPMethod, _url, _signedParameters(),
+                                                               *credential, timestamp, nonce)});
     }
     return request;
 }

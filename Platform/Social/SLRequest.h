@@ -32,8 +32,8 @@ public:
     void addMultipartData(const NSData &data, const QString &name, const QString &type,
                           const std::optional<QString> &filename);
 
-    // The request as it can be sent: URL as given, parameters in the body, signed with a new time stamp and nonce at each
-    // call. A parameter that stands in the URL's query as well is signed once.
+    // The request as it can be sent: URL as given, parameters in the body, signed with a new time stamp and nonce at
+    // each call. A parameter that stands in the URL's query as well is signed once.
     NSMutableURLRequest preparedURLRequest() const;
 
     // Replace the clock (seconds since 1970) and the source of nonces; empty functions restore them. For tests.

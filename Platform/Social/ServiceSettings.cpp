@@ -30,7 +30,8 @@ QVariantMap ServiceSettings::dictionary() const {
 }
 
 ServiceSettings ServiceSettings::fromDictionary(const QVariantMap &properties) {
-    return {plainMap(properties.value(QStringLiteral("Hosts"))), plainMap(properties.value(QStringLiteral("PhotoRoots"))),
+    return {plainMap(properties.value(QStringLiteral("Hosts"))),
+            plainMap(properties.value(QStringLiteral("PhotoRoots"))),
             properties.value(QStringLiteral("SpoolFolder")).toString()};
 }
 
@@ -40,9 +41,11 @@ std::optional<QString> ServiceSettings::difference(const ServiceSettings &servic
                               "End the service (it starts again by itself) or use the same settings.")
             .arg(what, theirs, ours);
     };
-    if (spoolFolder != service.spoolFolder) return sentence(QStringLiteral("the spool folder"), service.spoolFolder, spoolFolder);
-    for (const auto &[ours, theirs, what] : {std::tuple{&hosts, &service.hosts, QStringLiteral("the %1 host")},
-                                             std::tuple{&photoRoots, &service.photoRoots, QStringLiteral("the %1 folder")}})
+    if (spoolFolder != service.spoolFolder)
+        return sentence(QStringLiteral("the spool folder"), service.spoolFolder, spoolFolder);
+    for (const auto &[ours, theirs, what] :
+         {std::tuple{&hosts, &service.hosts, QStringLiteral("the %1 host")},
+          std::tuple{&photoRoots, &service.photoRoots, QStringLiteral("the %1 folder")}})
         for (auto it = ours->cbegin(); it != ours->cend(); ++it)
             if (theirs->value(it.key()) != *it)
                 return sentence(what.arg(it.key()), theirs->value(it.key()).toString(), it->toString());

@@ -11,8 +11,8 @@ namespace korvane {
 
 namespace SessionBus {
 
-// The bus that the environment names, else $XDG_RUNTIME_DIR/bus, else the private bus, if one runs; null where there is none.
-// Thread: any.
+// The bus that the environment names, else $XDG_RUNTIME_DIR/bus, else the private bus, if one runs; null where there is
+// none. Thread: any.
 std::optional<QString> address();
 
 // The same, but starts an upload service with a private bus where there is no other, and waits until the bus answers.

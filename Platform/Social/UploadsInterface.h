@@ -7,8 +7,12 @@ namespace korvane {
 
 namespace UploadsInterface {
 
-inline QString name() { return QStringLiteral("com.zorvex.korvane.Uploads"); }
-inline QString path() { return QStringLiteral("/com/zorvex/korvane/Uploads"); }
+inline QString name() {
+    return QStringLiteral("com.zorvex.korvane.Uploads");
+}
+inline QString path() {
+    return QStringLiteral("/com/zorvex/korvane/Uploads");
+}
 
 } // namespace UploadsInterface
 

@@ -42,15 +42,19 @@ private:
     std::optional<QVariant> _value(const QVariant &value, std::optional<NSError> *error) {
         if (value.typeId() == qMetaTypeId<NSData>()) return _data(value.value<NSData>(), error);
         switch (value.typeId()) {
-        case QMetaType::QByteArray: return _data(NSData(value.toByteArray()), error);
-        case QMetaType::QString: return _texts({value.toString()}, error) ? std::optional(value) : std::nullopt;
-        case QMetaType::QStringList: return _texts(value.toStringList(), error) ? std::optional(value) : std::nullopt;
+        case QMetaType::QByteArray:
+            return _data(NSData(value.toByteArray()), error);
+        case QMetaType::QString:
+            return _texts({value.toString()}, error) ? std::optional(value) : std::nullopt;
+        case QMetaType::QStringList:
+            return _texts(value.toStringList(), error) ? std::optional(value) : std::nullopt;
         case QMetaType::Bool:
         case QMetaType::Int:
         case QMetaType::UInt:
         case QMetaType::LongLong:
         case QMetaType::ULongLong:
-        case QMetaType::Double: return value;
+        case QMetaType::Double:
+            return value;
         default:
             setError(error, unusable(QStringLiteral("\"%1\" holds a value of type %2, which cannot be shared.")
                                          .arg(_key, QLatin1String(value.typeName()))));
@@ -138,8 +142,10 @@ std::optional<QVariantMap> WireRecord::decode(const QVariantMap &record,
         if (argument.currentSignature() != QLatin1String("(tt)")) continue;
         const auto range = qdbus_cast<DataRange>(argument);
         if (available < 0 || range.length > quint64(available) || range.offset > quint64(available) - range.length) {
-            const QString text = QStringLiteral("The data of \"%1\" lies outside of the file that came with it.").arg(it.key());
-            setError(error, NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorUnusableData, text));
+            const QString text =
+                QStringLiteral("The data of \"%1\" lies outside of the file that came with it.").arg(it.key());
+            setError(error,
+                     NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorUnusableData, text));
             return std::nullopt;
         }
         result.insert(it.key(),

@@ -38,12 +38,12 @@ struct Message {
 // Makes the registered D-Bus types known to Qt. Thread: any; before the first message.
 void registerTypes();
 
-// Records with only the values that D-Bus carries unharmed, their data in a file in the folder. Null, with an error that names
-// the record and the key, if a value is of no property-list type, a text holds a NUL, or all is too large.
+// Records with only the values that D-Bus carries unharmed, their data in a file in the folder. Null, with an error
+// that names the record and the key, if a value is of no property-list type, a text holds a NUL, or all is too large.
 std::optional<Message> encode(const QVariantList &records, const QString &folder, std::optional<NSError> *error);
 
-// The record as it was before it was sent; data ranges become data of the file. Values of other types are dropped: they count
-// as missing. Null, with an error, if a range lies outside of the file or there is no file.
+// The record as it was before it was sent; data ranges become data of the file. Values of other types are dropped: they
+// count as missing. Null, with an error, if a range lies outside of the file or there is no file.
 std::optional<QVariantMap> decode(const QVariantMap &record, const std::shared_ptr<const FileDescriptor> &dataFile,
                                   std::optional<NSError> *error);
 

@@ -7,7 +7,8 @@ namespace korvane {
 
 namespace NetworkRoute {
 
-// Whether the kernel's routing tables (IPv4 or IPv6) hold a default route over a device other than loopback. Thread: any.
+// Whether the kernel's routing tables (IPv4 or IPv6) hold a default route over a device other than loopback. Thread:
+// any.
 bool hasDefaultRoute(const QString &procRoot = QStringLiteral("/proc"));
 
 } // namespace NetworkRoute

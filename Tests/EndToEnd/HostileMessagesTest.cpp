@@ -24,12 +24,14 @@ public:
 
     QDBusMessage send(const QVariant &records, const QList<int> &files = {}, const QString &id = {}) {
         static int next = 0;
-        auto call = QDBusMessage::createMethodCall(QStringLiteral("com.zorvex.flickr.xpc"), QStringLiteral("/com/zorvex/flickr/xpc"),
-                                                   QStringLiteral("com.zorvex.flickr.xpc"), QStringLiteral("uploadPosts"));
+        auto call = QDBusMessage::createMethodCall(
+            QStringLiteral("com.zorvex.flickr.xpc"), QStringLiteral("/com/zorvex/flickr/xpc"),
+            QStringLiteral("com.zorvex.flickr.xpc"), QStringLiteral("uploadPosts"));
         QList<QDBusUnixFileDescriptor> descriptors;
         for (const int file : files)
             descriptors.append(QDBusUnixFileDescriptor(file));
-        call << (id.isNull() ? QStringLiteral("hostile-%1").arg(++next) : id) << records << QVariant::fromValue(descriptors);
+        call << (id.isNull() ? QStringLiteral("hostile-%1").arg(++next) : id) << records
+             << QVariant::fromValue(descriptors);
         return connection().call(call, QDBus::Block, 60'000);
     }
 
@@ -60,11 +62,15 @@ TEST_F(HostileMessages, RecordsOfAnyShapeAreTakenOrRefusedNeverFatal) {
     EXPECT_EQ(refusal(send(QVariant::fromValue(Records{odd, {}}))), QString());
     EXPECT_TRUE(refusal(send(QVariant::fromValue(Records{}))).contains(QStringLiteral("nothing to share")));
     EXPECT_TRUE(refusal(send(QStringLiteral("no records"))).contains(QStringLiteral("records")));
-    EXPECT_TRUE(refusal(send(QVariant::fromValue(Records{odd}), {}, QString(200, u'x'))).contains(QStringLiteral("id")));
-    EXPECT_EQ(refusal(send(QVariant::fromValue(Records(10'000, QVariantMap{{QStringLiteral("title"), QStringLiteral("t")}})))), QString());
+    EXPECT_TRUE(
+        refusal(send(QVariant::fromValue(Records{odd}), {}, QString(200, u'x'))).contains(QStringLiteral("id")));
+    EXPECT_EQ(refusal(send(
+                  QVariant::fromValue(Records(10'000, QVariantMap{{QStringLiteral("title"), QStringLiteral("t")}})))),
+              QString());
     const auto counts = [&] {
-        auto call = QDBusMessage::createMethodCall(QStringLiteral("com.zorvex.flickr.xpc"), QStringLiteral("/com/zorvex/korvane/Uploads"),
-                                                   QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+        auto call = QDBusMessage::createMethodCall(
+            QStringLiteral("com.zorvex.flickr.xpc"), QStringLiteral("/com/zorvex/korvane/Uploads"),
+            QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
         call << QStringLiteral("com.zorvex.korvane.Uploads") << QStringLiteral("Counts");
         const auto variant = connection().call(call).arguments().value(0).value<QDBusVariant>().variant();
         return qdbus_cast<QVariantMap>(variant).value(QStringLiteral("queued")).toLongLong();
@@ -89,7 +95,8 @@ TEST_F(HostileMessages, DescriptorsThatCannotBeTrustedAreRefused) {
     EXPECT_TRUE(refusal(send(whole, {directory.get()})).contains(QStringLiteral("regular")));
     EXPECT_TRUE(refusal(send(whole, {device.get()})).contains(QStringLiteral("regular")));
     EXPECT_TRUE(refusal(send(whole, {named.get()})).contains(QStringLiteral("name")));
-    EXPECT_TRUE(refusal(send(whole, {readable.get()})).contains(QStringLiteral("writing"))) << "a writer is still there";
+    EXPECT_TRUE(refusal(send(whole, {readable.get()})).contains(QStringLiteral("writing")))
+        << "a writer is still there";
     EXPECT_TRUE(refusal(send(whole)).contains(QStringLiteral("outside"))) << "no file came along";
 }
 
@@ -102,10 +109,13 @@ TEST_F(HostileMessages, RangesOutsideOfTheFileAreRefusedAndAProperOneIsTaken) {
     const QByteArray link = "/proc/self/fd/" + QByteArray::number(writable.get());
     const FileDescriptor readable(::open(link.constData(), O_RDONLY | O_CLOEXEC));
     writable.reset();
-    for (const auto &[offset, length] : {std::pair<quint64, quint64>{1, 100'000}, {0, 100'001}, {200'000, 0}, {~0ULL, 2}, {2, ~0ULL}})
-        EXPECT_TRUE(refusal(send(QVariant::fromValue(inFile(offset, length)), {readable.get()})).contains(QStringLiteral("outside")))
+    for (const auto &[offset, length] :
+         {std::pair<quint64, quint64>{1, 100'000}, {0, 100'001}, {200'000, 0}, {~0ULL, 2}, {2, ~0ULL}})
+        EXPECT_TRUE(refusal(send(QVariant::fromValue(inFile(offset, length)), {readable.get()}))
+                        .contains(QStringLiteral("outside")))
             << offset << " " << length;
-    EXPECT_TRUE(refusal(send(QVariant::fromValue(inFile(0, 10)), {readable.get(), readable.get()})).contains(QStringLiteral("More than one")));
+    EXPECT_TRUE(refusal(send(QVariant::fromValue(inFile(0, 10)), {readable.get(), readable.get()}))
+                    .contains(QStringLiteral("More than one")));
     EXPECT_EQ(refusal(send(QVariant::fromValue(inFile(0, 100'000)), {readable.get()})), QString());
     ASSERT_TRUE(waitForState(QStringLiteral("done"), 1));
     EXPECT_EQ(flickr.server.photos()[0].bytes, 100'000);

@@ -17,9 +17,10 @@ ServiceHarness::ServiceHarness(const standin::StandInOptions &options) : flickr(
     home.setEnvironment("XDG_DATA_DIRS", KORVANE_BUILD_SHARE ":/usr/local/share:/usr/share");
     home.setEnvironment("KORVANE_RETRY_DELAYS", "100,200,400");
     bus.setStandardErrorFile(home.path(QStringLiteral("service.log")));
-    bus.start(QStringLiteral("dbus-daemon"), {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
-                                              QStringLiteral("--address=unix:path=") + home.path(QStringLiteral("run/test-bus")),
-                                              QStringLiteral("--print-address")});
+    bus.start(QStringLiteral("dbus-daemon"),
+              {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
+               QStringLiteral("--address=unix:path=") + home.path(QStringLiteral("run/test-bus")),
+               QStringLiteral("--print-address")});
     bus.waitForReadyRead(10'000);
     busAddress = QString::fromLocal8Bit(bus.readLine()).trimmed();
     home.setEnvironment("DBUS_SESSION_BUS_ADDRESS", busAddress.toLocal8Bit());

@@ -11,8 +11,8 @@
 
 namespace korvane::test {
 
-// Starts a message bus that can start the built service; everything ends with this object. Nothing is running at first but the
-// bus and the stand-in.
+// Starts a message bus that can start the built service; everything ends with this object. Nothing is running at first
+// but the bus and the stand-in.
 class ServiceHarness {
 public:
     explicit ServiceHarness(const standin::StandInOptions &options = {});

@@ -44,9 +44,11 @@ TEST_F(Share, ABatchArrivesWholeInItsAlbumAndLeavesNothingBehind) {
 TEST_F(Share, TheSameMessageIsTakenOnce) {
     WireRecord::registerTypes();
     const auto call = [&] {
-        auto message = QDBusMessage::createMethodCall(QStringLiteral("com.zorvex.flickr.xpc"), QStringLiteral("/com/zorvex/flickr/xpc"),
-                                                      QStringLiteral("com.zorvex.flickr.xpc"), QStringLiteral("uploadPosts"));
-        message << QStringLiteral("one-id") << QVariant::fromValue(QList<QVariantMap>{{{QStringLiteral("photoData"), jpegOfSize(500)}}})
+        auto message = QDBusMessage::createMethodCall(
+            QStringLiteral("com.zorvex.flickr.xpc"), QStringLiteral("/com/zorvex/flickr/xpc"),
+            QStringLiteral("com.zorvex.flickr.xpc"), QStringLiteral("uploadPosts"));
+        message << QStringLiteral("one-id")
+                << QVariant::fromValue(QList<QVariantMap>{{{QStringLiteral("photoData"), jpegOfSize(500)}}})
                 << QVariant::fromValue(QList<QDBusUnixFileDescriptor>());
         return connection().call(message).arguments().value(0).toBool();
     };
@@ -110,7 +112,8 @@ TEST_F(Share, FinalRefusalsFailAtOnceAndRetryBringsThemBack) {
     ASSERT_TRUE(waitForState(QStringLiteral("failed"), 1));
     const auto upload = uploads()[0];
     EXPECT_EQ(upload.value(QStringLiteral("attempts")).toLongLong(), 1);
-    const auto retried = ask(QStringLiteral("Retry"), {QStringList{upload.value(QStringLiteral("id")).toString(), QStringLiteral("999")}});
+    const auto retried = ask(QStringLiteral("Retry"),
+                             {QStringList{upload.value(QStringLiteral("id")).toString(), QStringLiteral("999")}});
     EXPECT_EQ(retried.toUInt(), 1u);
     EXPECT_TRUE(waitForState(QStringLiteral("done"), 1));
     EXPECT_EQ(ask(QStringLiteral("Clear")).toUInt(), 1u);
@@ -169,7 +172,8 @@ TEST_F(Share, RefusesAServiceWithOtherSettingsAndNamesTheDifference) {
     EXPECT_FALSE(share({post(jpegOfSize(100))}, &error));
     ASSERT_TRUE(error);
     EXPECT_EQ(error->code(), RemoteServiceErrorOtherSettings);
-    EXPECT_TRUE(error->localizedDescription().contains(QStringLiteral("http://127.0.0.1:9"))) << error->localizedDescription().toStdString();
+    EXPECT_TRUE(error->localizedDescription().contains(QStringLiteral("http://127.0.0.1:9")))
+        << error->localizedDescription().toStdString();
 }
 
 TEST_F(Share, AlwaysAnswersAlsoWithoutServiceBusOrPosts) {
@@ -206,7 +210,8 @@ TEST_F(Share, AFullDiskRefusesTheWholeBatch) {
         posts.push_back(post(jpegOfSize(500'000, i)));
     EXPECT_FALSE(share(posts, &error));
     ASSERT_TRUE(error);
-    EXPECT_TRUE(error->localizedDescription().contains(QStringLiteral("No space"))) << error->localizedDescription().toStdString();
+    EXPECT_TRUE(error->localizedDescription().contains(QStringLiteral("No space")))
+        << error->localizedDescription().toStdString();
     EXPECT_TRUE(uploads().isEmpty());
     EXPECT_TRUE(share({post(jpegOfSize(300'000))}, &error));
     EXPECT_TRUE(waitForState(QStringLiteral("done"), 1));

@@ -53,7 +53,8 @@ TEST(URLConnection, SendsThePiecesAsOneBodyAndKeepsTheConnection) {
         connection.waitForEnd();
     });
     const QByteArray middle = jpegOfSize(3'000'000);
-    const auto request = post(server.url(QStringLiteral("/a?b=%7E")), {NSData("head"), NSData(middle), NSData(), NSData("tail")});
+    const auto request =
+        post(server.url(QStringLiteral("/a?b=%7E")), {NSData("head"), NSData(middle), NSData(), NSData("tail")});
     for (int i = 0; i < 2; ++i) {
         const Answer answer = send(request);
         ASSERT_FALSE(answer.error) << answer.error->description().toStdString();
@@ -70,7 +71,8 @@ TEST(URLConnection, TakesAnyStatusForAnAnswerAndFollowsNothing) {
     for (const QByteArray status : {"204 No Content", "308 Permanent Redirect", "404 Not Found", "500 Oops"}) {
         const ScriptedServer server([&](ScriptedConnection &connection, int) {
             connection.readBodyOf(connection.readHead());
-            connection.write("HTTP/1.1 " + status + "\r\nLocation: /elsewhere\r\nRange: bytes=0-7\r\nContent-Length: 0\r\n\r\n");
+            connection.write("HTTP/1.1 " + status +
+                             "\r\nLocation: /elsewhere\r\nRange: bytes=0-7\r\nContent-Length: 0\r\n\r\n");
             connection.waitForEnd();
         });
         const Answer answer = send(post(server.url(), {NSData("x")}));
@@ -90,13 +92,26 @@ TEST(URLConnection, GivesEachTransportFailureItsCode) {
         qint64 code;
     };
     const Case cases[] = {
-        {"reset while the body is on its way", [](ScriptedConnection &c, int) { c.readHead(); c.reset(); }, NSURLErrorNetworkConnectionLost},
-        {"closed without an answer", [](ScriptedConnection &c, int) { c.readBodyOf(c.readHead()); }, NSURLErrorNetworkConnectionLost},
-        {"answer breaks off", [](ScriptedConnection &c, int) {
+        {"reset while the body is on its way",
+         [](ScriptedConnection &c, int) {
+             c.readHead();
+             c.reset();
+         },
+         NSURLErrorNetworkConnectionLost},
+        {"closed without an answer", [](ScriptedConnection &c, int) { c.readBodyOf(c.readHead()); },
+         NSURLErrorNetworkConnectionLost},
+        {"answer breaks off",
+         [](ScriptedConnection &c, int) {
              c.readBodyOf(c.readHead());
              c.write("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nhalf");
-         }, NSURLErrorNetworkConnectionLost},
-        {"silence", [](ScriptedConnection &c, int) { c.readBodyOf(c.readHead()); c.waitForEnd(); }, NSURLErrorTimedOut},
+         },
+         NSURLErrorNetworkConnectionLost},
+        {"silence",
+         [](ScriptedConnection &c, int) {
+             c.readBodyOf(c.readHead());
+             c.waitForEnd();
+         },
+         NSURLErrorTimedOut},
     };
     for (const Case &test : cases) {
         SCOPED_TRACE(test.what);

@@ -2,8 +2,8 @@
 #include "Platform/Foundation/NSData.h"
 #include "Platform/Foundation/NSNumber.h"
 #include "Platform/Foundation/NSURL.h"
-#include "Tests/Support/Printing.h"
 #include "Tests/Support/LogCapture.h"
+#include "Tests/Support/Printing.h"
 #include "Tests/Support/TemporaryHome.h"
 
 #include <QFile>
@@ -38,7 +38,8 @@ TEST(Numbers, AreReadFromAnythingThatARecordMayHold) {
         {QStringLiteral("000"), 0, 0, false},
         {QStringLiteral("0010"), 10, 10, true},
         {QStringLiteral("99999999999999999999"), most, std::numeric_limits<qint32>::max(), true},
-        {QStringLiteral("-99999999999999999999"), std::numeric_limits<qint64>::min(), std::numeric_limits<qint32>::min(), true},
+        {QStringLiteral("-99999999999999999999"), std::numeric_limits<qint64>::min(),
+         std::numeric_limits<qint32>::min(), true},
         {Q_INT64_C(4294967299), 4294967299, 3, true},
         {quint32(4294967295), 4294967295, -1, true},
         {true, 1, 1, true},
@@ -51,7 +52,8 @@ TEST(Numbers, AreReadFromAnythingThatARecordMayHold) {
         {QVariantMap{{QStringLiteral("a"), 1}}, 0, 0, false},
     };
     for (const Case &test : cases) {
-        SCOPED_TRACE(test.value.toString().toStdString() + " " + (test.value.typeName() ? test.value.typeName() : "nil"));
+        SCOPED_TRACE(test.value.toString().toStdString() + " " +
+                     (test.value.typeName() ? test.value.typeName() : "nil"));
         EXPECT_EQ(integerValue(test.value), test.integer);
         EXPECT_EQ(intValue(test.value), test.narrow);
         EXPECT_EQ(boolValue(test.value), test.boolean);
@@ -62,8 +64,9 @@ TEST(Numbers, AreReadFromAnythingThatARecordMayHold) {
 }
 
 TEST(URLs, KeepTheirExactTextAndRefuseWhatIsNone) {
-    for (const char *text : {"assets-library://asset/asset.JPG?id=pictures%2F%7Ea%2e&ext=JPG", "file:///tmp/a%20b%c3%bc.jpg",
-                             "http://127.0.0.1:8743/services/upload/?a=%7E", "https://[::1]/x"}) {
+    for (const char *text :
+         {"assets-library://asset/asset.JPG?id=pictures%2F%7Ea%2e&ext=JPG", "file:///tmp/a%20b%c3%bc.jpg",
+          "http://127.0.0.1:8743/services/upload/?a=%7E", "https://[::1]/x"}) {
         const auto url = NSURL::URLWithString(QLatin1String(text));
         ASSERT_TRUE(url) << text;
         EXPECT_EQ(url->absoluteString(), QLatin1String(text));
@@ -104,24 +107,28 @@ TEST(Data, RefusesWhatIsNoReadableFileWithAnErrorThatNamesIt) {
     const TemporaryHome home;
     const QByteArray fifo = QFile::encodeName(home.path(QStringLiteral("fifo")));
     ASSERT_EQ(::mkfifo(fifo.constData(), 0600), 0);
-    for (const QByteArray &path : {QFile::encodeName(home.path(QStringLiteral("missing"))), QFile::encodeName(home.path()), fifo}) {
+    for (const QByteArray &path :
+         {QFile::encodeName(home.path(QStringLiteral("missing"))), QFile::encodeName(home.path()), fifo}) {
         std::optional<NSError> error;
         EXPECT_FALSE(NSData::dataWithContentsOfFile(path, &error));
         ASSERT_TRUE(error);
-        EXPECT_TRUE(error->localizedDescription().contains(QFile::decodeName(path))) << error->localizedDescription().toStdString();
+        EXPECT_TRUE(error->localizedDescription().contains(QFile::decodeName(path)))
+            << error->localizedDescription().toStdString();
     }
 }
 
 TEST(Log, FormatsObjectsNumbersAndNil) {
     const LogCapture log;
-    NSLog("Got %@ of %@: %lli, %lu, %f, 100%%", NSError(QStringLiteral("D"), 3), std::optional<NSURL>(), Q_INT64_C(5000000000),
-          7UL, 0.5);
-    EXPECT_EQ(log.lines(), QStringList{QStringLiteral("Got Error Domain=D Code=3 of (null): 5000000000, 7, 0.500000, 100%")});
+    NSLog("Got %@ of %@: %lli, %lu, %f, 100%%", NSError(QStringLiteral("D"), 3), std::optional<NSURL>(),
+          Q_INT64_C(5000000000), 7UL, 0.5);
+    EXPECT_EQ(log.lines(),
+              QStringList{QStringLiteral("Got Error Domain=D Code=3 of (null): 5000000000, 7, 0.500000, 100%")});
 }
 
 TEST(Log, RedactsWhatWouldLetOthersIn) {
-    const QString answer = QStringLiteral("oauth_problem=signature_invalid&debug_sbs=POST&oauth_consumer_key%3Dabc123%26oauth_token%3D72-secret"
-                                          "&oauth_token=72-secret&oauth_signature=\"r6%2F\" {\"tokenSecret\": \"hush\"}");
+    const QString answer = QStringLiteral(
+        "oauth_problem=signature_invalid&debug_sbs=POST&oauth_consumer_key%3Dabc123%26oauth_token%3D72-secret"
+        "&oauth_token=72-secret&oauth_signature=\"r6%2F\" {\"tokenSecret\": \"hush\"}");
     const QString shown = redacted(answer);
     for (const char *secret : {"abc123", "72-secret", "r6", "hush"})
         EXPECT_FALSE(shown.contains(QLatin1String(secret))) << shown.toStdString();

@@ -13,9 +13,10 @@ using namespace korvane::test;
 
 TEST(QueryEncoding, EscapesAllButUnreservedCharactersAndSortsByCode) {
     EXPECT_EQ(EncodedStringForParameterDictionary({}), QString());
-    EXPECT_EQ(EncodedStringForParameterDictionary({{QStringLiteral("method"), QStringLiteral("flickr.photosets.getList")},
-                                                   {QStringLiteral("format"), QStringLiteral("rest")}}),
-              QStringLiteral("format=rest&method=flickr.photosets.getList"));
+    EXPECT_EQ(
+        EncodedStringForParameterDictionary({{QStringLiteral("method"), QStringLiteral("flickr.photosets.getList")},
+                                             {QStringLiteral("format"), QStringLiteral("rest")}}),
+        QStringLiteral("format=rest&method=flickr.photosets.getList"));
     EXPECT_EQ(EncodedStringForParameterDictionary({{QStringLiteral("a&b"), QStringLiteral("a b&c")},
                                                    {QStringLiteral("Z"), 3},
                                                    {QStringLiteral("n"), true},
@@ -39,7 +40,8 @@ TEST(FlickrPostRecord, HoldsOnlyWhatIsSetAndTheFiveNumbers) {
 
 TEST(FlickrPostRecord, ComesBackEqualInEveryProperty) {
     const auto post = FlickrPost::init();
-    post->assetURL = NSURL::URLWithString(QStringLiteral("assets-library://asset/asset.JPG?id=pictures%2Fa%7E&ext=JPG"));
+    post->assetURL =
+        NSURL::URLWithString(QStringLiteral("assets-library://asset/asset.JPG?id=pictures%2Fa%7E&ext=JPG"));
     post->photoData = NSData(jpegOfSize(100));
     post->title = QStringLiteral("Title");
     post->postDescription = QStringLiteral("Words");
@@ -87,7 +89,8 @@ TEST(FlickrResponse, ReadsTheAnswerAsItsEventsCome) {
     const Case cases[] = {
         {"<rsp stat=\"ok\"><photoid>53000000001</photoid></rsp>", true, 53000000001, 0, {}},
         {"<rsp stat=\"ok\"><photoid> 12<![CDATA[34]]>x</photoid></rsp>", true, 1234, 0, {}},
-        {"<rsp stat=\"fail\"><err code=\"5\" msg=\"Filetype &amp; more\"/></rsp>", false, 0, 5, QStringLiteral("Filetype & more")},
+        {"<rsp stat=\"fail\"><err code=\"5\" msg=\"Filetype &amp; more\"/></rsp>", false, 0, 5,
+         QStringLiteral("Filetype & more")},
         {"<rsp stat=\"fail\"><err/></rsp>", false, 0, 0, {}},
         {"<rsp stat=\"fail\"><photoid>7</photoid></rsp>", true, 7, 0, {}},
         {"<rsp><photoid>7</photoid><err code=\"x\" msg=\"m\"/></rsp>", false, 7, 0, QStringLiteral("m")},
@@ -95,7 +98,8 @@ TEST(FlickrResponse, ReadsTheAnswerAsItsEventsCome) {
         {"<html/>", false, 0, 0, {}},
         {"", false, 0, -1, QString()},
         {"oauth_problem=token_rejected", false, 0, -1, QStringLiteral("oauth_problem=token_rejected")},
-        {"<rsp stat=\"ok\"><photoid>7</photoid>", false, 7, -1, QStringLiteral("<rsp stat=\"ok\"><photoid>7</photoid>")},
+        {"<rsp stat=\"ok\"><photoid>7</photoid>", false, 7, -1,
+         QStringLiteral("<rsp stat=\"ok\"><photoid>7</photoid>")},
         {"\xff\xfe", false, 0, -1, {}},
         {"cut off in a character \xc3", false, 0, -1, {}},
     };
@@ -110,7 +114,8 @@ TEST(FlickrResponse, ReadsTheAnswerAsItsEventsCome) {
 }
 
 TEST(FlickrPhotoSetResponse, ListsTheSetsBehindTheNoSetEntry) {
-    const QByteArray body = "<rsp stat=\"ok\"><photosets><photoset id=\"72157600000000001\" primary=\"9\" farm=\"2\" server=\"x\" secret=\"s\">"
+    const QByteArray body = "<rsp stat=\"ok\"><photosets><photoset id=\"72157600000000001\" primary=\"9\" farm=\"2\" "
+                            "server=\"x\" secret=\"s\">"
                             "<title>A &amp; <![CDATA[B]]></title><description>d</description></photoset>"
                             "<photoset id=\"2\"><title/></photoset>";
     const auto sets = FlickrPhotoSetResponse::responseWithData(NSData(body + "</photosets></rsp>"))->photoSets;
@@ -129,7 +134,10 @@ TEST(FlickrPhotoSetResponse, ListsTheSetsBehindTheNoSetEntry) {
     EXPECT_TRUE(sets[1].description().endsWith(
         QStringLiteral(" -- Title: A & B Description: d (id: 72157600000000001 primary photo: 9)")));
 
-    EXPECT_EQ(FlickrPhotoSetResponse::responseWithData(NSData(body))->photoSets.size(), 3u) << "what came before a break stands";
-    EXPECT_EQ(FlickrPhotoSetResponse::responseWithData(NSData("<rsp stat=\"fail\"><err code=\"98\"/></rsp>"))->photoSets.size(), 1u);
+    EXPECT_EQ(FlickrPhotoSetResponse::responseWithData(NSData(body))->photoSets.size(), 3u)
+        << "what came before a break stands";
+    EXPECT_EQ(FlickrPhotoSetResponse::responseWithData(NSData("<rsp stat=\"fail\"><err code=\"98\"/></rsp>"))
+                  ->photoSets.size(),
+              1u);
     EXPECT_EQ(FlickrPhotoSetResponse::responseWithData(std::nullopt)->photoSets.size(), 1u);
 }

@@ -66,9 +66,8 @@ TEST_F(FlickrUpload, SendsJustThePhotoAndItsAudience) {
     EXPECT_EQ(upload(post(jpeg)), std::nullopt);
     ASSERT_EQ(flickr.server.requests().size(), 1u);
     const auto request = flickr.server.requests()[0];
-    EXPECT_EQ(parametersOf(request),
-              (QStringList{QStringLiteral("hidden=1"), QStringLiteral("is_family=0"), QStringLiteral("is_friend=0"),
-                           QStringLiteral("is_public=1")}));
+    EXPECT_EQ(parametersOf(request), (QStringList{QStringLiteral("hidden=1"), QStringLiteral("is_family=0"),
+                                                  QStringLiteral("is_friend=0"), QStringLiteral("is_public=1")}));
     EXPECT_EQ(request.path, "/services/upload/");
     EXPECT_EQ(request.photoContentType, "image/jpeg");
     EXPECT_TRUE(request.photoFileName.isEmpty());
@@ -89,7 +88,8 @@ TEST_F(FlickrUpload, SignsAndSendsEveryParameterWhateverItHolds) {
     EXPECT_EQ(parametersOf(flickr.server.requests()[0]),
               (QStringList{QStringLiteral("content_type=3"), QStringLiteral("description="), QStringLiteral("hidden=2"),
                            QStringLiteral("is_family=1"), QStringLiteral("is_friend=1"), QStringLiteral("is_public=0"),
-                           QStringLiteral("safety_level=2"), QStringLiteral("tags=a b c"), QStringLiteral("title=") + *full->title}));
+                           QStringLiteral("safety_level=2"), QStringLiteral("tags=a b c"),
+                           QStringLiteral("title=") + *full->title}));
     const auto noTags = post(jpeg);
     noTags->tags = QStringList();
     EXPECT_EQ(upload(noTags), std::nullopt);
@@ -97,9 +97,11 @@ TEST_F(FlickrUpload, SignsAndSendsEveryParameterWhateverItHolds) {
 }
 
 TEST_F(FlickrUpload, NamesThePartByTheBytes) {
-    const QByteArray png = QByteArray::fromHex("89504e470d0a1a0a0000000d49484452000000010000000108060000001f15c489") + jpegOfSize(100).mid(20);
+    const QByteArray png = QByteArray::fromHex("89504e470d0a1a0a0000000d49484452000000010000000108060000001f15c489") +
+                           jpegOfSize(100).mid(20);
     const QByteArray gif = "GIF89a" + QByteArray(100, '\x01');
-    for (const auto &[bytes, type] : {std::pair{png, "image/png"}, {gif, "application/octet-stream"}, {jpeg, "image/jpeg"}}) {
+    for (const auto &[bytes, type] :
+         {std::pair{png, "image/png"}, {gif, "application/octet-stream"}, {jpeg, "image/jpeg"}}) {
         upload(post(bytes));
         EXPECT_EQ(flickr.server.requests().back().photoContentType, type);
     }
@@ -108,9 +110,10 @@ TEST_F(FlickrUpload, NamesThePartByTheBytes) {
 TEST_F(FlickrUpload, RetriesThreeTimesWithANewSignatureEachTime) {
     flickr.server.on("upload").dropAfterBytes(1000, 3).thenOk();
     EXPECT_EQ(upload(post(jpeg)), std::nullopt);
-    EXPECT_EQ(log.lines(), (QStringList{QStringLiteral("Flickr request failed with error -1005, trying again. Fail count: 0"),
-                                        QStringLiteral("Flickr request failed with error -1005, trying again. Fail count: 1"),
-                                        QStringLiteral("Flickr request failed with error -1005, trying again. Fail count: 2")}));
+    EXPECT_EQ(log.lines(),
+              (QStringList{QStringLiteral("Flickr request failed with error -1005, trying again. Fail count: 0"),
+                           QStringLiteral("Flickr request failed with error -1005, trying again. Fail count: 1"),
+                           QStringLiteral("Flickr request failed with error -1005, trying again. Fail count: 2")}));
     EXPECT_EQ(flickr.server.photos().size(), 1u);
 
     flickr.server.on("upload").dropAfterBytes(1000, 4);
@@ -133,7 +136,8 @@ TEST_F(FlickrUpload, ReportsWhatFlickrSaysWithoutRetry) {
         const char *description;
     };
     const Case cases[] = {
-        {200, "text/xml", "<rsp stat=\"fail\"><err code=\"5\" msg=\"Filetype was not recognised\"/></rsp>", 5, "Filetype was not recognised"},
+        {200, "text/xml", "<rsp stat=\"fail\"><err code=\"5\" msg=\"Filetype was not recognised\"/></rsp>", 5,
+         "Filetype was not recognised"},
         {401, "text/plain", "oauth_problem=token_rejected", -1, "oauth_problem=token_rejected"},
         {500, "text/html", "<html><body>Oops<br></body></html>", -1, "<html><body>Oops<br></body></html>"},
         {200, "text/xml", "<rsp stat=\"ok\"><photoid>1", -1, "<rsp stat=\"ok\"><photoid>1"},
@@ -158,9 +162,10 @@ TEST_F(FlickrUpload, AddsThePhotoToItsSetAndIsDoneWhateverComesOfThat) {
     inAlbum->photoSetID = album;
     EXPECT_EQ(upload(inAlbum), std::nullopt);
     EXPECT_EQ(flickr.server.photos()[0].albums, QList<qint64>{album});
-    EXPECT_EQ(parametersOf(flickr.server.requests()[1]),
-              (QStringList{QStringLiteral("method=flickr.photosets.addPhoto"), QStringLiteral("photo_id=%1").arg(checkpoint),
-                           QStringLiteral("photoset_id=%1").arg(album)}));
+    EXPECT_EQ(
+        parametersOf(flickr.server.requests()[1]),
+        (QStringList{QStringLiteral("method=flickr.photosets.addPhoto"), QStringLiteral("photo_id=%1").arg(checkpoint),
+                     QStringLiteral("photoset_id=%1").arg(album)}));
 
     const auto inUnknownAlbum = post(jpeg);
     inUnknownAlbum->photoSetID = 5;
@@ -172,7 +177,9 @@ TEST_F(FlickrUpload, AddsThePhotoToItsSetAndIsDoneWhateverComesOfThat) {
     cutOff->photoSetID = album;
     EXPECT_EQ(upload(cutOff), std::nullopt);
     EXPECT_TRUE(log.lines().last().startsWith(
-        QStringLiteral("########### Failed to add %1 to photo set %2! Error Domain=NSURLErrorDomain").arg(checkpoint).arg(album)))
+        QStringLiteral("########### Failed to add %1 to photo set %2! Error Domain=NSURLErrorDomain")
+            .arg(checkpoint)
+            .arg(album)))
         << log.lines().last().toStdString();
 }
 
@@ -194,10 +201,12 @@ TEST_F(FlickrUpload, ReadsFilesAndEncodesAssetsOfTheLibrary) {
     const auto fromFile = FlickrPost::init();
     fromFile->assetURL = NSURL::fileURLWithPath(home.file(QStringLiteral("a b.jpg"), jpeg));
     EXPECT_EQ(upload(fromFile), std::nullopt);
-    EXPECT_EQ(flickr.server.requests()[0].photoSha256, QCryptographicHash::hash(jpeg, QCryptographicHash::Sha256).toHex());
+    EXPECT_EQ(flickr.server.requests()[0].photoSha256,
+              QCryptographicHash::hash(jpeg, QCryptographicHash::Sha256).toHex());
 
     const auto missing = FlickrPost::init();
-    missing->assetURL = NSURL::URLWithString(QStringLiteral("assets-library://asset/asset.JPG?id=pictures%2Fnone.jpg&ext=JPG"));
+    missing->assetURL =
+        NSURL::URLWithString(QStringLiteral("assets-library://asset/asset.JPG?id=pictures%2Fnone.jpg&ext=JPG"));
     const auto error = upload(missing);
     ASSERT_TRUE(error);
     EXPECT_EQ(*error, NSError(FlickrPostErrorDomain, 3));
@@ -207,8 +216,9 @@ TEST_F(FlickrUpload, ReadsFilesAndEncodesAssetsOfTheLibrary) {
 TEST_F(FlickrUpload, NeedsAnAccountAndUsesItsOwn) {
     EXPECT_FALSE(post(jpeg)->uploadToAccount(nullptr, [](const auto &) { FAIL(); }));
     ACAccountStore store;
-    flickr.account = store.saveAccount(flickr.account->accountType(), QStringLiteral("stranger"),
-                                       {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("d")});
+    flickr.account =
+        store.saveAccount(flickr.account->accountType(), QStringLiteral("stranger"),
+                          {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("d")});
     const auto error = upload(post(jpeg));
     ASSERT_TRUE(error);
     EXPECT_TRUE(error->localizedDescription().startsWith(QStringLiteral("oauth_problem=")));

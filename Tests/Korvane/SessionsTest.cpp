@@ -5,8 +5,8 @@
 #include "Korvane/KRRemoteSession.h"
 #include "Platform/Accounts/ACAccountStore.h"
 #include "Platform/Preferences/CFPreferences.h"
-#include "Tests/Support/Printing.h"
 #include "Tests/Support/LogCapture.h"
+#include "Tests/Support/Printing.h"
 #include "Tests/Support/TemporaryHome.h"
 
 #include <QCoreApplication>
@@ -99,7 +99,8 @@ TEST(KRRemoteSession, HoldsOneAssertionForAllAndRenewsItWhenItIsOld) {
 TEST(KRRemoteSessionDeathTest, StopsOnADecrementTooMany) {
     ::testing::FLAGS_gtest_death_test_style = "threadsafe";
     EXPECT_DEATH(KRRemoteSession::decrementPowerAssertion(),
-                 "\\(_powerAssertionRetainCount > 0\\).*\\+\\[KRRemoteSession decrementPowerAssertion\\].*Korvane/KRRemoteSession.*41");
+                 "\\(_powerAssertionRetainCount > 0\\).*\\+\\[KRRemoteSession "
+                 "decrementPowerAssertion\\].*Korvane/KRRemoteSession.*41");
 }
 
 TEST(KRRemoteSession, KeepsItsAccountStore) {
@@ -119,7 +120,9 @@ TEST(FlickrUploadSession, PassesOnWhatTheServiceReplies) {
     post->title = QStringLiteral("a");
     const NSError failure(QStringLiteral("D"), 1);
     for (const auto &[success, error] : {std::pair<std::optional<bool>, std::optional<NSError>>{true, std::nullopt},
-                                         {true, failure}, {false, failure}, {std::nullopt, std::nullopt}}) {
+                                         {true, failure},
+                                         {false, failure},
+                                         {std::nullopt, std::nullopt}}) {
         service->success = success;
         service->error = error;
         std::optional<NSError> placed = NSError(QStringLiteral("before"), 0);

@@ -51,15 +51,16 @@ TEST(RecordCodec, KeepsEveryPropertyListValueAndDropsOthers) {
     const QByteArray bytes = jpegOfSize(9000);
     const QByteArray path = home.file(QStringLiteral("bytes"), "head" + bytes);
     const auto file = std::make_shared<const FileDescriptor>(::open(path.constData(), O_RDONLY | O_CLOEXEC));
-    const QVariantMap record{{QStringLiteral("text"), QStringLiteral("日本")},
-                             {QStringLiteral("empty"), QStringLiteral("")},
-                             {QStringLiteral("texts"), QStringList{QStringLiteral("a"), QString()}},
-                             {QStringLiteral("noTexts"), QStringList()},
-                             {QStringLiteral("big"), Q_INT64_C(9007199254740993)},
-                             {QStringLiteral("flag"), true},
-                             {QStringLiteral("real"), 0.1},
-                             {QStringLiteral("inline"), QByteArray("\0\xff", 2)},
-                             {QStringLiteral("range"), QVariant::fromValue(NSData::dataWithFile(file, 4, bytes.size()))}};
+    const QVariantMap record{
+        {QStringLiteral("text"), QStringLiteral("日本")},
+        {QStringLiteral("empty"), QStringLiteral("")},
+        {QStringLiteral("texts"), QStringList{QStringLiteral("a"), QString()}},
+        {QStringLiteral("noTexts"), QStringList()},
+        {QStringLiteral("big"), Q_INT64_C(9007199254740993)},
+        {QStringLiteral("flag"), true},
+        {QStringLiteral("real"), 0.1},
+        {QStringLiteral("inline"), QByteArray("\0\xff", 2)},
+        {QStringLiteral("range"), QVariant::fromValue(NSData::dataWithFile(file, 4, bytes.size()))}};
     QVariantMap withOthers = record;
     withOthers.insert(QStringLiteral("map"), QVariantMap{{QStringLiteral("a"), 1}});
     const QByteArray encoded = RecordCodec::encode(withOthers, file);
@@ -141,34 +142,27 @@ TEST_F(Store, DrawsInTimesThatAWrongClockLeft) {
     EXPECT_EQ(store.job(job.id)->failingSince, 500);
 }
 
-TEST_F(Store, ADamagedIndexIsMadeAnewAndADamagedTableIsRefused) {
+TEST_F(Store, RefusesADatabaseThatIsDamagedAnywhere) {
     running(100);
-    const auto damage = [&](const char *object) {
-        qint64 page = 0;
-        {
-            auto database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("damage"));
-            database.setDatabaseName(home.path(QStringLiteral("queue.sqlite")));
-            database.open();
-            QSqlQuery(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"), database).next();
-            QSqlQuery root(QStringLiteral("SELECT rootpage FROM sqlite_master WHERE name = '%1'").arg(QLatin1String(object)), database);
-            if (root.next()) page = root.value(0).toLongLong();
-        }
-        QSqlDatabase::removeDatabase(QStringLiteral("damage"));
-        QFile file(home.path(QStringLiteral("queue.sqlite")));
-        ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek((page - 1) * 4096));
-        file.write(QByteArray(64, '\xff'));
-    };
-    damage("uploads_spool");
-    std::optional<NSError> error;
+    qint64 page = 0;
     {
-        UploadStore repaired;
-        ASSERT_TRUE(repaired.open(home.path(QStringLiteral("queue.sqlite")), &error)) << error->description().toStdString();
-        EXPECT_EQ(repaired.jobsAfter(0, 1000).size(), 100u);
-        EXPECT_TRUE(repaired.spoolFiles());
+        auto database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("damage"));
+        database.setDatabaseName(home.path(QStringLiteral("queue.sqlite")));
+        database.open();
+        QSqlQuery(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"), database).next();
+        QSqlQuery root(QStringLiteral("SELECT rootpage FROM sqlite_master WHERE name = 'uploads_spool'"), database);
+        if (root.next()) page = root.value(0).toLongLong();
     }
-    damage("uploads");
+    QSqlDatabase::removeDatabase(QStringLiteral("damage"));
+    QFile file(home.path(QStringLiteral("queue.sqlite")));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) && file.seek((page - 1) * 4096));
+    file.write(QByteArray(64, '\xff'));
+    std::optional<NSError> error;
     EXPECT_FALSE(UploadStore().open(home.path(QStringLiteral("queue.sqlite")), &error));
-    EXPECT_TRUE(error->localizedDescription().contains(QStringLiteral("damaged"))) << error->localizedDescription().toStdString();
+    ASSERT_TRUE(error);
+    EXPECT_TRUE(error->localizedDescription().contains(QStringLiteral("damaged")))
+        << error->localizedDescription().toStdString();
+    EXPECT_FALSE(store.spoolFiles()) << "what the database does not say is not taken for nothing";
 }
 
 TEST_F(Store, RefusesADatabaseThatIsNone) {
@@ -245,7 +239,9 @@ TEST(PostCheck, ObjectsToWhatTheUploadCodeWouldDieOf) {
     post->photoData = NSData::dataWithFile(file, 50, 100);
     EXPECT_TRUE(objection(post).contains(QStringLiteral("damaged")));
 
-    home.file(QStringLiteral("library/clip.mp4"), QByteArray::fromHex("00000020667479706d703432000000006d7034326d7034316973366d61766331") + "moov");
-    post->assetURL = NSURL::URLWithString(QStringLiteral("assets-library://asset/asset.MP4?id=pictures%2Fclip.mp4&ext=MP4"));
+    home.file(QStringLiteral("library/clip.mp4"),
+              QByteArray::fromHex("00000020667479706d703432000000006d7034326d7034316973366d61766331") + "moov");
+    post->assetURL =
+        NSURL::URLWithString(QStringLiteral("assets-library://asset/asset.MP4?id=pictures%2Fclip.mp4&ext=MP4"));
     EXPECT_TRUE(objection(post).contains(QStringLiteral("is a video")));
 }

@@ -1,6 +1,6 @@
 // Signatures against published vectors.
-#include "Platform/Accounts/ACAccountCredential.h"
 #include "Platform/Social/OAuthSigner.h"
+#include "Platform/Accounts/ACAccountCredential.h"
 
 #include <gtest/gtest.h>
 
@@ -27,16 +27,20 @@ TEST(OAuthSigner, MakesTheBaseStringAndSignatureOfRFC5849) {
     const NSURL request = url("http://EXAMPLE.COM:80/request?b5=%3D%253D&a3=a&c%40=&a2=r%20b");
     OAuthParameters parameters = OAuthSigner::parametersOfQuery(request.query());
     parameters += OAuthSigner::parametersOfQuery(text("c2&a3=2+q"));
-    for (const auto &[name, value] : {std::pair{"oauth_consumer_key", "9djdj82h48djs9d2"},
-                                      std::pair{"oauth_token", "kkk9d7dh3k39sjv7"},
-                                      std::pair{"oauth_signature_method", "HMAC-SHA1"},
-                                      std::pair{"oauth_timestamp", "137131201"}, std::pair{"oauth_nonce", "7d8f3e4a"}})
+    for (const auto &[name, value] :
+         {std::pair{"oauth_consumer_key", "9djdj82h48djs9d2"}, std::pair{"oauth_token", "kkk9d7dh3k39sjv7"},
+          std::pair{"oauth_signature_method", "HMAC-SHA1"}, std::pair{"oauth_timestamp", "137131201"},
+          std::pair{"oauth_nonce", "7d8f3e4a"}})
         parameters.append({text(name), text(value)});
     const QByteArray base = OAuthSigner::signatureBaseString("post", request, parameters);
-    EXPECT_EQ(base, "POST&http%3A%2F%2Fexample.com%2Frequest&a2%3Dr%2520b%26a3%3D2%2520q%26a3%3Da%26b5%3D%253D%25253D%26c%2540%3D%26"
-                    "c2%3D%26oauth_consumer_key%3D9djdj82h48djs9d2%26oauth_nonce%3D7d8f3e4a%26oauth_signature_method%3DHMAC-SHA1%26"
-                    "oauth_timestamp%3D137131201%26oauth_token%3Dkkk9d7dh3k39sjv7");
-    EXPECT_EQ(OAuthSigner::signature(base, credential("", "j49sk3j29djd", "", "dh893hdasih9")), "r6/TJjbCOr97/+UU0NsvSne7s5g=");
+    EXPECT_EQ(
+        base,
+        "POST&http%3A%2F%2Fexample.com%2Frequest&a2%3Dr%2520b%26a3%3D2%2520q%26a3%3Da%26b5%3D%253D%25253D%26c%2540%3D%"
+        "26"
+        "c2%3D%26oauth_consumer_key%3D9djdj82h48djs9d2%26oauth_nonce%3D7d8f3e4a%26oauth_signature_method%3DHMAC-SHA1%26"
+        "oauth_timestamp%3D137131201%26oauth_token%3Dkkk9d7dh3k39sjv7");
+    EXPECT_EQ(OAuthSigner::signature(base, credential("", "j49sk3j29djd", "", "dh893hdasih9")),
+              "r6/TJjbCOr97/+UU0NsvSne7s5g=");
 }
 
 TEST(OAuthSigner, MakesThePublishedHeaders) {
@@ -56,15 +60,19 @@ TEST(OAuthSigner, MakesThePublishedHeaders) {
          credential("dpf43f3p2l4k3l03", "kd94hf93k423kf44", "nnch734d00sl2jdk", "pfkkdhi9sl3r4s00"), 1191242096,
          "kllo9940pd9333jh", "tR3%2BTy81lMeYAr%2FFid0kMTYa%2FWM%3D"},
         // dev.twitter.com, "Creating a signature"
-        {"POST", url("https://api.twitter.com/1/statuses/update.json?include_entities=true"),
-         {{text("include_entities"), text("true")}, {text("status"), text("Hello Ladies + Gentlemen, a signed OAuth request!")}},
+        {"POST",
+         url("https://api.twitter.com/1/statuses/update.json?include_entities=true"),
+         {{text("include_entities"), text("true")},
+          {text("status"), text("Hello Ladies + Gentlemen, a signed OAuth request!")}},
          credential("xvz1evFS4wEEPTGEFPHBog", "kAcSOqF21Fu85e7zjz7ZN2U4ZRhfV3WpwPAoE3Z7kBw",
                     "370773112-GmHxMAgYyLbNEtIKZeRNFsMKPR9EyMZeS9weJAEb", "LswwdoUaIvS8ltyTt5jkRh4J50vUPVVHtR2YPi5kE"),
-         1318622958, "kYjzVBB8Y0ZFabxSWbWovY3uYSQ2pTgmZeNu2VS4cg", "tnnArxj06cWHq44gCs1OSKk%2FjLY%3D"},
+         1318622958,
+         "kYjzVBB8Y0ZFabxSWbWovY3uYSQ2pTgmZeNu2VS4cg",
+         "tnnArxj06cWHq44gCs1OSKk%2FjLY%3D"},
     };
     for (const Case &test : cases) {
-        const QByteArray header = OAuthSigner::authorizationHeader(test.method, test.url, test.parameters, test.credential,
-                                                                   test.timestamp, text(test.nonce));
+        const QByteArray header = OAuthSigner::authorizationHeader(test.method, test.url, test.parameters,
+                                                                   test.credential, test.timestamp, text(test.nonce));
         EXPECT_TRUE(header.startsWith("OAuth ")) << header.toStdString();
         EXPECT_TRUE(header.contains("oauth_version=\"1.0\""));
         EXPECT_TRUE(header.contains(QByteArray("oauth_signature=\"") + test.signature + '"')) << header.toStdString();

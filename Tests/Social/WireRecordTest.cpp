@@ -1,8 +1,8 @@
 // Records on their way between programs, as far as that can be seen without a bus.
+#include "Platform/Social/WireRecord.h"
 #include "Platform/Foundation/NSData.h"
 #include "Platform/Social/DataFile.h"
 #include "Platform/Social/RemoteServiceError.h"
-#include "Platform/Social/WireRecord.h"
 #include "Tests/Support/TemporaryHome.h"
 
 #include <QDir>
@@ -60,7 +60,8 @@ TEST(WireRecord, RefusesWhatTheBusWouldGarbleOrDieOf) {
         EXPECT_FALSE(WireRecord::encode({QVariantMap{{QStringLiteral("key"), value}}}, home.path(), &error));
         ASSERT_TRUE(error) << expected;
         EXPECT_EQ(error->code(), RemoteServiceErrorUnusableRecord);
-        EXPECT_TRUE(error->localizedDescription().contains(QLatin1String(expected))) << error->localizedDescription().toStdString();
+        EXPECT_TRUE(error->localizedDescription().contains(QLatin1String(expected)))
+            << error->localizedDescription().toStdString();
     }
 }
 

@@ -8,7 +8,8 @@
 
 namespace korvane::test {
 
-// Sets HOME and the XDG folders while it lives, then puts the environment back. setenv() changes any other variable likewise.
+// Sets HOME and the XDG folders while it lives, then puts the environment back. setenv() changes any other variable
+// likewise.
 class TemporaryHome {
 public:
     TemporaryHome();
