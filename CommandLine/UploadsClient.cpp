@@ -3,6 +3,7 @@
 
 #include "Korvane/FlickrRemoteSessionProtocol.h"
 #include "Platform/Social/RemoteServiceError.h"
+#include "Platform/Social/ServiceSettings.h"
 #include "Platform/Social/SessionBus.h"
 #include "Platform/Social/UploadsInterface.h"
 
@@ -51,9 +52,21 @@ bool UploadsClient::connectToBus(std::optional<NSError> *error) {
     if (!address) return false;
     _connectionName = QUuid::createUuid().toString();
     const auto bus = QDBusConnection::connectToBus(*address, _connectionName);
-    if (bus.isConnected()) return true;
+    if (bus.isConnected()) return _agreesOnSettings(error);
     fail(error, QStringLiteral("The session bus cannot be reached: %1").arg(bus.lastError().message()));
     return false;
+}
+
+// A service with another queue or other hosts is not the one that the caller means.
+bool UploadsClient::_agreesOnSettings(std::optional<NSError> *error) {
+    const auto properties = _call(propertiesInterface, QStringLiteral("GetAll"), {UploadsInterface::name()}, error);
+    if (!properties) return false;
+    const auto service = ServiceSettings::fromDictionary(qdbus_cast<QVariantMap>(*properties));
+    const auto difference = ServiceSettings::current().difference(service);
+    if (difference)
+        setError(error,
+                 NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorOtherSettings, *difference));
+    return !difference;
 }
 
 std::optional<QVariant> UploadsClient::_call(const QString &interface, const QString &member,

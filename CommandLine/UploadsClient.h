@@ -68,6 +68,7 @@ private:
     std::optional<QVariant> _property(const QString &name, std::optional<NSError> *error);
     std::optional<quint32> _count(const QString &member, const QStringList &ids, std::optional<NSError> *error);
     void _disconnect();
+    bool _agreesOnSettings(std::optional<NSError> *error);
 
     QString _connectionName;
     QDBusServiceWatcher *_watcher = nullptr; // a child of this object

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Korvane/FlickrRemoteSessionProtocol.h"
+#include "Platform/Social/ServiceSettings.h"
 #include "Platform/Social/UploadsInterface.h"
 #include "Platform/Social/WireRecord.h"
 
@@ -59,6 +60,8 @@ public:
         QVariant answer;
         if (message.member() == QLatin1String("List"))
             answer = _page(message.arguments().value(0).toLongLong(), message.arguments().value(1).toUInt());
+        else if (message.member() == QLatin1String("GetAll"))
+            answer = ServiceSettings::current().dictionary();
         else if (message.interface() == UploadsInterface::name())
             answer = _get(message.arguments().value(0).toStringList());
         else

@@ -133,6 +133,9 @@ TEST_F(UploadsOnTheBus, TheEndOfTheBusIsAClearError) {
 }
 
 TEST_F(UploadsOnTheBus, ASignalEndsTheWaitAndNothingElse) {
+#ifdef __SANITIZE_THREAD__
+    GTEST_SKIP() << "the thread sanitizer holds signals back while Qt's event loop waits";
+#endif
     setAll(running);
     const int status = watch([](const QString &line) {
         if (line == QLatin1String("c running")) QTimer::singleShot(50, [] { std::raise(SIGINT); });

@@ -42,6 +42,7 @@ public:
     QString busAddress;
 
     QDBusConnection connection() const;
+    void disconnect() const;
 };
 
 } // namespace korvane::test

@@ -183,7 +183,7 @@ TEST_F(Share, AlwaysAnswersAlsoWithoutServiceBusOrPosts) {
 
     flickr.server.on("upload").hang(1);
     ASSERT_TRUE(share({post(jpegOfSize(100))}));
-    QDBusConnection::disconnectFromBus(QStringLiteral("test"));
+    disconnect();
     stopBus();
     EXPECT_FALSE(share({post(jpegOfSize(100))}, &error));
     EXPECT_EQ(error->code(), RemoteServiceErrorUnreachable);

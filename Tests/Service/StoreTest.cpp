@@ -85,6 +85,19 @@ TEST_F(Store, TakesAMessageOnceAndWhole) {
     EXPECT_EQ(store.record(store.jobsAfter(0, 10)[1].id), "b");
 }
 
+TEST_F(Store, CountsItsUploadsByState) {
+    auto jobs = running(3);
+    jobs[0].state = UploadState::Done;
+    store.update(jobs[0], true);
+    store.update(jobs[0], true);
+    store.remove({jobs[1]});
+    ASSERT_TRUE(store.take(QStringLiteral("more"), {upload("a"), upload("b")}, nullptr));
+    auto counts = store.counts();
+    EXPECT_EQ(counts[UploadState::Done], 1);
+    EXPECT_EQ(counts[UploadState::Running], 1);
+    EXPECT_EQ(counts[UploadState::Queued], 2);
+}
+
 TEST_F(Store, KeepsEveryFieldOverAReopening) {
     ASSERT_TRUE(store.take(QStringLiteral("m"), {upload("t", QStringLiteral("spooled"))}, nullptr));
     UploadJob job = store.jobsAfter(0, 1)[0];
