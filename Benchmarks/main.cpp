@@ -256,6 +256,10 @@ int main(int argc, char **argv) {
     QCoreApplication application(argc, argv);
     const std::map<std::string, std::function<void()>> benchmarks{
         {"hand-over", handOver}, {"long-queue", longQueue}, {"one-stream", oneStream}, {"side-by-side", sideBySide}};
+    if (argc > 1 && !benchmarks.contains(argv[1])) {
+        fprintf(stderr, "There is no benchmark %s.\n", argv[1]);
+        return 2;
+    }
     for (const auto &[name, benchmark] : benchmarks)
         if (argc < 2 || name == argv[1]) benchmark();
     return allHold ? 0 : 1;

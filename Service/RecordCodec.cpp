@@ -11,7 +11,7 @@
 namespace korvane {
 namespace {
 
-// Of the first-come range: [offset, length] in the job's spool file.
+// A tag of the first-come range of RFC 8949, for [offset, length] in the upload's spool file.
 constexpr QCborTag rangeTag{0x6b72};
 
 QCborValue encodedData(const NSData &data, const std::shared_ptr<const FileDescriptor> &dataFile) {

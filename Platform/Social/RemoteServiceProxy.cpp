@@ -26,7 +26,9 @@ public:
     ~HandOver() { _disconnect(); }
 
     void run(const QVariantList &records) {
-        if (_attempt(records) == Lost) _attempt(records);
+        if (_attempt(records) != Lost) return;
+        _message.reset(); // its file may have a name in the spool by now, and would be refused
+        _attempt(records);
     }
 
     std::optional<bool> success;

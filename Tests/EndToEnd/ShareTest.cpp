@@ -60,6 +60,25 @@ TEST_F(Share, TheSameMessageIsTakenOnce) {
     EXPECT_EQ(ask(QStringLiteral("OfMessage"), {QStringLiteral("one-id")}).toStringList().size(), 1);
 }
 
+TEST_F(Share, AReplyThatIsLostTimeAndAgainNeverTakesTheDataTwice) {
+    // The service dies at ever later moments of taking over data that travels in a file; the client asks again by
+    // itself.
+    flickr.server.on("upload").hang(1000);
+    const auto photo = post(jpegOfSize(3'000'000));
+    int answered = 0;
+    constexpr int tries = 60;
+    for (int microseconds = 0; microseconds < tries * 300; microseconds += 300) {
+        startService();
+        auto handOver = std::async(std::launch::async, [&] { return share({photo}); });
+        QThread::usleep(microseconds);
+        killService(SIGKILL);
+        answered += handOver.get();
+        startService();
+        ASSERT_EQ(uploads().size(), answered) << "killed after " << microseconds << " microseconds";
+    }
+    EXPECT_EQ(answered, tries);
+}
+
 TEST_F(Share, PostsThatCannotBeUploadedFailWithWordsAndStopNothing) {
     const auto nothing = FlickrPost::init();
     const auto missing = FlickrPost::init();
