@@ -41,7 +41,7 @@ public:
     std::vector<UploadJob> jobsAfter(qint64 id, int limit);
     std::map<UploadState, qint64> counts();
 
-    // The next queued uploads of a service, oldest first, those in passing over left out.
+    // The next queued uploads of a service, oldest first.
     std::vector<UploadJob> queued(const QString &service, int limit);
     // A queued upload during which the service once ended fatally.
     std::optional<UploadJob> suspect();
@@ -53,7 +53,7 @@ public:
     // the process.
     bool update(const UploadJob &job, bool durable);
     void remove(const std::vector<UploadJob> &jobs); // all at once
-    // The done ones, and how many.
+    // The done ones, oldest first.
     std::vector<UploadJob> done();
     // True also where the database does not say.
     bool spoolFileIsNeeded(const QString &name);
