@@ -3,6 +3,8 @@
 
 #include "CommandLine/Upload.h"
 
+#include <cstdio>
+#include <memory>
 #include <vector>
 
 namespace korvane {
@@ -27,6 +29,9 @@ struct ProgressTally {
 class ProgressView {
 public:
     virtual ~ProgressView() = default;
+    // Bars on a terminal; elsewhere plain lines or nothing.
+    static std::unique_ptr<ProgressView> onStream(FILE *stream, bool plainLines);
+
     // An upload is in another state. label: what people know it by.
     virtual void stateChanged(const Upload &upload, const QString &label) = 0;
     virtual void removed(const QString &id, const QString &label) = 0;

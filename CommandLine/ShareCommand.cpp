@@ -2,10 +2,8 @@
 #include "CommandLine/ShareCommand.h"
 
 #include "CommandLine/Arguments.h"
+#include "CommandLine/JSONArray.h"
 #include "CommandLine/Output.h"
-#include "CommandLine/PlainView.h"
-#include "CommandLine/SilentView.h"
-#include "CommandLine/TerminalView.h"
 #include "CommandLine/UploadText.h"
 #include "CommandLine/UploadsWatch.h"
 #include "Korvane/FlickrPost.h"
@@ -58,13 +56,6 @@ std::optional<NSError> problemWith(const QByteArray &path) {
     return NSError::errorWithDescription(SLAttachmentErrorDomain, SLAttachmentErrorUnusable,
                                          QStringLiteral("%1: the file has %2, Flickr takes photos of up to 200 MB")
                                              .arg(Arguments::shownPath(path), UploadText::bytes(identity->size)));
-}
-
-void printJSON(const std::vector<Upload> &uploads) {
-    Output::raw("[");
-    for (size_t i = 0; i < uploads.size(); ++i)
-        Output::raw((i == 0 ? "\n" : ",\n") + UploadText::json(uploads[i]));
-    Output::raw("\n]\n");
 }
 
 } // namespace
@@ -177,8 +168,9 @@ int ShareCommand::_report(UploadsClient &client, const QString &messageID) const
     auto ids = client.idsOfMessage(messageID, &error);
     if (ids) std::ranges::sort(*ids, {}, [](const QString &id) { return id.toLongLong(); });
     if (ids && _waits) status = _wait(client, *ids, &error);
-    if (ids && !error && _json) {
-        if (const auto uploads = client.get(*ids, &error)) printJSON(*uploads);
+    if (const auto uploads = ids && !error && _json ? client.get(*ids, &error) : std::nullopt) {
+        JSONArray array;
+        std::ranges::for_each(*uploads, [&](const Upload &upload) { array.add(upload); });
     }
     if (!error) return status;
     Output::problem(QStringLiteral("The photos are handed over, but how they go on cannot be told. ") +
@@ -187,18 +179,10 @@ int ShareCommand::_report(UploadsClient &client, const QString &messageID) const
 }
 
 int ShareCommand::_wait(UploadsClient &client, const QStringList &ids, std::optional<NSError> *error) const {
-    FILE *stream = _json ? stderr : stdout;
-    std::unique_ptr<ProgressView> view;
-    if (Output::isTerminal(stream))
-        view = std::make_unique<TerminalView>(stream);
-    else if (_json)
-        view = std::make_unique<SilentView>();
-    else
-        view = std::make_unique<PlainView>(stream);
     QHash<QString, QString> names;
     for (qsizetype i = 0; i < ids.size() && size_t(ids.size()) == _files.size(); ++i)
         names[ids[i]] = Arguments::shownPath(QByteArray::fromStdString(_files[size_t(i)]).split('/').last());
-    UploadsWatch watch(client, std::move(view));
+    UploadsWatch watch(client, ProgressView::onStream(_json ? stderr : stdout, !_json));
     watch.follow(ids, names);
     const int status = watch.run(error);
     if (status > 128)

@@ -3,31 +3,25 @@
 
 #include "Korvane/FlickrRemoteSessionProtocol.h"
 #include "Platform/Social/RemoteServiceError.h"
-#include "Platform/Social/ServiceSettings.h"
-#include "Platform/Social/SessionBus.h"
 #include "Platform/Social/UploadsInterface.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
-#include <QDBusMessage>
+#include <QDBusError>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
-#include <QUuid>
 
 #include <algorithm>
 
 namespace korvane {
 namespace {
 
+constexpr int greetingMilliseconds = 60 * 1000;  // a service that does not say a word in this time is stuck
 constexpr int callMilliseconds = 10 * 60 * 1000; // clearing a very long history takes its time
 constexpr quint32 pageSize = 1000;
 constexpr qsizetype idsInOneCall = 500;
 
 const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
-
-void fail(std::optional<NSError> *error, const QString &text) {
-    setError(error, NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorUnreachable, text));
-}
 
 std::vector<Upload> uploadsOf(const QVariant &value) {
     std::vector<Upload> uploads;
@@ -38,46 +32,19 @@ std::vector<Upload> uploadsOf(const QVariant &value) {
 
 } // namespace
 
-UploadsClient::~UploadsClient() {
-    _disconnect();
-}
-
-void UploadsClient::_disconnect() {
-    if (!_connectionName.isEmpty()) QDBusConnection::disconnectFromBus(std::exchange(_connectionName, QString()));
-}
+UploadsClient::UploadsClient() : _connection(FlickrRemoteServiceName) {}
 
 bool UploadsClient::connectToBus(std::optional<NSError> *error) {
-    _disconnect();
-    const auto address = SessionBus::addressStartingService(error);
-    if (!address) return false;
-    _connectionName = QUuid::createUuid().toString();
-    const auto bus = QDBusConnection::connectToBus(*address, _connectionName);
-    if (bus.isConnected()) return _agreesOnSettings(error);
-    fail(error, QStringLiteral("The session bus cannot be reached: %1").arg(bus.lastError().message()));
-    return false;
-}
-
-// A service with another queue or other hosts is not the one that the caller means.
-bool UploadsClient::_agreesOnSettings(std::optional<NSError> *error) {
-    const auto properties = _call(propertiesInterface, QStringLiteral("GetAll"), {UploadsInterface::name()}, error);
-    if (!properties) return false;
-    const auto service = ServiceSettings::fromDictionary(qdbus_cast<QVariantMap>(*properties));
-    const auto difference = ServiceSettings::current().difference(service);
-    if (difference)
-        setError(error,
-                 NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorOtherSettings, *difference));
-    return !difference;
+    return _connection.open(greetingMilliseconds, error) == ServiceConnection::Answered;
 }
 
 std::optional<QVariant> UploadsClient::_call(const QString &interface, const QString &member,
                                              const QVariantList &arguments, std::optional<NSError> *error) {
-    if (_connectionName.isEmpty() && !connectToBus(error)) return std::nullopt;
-    auto call = QDBusMessage::createMethodCall(FlickrRemoteServiceName, UploadsInterface::path(), interface, member);
-    call.setArguments(arguments);
-    const QDBusMessage reply = QDBusConnection(_connectionName).call(call, QDBus::Block, callMilliseconds);
-    if (reply.type() == QDBusMessage::ReplyMessage) return reply.arguments().value(0);
-    fail(error, QStringLiteral("The upload service (korvane-uploadd) cannot be reached: %1").arg(reply.errorMessage()));
-    return std::nullopt;
+    if (!_connection.isOpen() && !connectToBus(error)) return std::nullopt;
+    QVariantList answer;
+    const auto outcome =
+        _connection.call(UploadsInterface::path(), interface, member, arguments, callMilliseconds, &answer, error);
+    return outcome == ServiceConnection::Answered ? std::optional(answer.value(0)) : std::nullopt;
 }
 
 std::optional<QVariant> UploadsClient::_uploads(const QString &member, const QVariantList &arguments,
@@ -171,8 +138,8 @@ std::optional<std::map<QString, qint64>> UploadsClient::counts(std::optional<NSE
 }
 
 bool UploadsClient::subscribe(std::optional<NSError> *error) {
-    if (_connectionName.isEmpty() && !connectToBus(error)) return false;
-    QDBusConnection bus(_connectionName);
+    if (!_connection.isOpen() && !connectToBus(error)) return false;
+    QDBusConnection bus = _connection.bus();
     const auto hear = [&](const char *member, const char *signature, const char *slot) {
         return bus.connect(FlickrRemoteServiceName, UploadsInterface::path(), UploadsInterface::name(),
                            QLatin1String(member), QLatin1String(signature), this, slot);
@@ -186,7 +153,10 @@ bool UploadsClient::subscribe(std::optional<NSError> *error) {
     if (_watcher) _watcher->deleteLater();
     _watcher = new QDBusServiceWatcher(FlickrRemoteServiceName, bus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &UploadsClient::_ownerChanged);
-    if (!heard) fail(error, QStringLiteral("The upload service cannot be watched: %1").arg(bus.lastError().message()));
+    if (!heard)
+        setError(error, NSError::errorWithDescription(
+                            RemoteServiceErrorDomain, RemoteServiceErrorUnreachable,
+                            QStringLiteral("The upload service cannot be watched: %1").arg(bus.lastError().message())));
     return heard;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CommandLine/Upload.h"
+#include "Platform/Social/ServiceConnection.h"
 
 #include <QObject>
 #include <QStringList>
@@ -15,15 +16,13 @@ class QDBusServiceWatcher;
 
 namespace korvane {
 
-// On a connection of its own, so that the end of the bus is an error and no hang. Calls block; the service is started
-// by the first of them where it is not running. Calls that fail place an error of RemoteServiceErrorDomain. Thread: the
-// main one; signals need its event loop.
+// Calls block; the first of them connects, and starts the service where it is not running. Calls that fail place an
+// error of RemoteServiceErrorDomain. Thread: the main one; signals need its event loop.
 class UploadsClient : public QObject {
     Q_OBJECT
 
 public:
-    UploadsClient() = default;
-    ~UploadsClient() override;
+    UploadsClient();
 
     // Connects to the bus, anew if it was connected. False with the error placed.
     bool connectToBus(std::optional<NSError> *error);
@@ -67,10 +66,8 @@ private:
                                      std::optional<NSError> *error);
     std::optional<QVariant> _property(const QString &name, std::optional<NSError> *error);
     std::optional<quint32> _count(const QString &member, const QStringList &ids, std::optional<NSError> *error);
-    void _disconnect();
-    bool _agreesOnSettings(std::optional<NSError> *error);
 
-    QString _connectionName;
+    ServiceConnection _connection;
     QDBusServiceWatcher *_watcher = nullptr; // a child of this object
 };
 

@@ -2,10 +2,9 @@
 #include "CommandLine/UploadsCommand.h"
 
 #include "CommandLine/Arguments.h"
+#include "CommandLine/JSONArray.h"
 #include "CommandLine/Output.h"
-#include "CommandLine/PlainView.h"
 #include "CommandLine/SilentView.h"
-#include "CommandLine/TerminalView.h"
 #include "CommandLine/UploadText.h"
 #include "CommandLine/UploadsWatch.h"
 
@@ -28,19 +27,6 @@ finishedAt and error; watch prints such an object on a line of its own for each 
 
 Exit status: 0 all well, 1 an upload failed while it was watched, 2 bad usage or no such upload, 4 the upload service
 cannot be reached; 130 after Ctrl-C.)";
-
-// The start, the separators and the end of an array that is written as it is found.
-class JSONArray {
-public:
-    JSONArray() { Output::raw("["); }
-    ~JSONArray() { Output::raw("\n]\n"); }
-    void add(const Upload &upload) {
-        Output::raw((std::exchange(_isEmpty, false) ? "\n" : ",\n") + UploadText::json(upload));
-    }
-
-private:
-    bool _isEmpty = true;
-};
 
 QString countText(qint64 count) {
     return count == 1 ? QStringLiteral("1 upload") : QStringLiteral("%1 uploads").arg(count);
@@ -118,15 +104,7 @@ int UploadsCommand::_list() {
 }
 
 int UploadsCommand::_watch() {
-    FILE *stream = _json ? stderr : stdout;
-    std::unique_ptr<ProgressView> view;
-    if (_json)
-        view = std::make_unique<SilentView>();
-    else if (Output::isTerminal(stream))
-        view = std::make_unique<TerminalView>(stream);
-    else
-        view = std::make_unique<PlainView>(stream);
-    UploadsWatch watch(_client, std::move(view));
+    UploadsWatch watch(_client, _json ? std::make_unique<SilentView>() : ProgressView::onStream(stdout, true));
     if (_json)
         watch.setListener([](const Upload &upload) {
             Output::raw(UploadText::json(upload) + '\n');
@@ -158,6 +136,10 @@ std::optional<std::vector<Upload>> UploadsCommand::_known(std::optional<NSError>
 
 std::optional<std::vector<Upload>> UploadsCommand::_retriable(std::optional<NSError> *error) {
     if (std::ranges::find(_ids, "all") == _ids.end()) return _known(error);
+    if (_ids.size() > 1) {
+        Output::problem(QStringLiteral("Give either all or numbers of uploads. Nothing was changed."));
+        return std::nullopt;
+    }
     std::vector<Upload> found;
     const auto collect = [&](const Upload &upload) {
         if (upload.hasFailed() || upload.isWaiting()) found.push_back(upload);

@@ -111,6 +111,7 @@ void UploadsWatch::_removed(const QString &id) {
     _dirty = _countsAreOld = true;
     if (known == _uploads.end()) return;
     const QString label = _label(known->second);
+    _someRemoved |= !_followsAll && !known->second.isDone();
     _uploads.erase(known);
     _view->removed(id, label);
 }
@@ -176,7 +177,7 @@ void UploadsWatch::_countFollowed() {
     _counts.clear();
     for (const auto &[number, upload] : _uploads)
         ++_counts[upload.state];
-    _someFailed = _counts[QStringLiteral("failed")] > 0;
+    _someFailed = _someRemoved || _counts[QStringLiteral("failed")] > 0;
 }
 
 void UploadsWatch::_end(int status) {

@@ -62,7 +62,8 @@ private:
     bool _dirty = true;        // something moved since the view was last told
     bool _countsAreOld = true; // states changed since the counts were last read
     bool _someFailed = false;
-    bool _noted = false; // the pause was told of
+    bool _someRemoved = false; // of those followed, before they were done
+    bool _noted = false;       // the pause was told of
     int _reconnections = 0;
     std::optional<int> _status;
     std::optional<NSError> _error;

@@ -6,7 +6,7 @@ namespace korvane {
 const QString FlickrRemoteServiceName = QStringLiteral("com.zorvex.flickr.xpc");
 
 NSXPCInterface FlickrRemoteSessionProtocol::interface() {
-    return {QStringLiteral("FlickrRemoteSessionProtocol"), QStringLiteral("uploadPosts"), NSXPCInterface::Records};
+    return {QStringLiteral("uploadPosts"), NSXPCInterface::Records};
 }
 
 } // namespace korvane

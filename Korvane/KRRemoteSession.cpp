@@ -15,9 +15,9 @@ namespace {
 constexpr double renewAfterSeconds = 300.0;
 constexpr int indicatorArgument = 1800;
 
-quint64 _powerAssertionRetainCount = 0;
-std::shared_ptr<PowerAssertion> _powerAssertion;
-std::optional<double> _powerAssertionStartDate;
+quint64 powerAssertionRetainCount = 0;
+std::shared_ptr<PowerAssertion> powerAssertion;
+std::optional<double> powerAssertionStartDate;
 std::function<double()> clockOverride;
 
 double now() {
@@ -33,28 +33,28 @@ std::shared_ptr<ACAccountStore> KRRemoteSession::accountStore() {
 }
 
 void KRRemoteSession::incrementPowerAssertion() {
-    KRAssert(_powerAssertionRetainCount > 0 || _powerAssertion == nullptr,
+    KRAssert(powerAssertionRetainCount > 0 || powerAssertion == nullptr,
              "_powerAssertionRetainCount > 0 || _powerAssertion == NULL", "+[KRRemoteSession incrementPowerAssertion]",
              "Korvane/KRRemoteSession", 29);
-    ++_powerAssertionRetainCount;
+    ++powerAssertionRetainCount;
     // Also a second holder gets a fresh assertion: this is how a refresh restarts the time-out.
-    _powerAssertion = nullptr;
-    _powerAssertion = PowerAssertionCreate(QStringLiteral("com.zorvex.korvane"), 600.0);
-    _powerAssertionStartDate = now();
+    powerAssertion = nullptr;
+    powerAssertion = PowerAssertionCreate(QStringLiteral("com.zorvex.korvane"), 600.0);
+    powerAssertionStartDate = now();
     setSystemProgressIndicator(true, indicatorArgument);
 }
 
 void KRRemoteSession::decrementPowerAssertion() {
-    KRAssert(_powerAssertionRetainCount > 0, "_powerAssertionRetainCount > 0",
+    KRAssert(powerAssertionRetainCount > 0, "_powerAssertionRetainCount > 0",
              "+[KRRemoteSession decrementPowerAssertion]", "Korvane/KRRemoteSession", 41);
-    if (--_powerAssertionRetainCount > 0) return;
-    _powerAssertion = nullptr;
-    _powerAssertionStartDate = std::nullopt;
+    if (--powerAssertionRetainCount > 0) return;
+    powerAssertion = nullptr;
+    powerAssertionStartDate = std::nullopt;
     setSystemProgressIndicator(false, indicatorArgument);
 }
 
 void KRRemoteSession::refreshPowerAssertion() {
-    if (!_powerAssertionStartDate || now() - *_powerAssertionStartDate <= renewAfterSeconds) return;
+    if (!powerAssertionStartDate || now() - *powerAssertionStartDate <= renewAfterSeconds) return;
     incrementPowerAssertion();
     decrementPowerAssertion();
 }

@@ -6,7 +6,7 @@ namespace korvane {
 const QString VimeoRemoteServiceName = QStringLiteral("com.zorvex.vimeo.xpc");
 
 NSXPCInterface VimeoRemoteSessionProtocol::interface() {
-    return {QStringLiteral("VimeoRemoteSessionProtocol"), QStringLiteral("uploadPost"), NSXPCInterface::Record};
+    return {QStringLiteral("uploadPost"), NSXPCInterface::Record};
 }
 
 } // namespace korvane

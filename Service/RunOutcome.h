@@ -21,7 +21,6 @@ struct RunOutcome {
     std::optional<NSError> error;
     UploadContext::Snapshot lastRequest; // of a run that got to the network
     qint64 photoID = 0;
-    qint64 bytes = 0; // size of what was uploaded, if it became known
 };
 
 } // namespace korvane

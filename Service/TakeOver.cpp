@@ -2,6 +2,7 @@
 #include "Service/TakeOver.h"
 
 #include "Platform/Accounts/ACAccountStore.h"
+#include "Service/JobAccount.h"
 #include "Service/RecordCodec.h"
 
 #include <QDateTime>
@@ -14,13 +15,6 @@ constexpr qsizetype longestTitle = 500; // of what lists show; the record keeps 
 QString text(const QVariantMap &record, const QString &key) {
     const QVariant value = record.value(key);
     return value.typeId() == QMetaType::QString ? value.toString() : QString();
-}
-
-std::shared_ptr<ACAccount> accountInUse(const QString &service, const ACAccountStore &store) {
-    const auto type = store.accountTypeWithAccountTypeIdentifier(
-        service == flickrServiceID ? ACAccountTypeIdentifierFlickr : ACAccountTypeIdentifierVimeo);
-    const auto accounts = store.accountsWithAccountType(type);
-    return accounts.empty() ? nullptr : accounts.back();
 }
 
 // The size of what will be sent, as far as it is known now, and the identity of a file that will be read in place.
@@ -64,7 +58,7 @@ std::optional<TakenMessage> TakeOver::prepare(const QString &service, const QVar
         if (!name) return std::nullopt;
         taken.spoolFile = *name;
     }
-    const auto account = accountInUse(service, accounts);
+    const auto account = accounts.accountInUse(accountTypeOfService(service));
     for (const QVariant &record : records)
         taken.uploads.push_back(uploadOfRecord(service, record.toMap(), message, taken.spoolFile, account));
     return taken;

@@ -17,6 +17,11 @@ enum class WaitReason { None = 0, Network = 1, SignIn = 2, NextTry = 3 };
 inline const QString flickrServiceID = QStringLiteral("flickr");
 inline const QString vimeoServiceID = QStringLiteral("vimeo");
 
+// "Flickr" or "Vimeo", for people.
+inline QString nameOfService(const QString &service) {
+    return service == flickrServiceID ? QStringLiteral("Flickr") : QStringLiteral("Vimeo");
+}
+
 // Times are milliseconds since 1970, 0 for none.
 struct UploadJob {
     qint64 id = 0;

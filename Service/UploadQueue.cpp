@@ -3,10 +3,10 @@
 
 #include "Platform/Accounts/ACAccountStore.h"
 #include "Platform/Foundation/NSLog.h"
-#include "Platform/Foundation/NSNumber.h"
 #include "Platform/Preferences/KorvaneSettings.h"
 #include "Platform/Social/RemoteServiceError.h"
 #include "Service/FlickrRunner.h"
+#include "Service/JobAccount.h"
 #include "Service/RecordCodec.h"
 
 #include <QDateTime>
@@ -126,45 +126,48 @@ bool UploadQueue::_start(UploadJob job) {
     const auto data = job.spoolFile.isEmpty() ? nullptr : _spool.open(job.spoolFile);
     FlickrRunner::start(
         {job, RecordCodec::decode(_store->record(job.id), data), context, _accounts,
-         [this, id = job.id](qint64 photoID) { _queue.async([=, this] { _answered(id, photoID); }); },
-         [this, id = job.id](const RunOutcome &outcome) { _queue.async([=, this] { _ended(id, outcome); }); }});
+         [this](const UploadJob &reached, bool durably) { _queue.async([=, this] { _reached(reached, durably); }); },
+         [this](const Verdict &verdict, const UploadJob &reached) {
+             _queue.async([=, this] { _ended(verdict, reached); });
+         }});
     return true;
 }
 
 // A post taken over while there was no account goes to the first that appears. Without one it waits, and this is false.
 bool UploadQueue::_pinAccount(UploadJob &job) {
     if (!job.accountID.isEmpty()) return true;
-    const auto accounts = _accounts->accountsWithAccountType(
-        _accounts->accountTypeWithAccountTypeIdentifier(ACAccountTypeIdentifierFlickr));
-    if (!accounts.empty()) {
-        job.accountID = accounts.back()->identifier();
-        job.accountName = accounts.back()->username();
+    if (const auto account = _accounts->accountInUse(accountTypeOfService(job.service))) {
+        job.accountID = account->identifier();
+        job.accountName = account->username();
         return true;
     }
+    _waitForSignIn(job);
+    return false;
+}
+
+void UploadQueue::_waitForSignIn(UploadJob &job) {
+    const QString text = QStringLiteral("There is no %1 account. Add one with: korvane accounts add %2")
+                             .arg(nameOfService(job.service), job.service);
     _apply({UploadState::Waiting, WaitReason::SignIn,
-            NSError::errorWithDescription(
-                RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable,
-                QStringLiteral("There is no Flickr account. Add one with: korvane accounts add flickr"))},
+            NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable, text)},
            job);
     _holds[job.service].until = now() + accountHold; // the others need not all find that out
     _record(job);
     _announce(job);
-    return false;
 }
 
-void UploadQueue::_answered(qint64 id, qint64 photoID) {
-    const auto found = _running.find(id);
+void UploadQueue::_reached(const UploadJob &reached, bool durably) {
+    const auto found = _running.find(reached.id);
     if (found == _running.end()) return;
     {
         const std::lock_guard lock(_runningMutex);
-        found->second.job.photoID = photoID;
+        found->second.job.photoID = reached.photoID;
     }
-    // Without an album the outcome follows at once and brings it to the disk.
-    _store->update(found->second.job, integerValue(_recordOf(id).value(QStringLiteral("photoSetID"))) != 0);
+    _store->update(found->second.job, durably);
 }
 
-void UploadQueue::_ended(qint64 id, const RunOutcome &outcome) {
-    const auto found = _running.find(id);
+void UploadQueue::_ended(const Verdict &verdict, const UploadJob &reached) {
+    const auto found = _running.find(reached.id);
     if (found == _running.end()) return;
     UploadJob job = found->second.job;
     const StopReason stopReason = found->second.stopReason;
@@ -173,32 +176,34 @@ void UploadQueue::_ended(qint64 id, const RunOutcome &outcome) {
         _running.erase(found);
     }
     _suspectRuns = false;
-    job.photoID = outcome.photoID != 0 ? outcome.photoID : job.photoID;
-    if (outcome.bytes != 0) job.bytesTotal = outcome.bytes;
+    job.photoID = reached.photoID;
+    job.bytesTotal = reached.bytesTotal;
     job.deaths = 0;
-    const bool wantsPhotoSet = integerValue(_recordOf(id).value(QStringLiteral("photoSetID"))) != 0;
-    const Verdict verdict = FailureClassifier::verdictOnFlickrRun(outcome, wantsPhotoSet);
     if (stopReason == StopReason::Remove) {
         _dropSpoolFile(job.spoolFile);
-    } else {
-        if (stopReason == StopReason::Pause && verdict.state != UploadState::Done)
-            job.state = UploadState::Queued;
-        else
-            _apply(verdict, job);
-        const QString spoolFile = job.spoolFile;
-        if (job.state == UploadState::Done) {
-            job.spoolFile.clear();
-            _holds.erase(job.service);
-            _schedule(); // the photo's id is recorded: the next run need not wait until the outcome has reached the
-                         // disk
-        }
-        if (_record(job) && job.state == UploadState::Done) _dropSpoolFile(spoolFile);
+    } else if (stopReason == StopReason::Pause && verdict.state == UploadState::Waiting) {
+        job.state = UploadState::Queued;
+        _record(job);
         _announce(job);
-        if (job.finishedAt != 0 && _observer.finished) _observer.finished(job);
+    } else {
+        _conclude(verdict, std::move(job));
     }
     _schedule();
     _armWake();
     _endIfStopped();
+}
+
+void UploadQueue::_conclude(const Verdict &verdict, UploadJob job) {
+    _apply(verdict, job);
+    const QString spoolFile = job.spoolFile;
+    if (job.state == UploadState::Done) {
+        job.spoolFile.clear();
+        _holds.erase(job.service);
+        _schedule(); // what was reached is recorded: the next run need not wait until the outcome is on the disk
+    }
+    if (_record(job) && job.state == UploadState::Done) _dropSpoolFile(spoolFile);
+    _announce(job);
+    if (job.finishedAt != 0 && _observer.finished) _observer.finished(job);
 }
 
 void UploadQueue::_endIfStopped() {
@@ -216,10 +221,6 @@ void UploadQueue::_recordAgain() {
     std::erase_if(_unrecorded, [this](const auto &entry) { return _store->update(entry.second, true); });
 }
 
-QVariantMap UploadQueue::_recordOf(qint64 id) const {
-    return RecordCodec::decode(_store->record(id), nullptr);
-}
-
 void UploadQueue::_apply(const Verdict &verdict, UploadJob &job) {
     job.state = verdict.state;
     job.waitReason = verdict.waitReason;
@@ -235,9 +236,10 @@ void UploadQueue::_wait(UploadJob &job, const Verdict &verdict) {
     ++job.failures;
     if (job.failingSince == 0) job.failingSince = now();
     if (verdict.waitReason != WaitReason::SignIn && now() - job.failingSince > _policy.giveUpAfter) {
-        const QString text = QStringLiteral("Given up after two days of trying. Last: %1 Retry when it is better.");
-        job.error = NSError::errorWithDescription(verdict.error->domain(), verdict.error->code(),
-                                                  text.arg(verdict.error->localizedDescription()));
+        const QString text = QStringLiteral("Given up after %1 hours of trying. Last: %2 Retry when it is better.")
+                                 .arg(_policy.giveUpAfter / 3'600'000)
+                                 .arg(verdict.error->localizedDescription());
+        job.error = NSError::errorWithDescription(verdict.error->domain(), verdict.error->code(), text);
         job.state = UploadState::Failed;
         job.waitReason = WaitReason::None;
         job.finishedAt = now();

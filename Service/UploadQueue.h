@@ -3,10 +3,10 @@
 
 #include "Platform/Foundation/Dispatch.h"
 #include "Platform/Social/RemoteServiceSession.h"
-#include "Service/FailureClassifier.h"
 #include "Service/RetryPolicy.h"
 #include "Service/Spool.h"
 #include "Service/TakeOver.h"
+#include "Service/UploadRun.h"
 #include "Service/UploadStore.h"
 
 #include <QVariantMap>
@@ -92,8 +92,10 @@ private:
     void _scheduleService(const QString &service, int limit);
     bool _start(UploadJob job);
     bool _pinAccount(UploadJob &job);
-    void _answered(qint64 id, qint64 photoID);
-    void _ended(qint64 id, const RunOutcome &outcome);
+    void _waitForSignIn(UploadJob &job);
+    void _reached(const UploadJob &reached, bool durably);
+    void _ended(const Verdict &verdict, const UploadJob &reached);
+    void _conclude(const Verdict &verdict, UploadJob job);
     void _apply(const Verdict &verdict, UploadJob &job);
     void _wait(UploadJob &job, const Verdict &verdict);
     bool _record(const UploadJob &job);
@@ -105,7 +107,6 @@ private:
     void _stopRunning(StopReason reason);
     void _armWake();
     void _announce(const UploadJob &job);
-    QVariantMap _recordOf(qint64 id) const;
     QVariantMap _dictionary(const UploadJob &job) const;
     size_t _runningOf(const QString &service) const;
     void _answerWhenDone(std::function<QVariant()> work, const Answer &answer);

@@ -136,6 +136,11 @@ std::shared_ptr<ACAccount> ACAccountStore::accountWithIdentifier(const QString &
     return nullptr;
 }
 
+std::shared_ptr<ACAccount> ACAccountStore::accountInUse(const QString &typeIdentifier) const {
+    const auto accounts = accountsWithAccountType(ACAccountType(typeIdentifier));
+    return accounts.empty() ? nullptr : accounts.back();
+}
+
 std::shared_ptr<ACAccount> ACAccountStore::saveAccount(const ACAccountType &type, const QString &username,
                                                        const ACAccountCredential &credential,
                                                        std::optional<NSError> *error) {

@@ -19,6 +19,8 @@ public:
     // In the order in which they were added. Empty, with a log line, if the list cannot be read.
     std::vector<std::shared_ptr<ACAccount>> accountsWithAccountType(const ACAccountType &type) const;
     std::shared_ptr<ACAccount> accountWithIdentifier(const QString &identifier) const; // null if there is none
+    // The account of that type that was added last, with which posts go out; null if there is none.
+    std::shared_ptr<ACAccount> accountInUse(const QString &typeIdentifier) const;
 
     // Stores an account and its credential; may take up to five seconds. An account of the same type and user name
     // keeps its identifier and gets the new credential. Null with the error placed on failure; nothing is half stored

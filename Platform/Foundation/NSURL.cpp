@@ -1,6 +1,7 @@
 // A URL that keeps its text exactly as it was given.
 #include "Platform/Foundation/NSURL.h"
 
+#include <QHostAddress>
 #include <QStringView>
 
 namespace korvane {
@@ -39,6 +40,10 @@ NSURL NSURL::fileURLWithPath(const QByteArray &path) {
 QString NSURL::scheme() const {
     const qsizetype colon = _text.indexOf(u':');
     return colon > 0 && !_url.scheme().isEmpty() ? _text.left(colon) : QString();
+}
+
+bool NSURL::isLoopback() const {
+    return host().compare(QLatin1String("localhost"), Qt::CaseInsensitive) == 0 || QHostAddress(host()).isLoopback();
 }
 
 QString NSURL::query() const {

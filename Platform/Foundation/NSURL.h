@@ -22,8 +22,8 @@ public:
     QString scheme() const;
     QString host() const { return _url.host(); }
     int port() const { return _url.port(); } // -1 where the text names none
-    // The path, percent-decoded.
-    QString path() const { return _url.path(QUrl::FullyDecoded); }
+    // Whether the host is this machine by its usual name or a loopback address; no name is looked up.
+    bool isLoopback() const;
     // The query as written, without "?"; empty where there is none.
     QString query() const;
     // The same URL up to its query and fragment.

@@ -3,8 +3,6 @@
 
 #include "Platform/SystemConfiguration/NetworkRoute.h"
 
-#include <QHostAddress>
-
 #include <linux/sockios.h>
 #include <sys/ioctl.h>
 
@@ -19,15 +17,11 @@ constexpr qint64 largestAnswer = 8 * 1024 * 1024; // a thousand albums take half
 constexpr long uploadBuffer = 512 * 1024;
 constexpr int longestWaitMilliseconds = 250;
 
-bool isLoopback(const QString &host) {
-    return host == QLatin1String("localhost") || QHostAddress(host).isLoopback();
-}
-
 // The one place where transport failures get their codes.
-qint64 errorCode(CURLcode code, long osError, const QString &host) {
+qint64 errorCode(CURLcode code, long osError, const NSURL &url) {
     const auto unlessOffline = [&](qint64 online) -> qint64 {
         const bool unreachable = osError == ENETUNREACH || osError == ENETDOWN;
-        if (!isLoopback(host) && (unreachable || !NetworkRoute::hasDefaultRoute()))
+        if (!url.isLoopback() && (unreachable || !NetworkRoute::hasDefaultRoute()))
             return NSURLErrorNotConnectedToInternet;
         return online;
     };
@@ -153,7 +147,7 @@ std::optional<NSError> URLTransfer::_result(CURLcode code) const {
     }
     long osError = 0;
     curl_easy_getinfo(_handle.easy, CURLINFO_OS_ERRNO, &osError);
-    return NSError::errorWithDescription(NSURLErrorDomain, errorCode(code, osError, _request.URL.host()),
+    return NSError::errorWithDescription(NSURLErrorDomain, errorCode(code, osError, _request.URL),
                                          QString::fromUtf8(curl_easy_strerror(code)));
 }
 

@@ -4,7 +4,6 @@
 #include "Platform/Preferences/LogOnce.h"
 #include "Platform/Preferences/PreferenceDomain.h"
 
-#include <QHostAddress>
 #include <QUrl>
 
 #include <algorithm>
@@ -18,10 +17,6 @@ QVariant preference(const char *key) {
         ->currentValue(QString::fromLatin1(key));
 }
 
-bool isLoopback(const QString &host) {
-    return host.compare(QLatin1String("localhost"), Qt::CaseInsensitive) == 0 || QHostAddress(host).isLoopback();
-}
-
 // What makes the text unusable as a base URL; empty if nothing does.
 QString problemWith(const std::optional<NSURL> &base) {
     if (!base || base->host().isEmpty()) return QStringLiteral("it is not a URL with a host");
@@ -31,7 +26,7 @@ QString problemWith(const std::optional<NSURL> &base) {
         return QStringLiteral("it must begin with https:// (or http:// for this machine)");
     if (!url.userInfo().isEmpty() || url.hasQuery() || url.hasFragment())
         return QStringLiteral("it must be a plain base address, without user name, query or fragment");
-    if (scheme == QLatin1String("http") && !isLoopback(base->host()))
+    if (scheme == QLatin1String("http") && !base->isLoopback())
         return QStringLiteral("plain http is only taken for this machine (localhost, 127.0.0.1, [::1]); use https");
     return {};
 }

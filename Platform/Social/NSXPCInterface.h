@@ -16,9 +16,13 @@ using XPCTransferCompletion = std::function<void(std::optional<bool> success, co
 struct NSXPCInterface {
     enum Argument { Record, Records };
 
-    QString protocolName;
     QString operation;
     Argument argument;
 };
+
+// The object path of a service: its name with slashes.
+inline QString objectPathOfService(QString serviceName) {
+    return u'/' + serviceName.replace(u'.', u'/');
+}
 
 } // namespace korvane

@@ -32,7 +32,4 @@ private:
     QString _lastMessageID;
 };
 
-// The object path of a service: its name with slashes.
-QString objectPathOfService(const QString &serviceName);
-
 } // namespace korvane

@@ -12,20 +12,13 @@ namespace korvane {
 const QString SLServiceTypeFlickr = QStringLiteral("com.zorvex.social.flickr");
 const QString SLServiceTypeVimeo = QStringLiteral("com.zorvex.social.vimeo");
 
-namespace {
-
-std::function<qint64()> timestampSource;
-std::function<QString()> nonceSource;
-
-} // namespace
-
-std::shared_ptr<SLRequest> SLRequest::requestForServiceType(const QString &serviceType, SLRequestMethod method,
-                                                            const NSURL &url, const QVariantMap &parameters) {
-    return std::shared_ptr<SLRequest>(new SLRequest(serviceType, method, url, parameters));
+std::shared_ptr<SLRequest> SLRequest::requestForServiceType(const QString &, SLRequestMethod method, const NSURL &url,
+                                                            const QVariantMap &parameters) {
+    return std::shared_ptr<SLRequest>(new SLRequest(method, url, parameters));
 }
 
-SLRequest::SLRequest(QString serviceType, SLRequestMethod method, NSURL url, const QVariantMap &parameters)
-    : _serviceType(std::move(serviceType)), _method(method), _url(std::move(url)) {
+SLRequest::SLRequest(SLRequestMethod method, NSURL url, const QVariantMap &parameters)
+    : _method(method), _url(std::move(url)) {
     for (auto it = parameters.cbegin(); it != parameters.cend(); ++it)
         _parameters.append({it.key(), textValue(it.value())});
 }
@@ -58,21 +51,12 @@ NSMutableURLRequest SLRequest::preparedURLRequest() const {
     if (!_account) return request;
     request.uploadContext = _account->uploadContext();
     if (const auto credential = _account->credential()) {
-        const qint64 timestamp = timestampSource ? timestampSource() : QDateTime::currentSecsSinceEpoch();
-        const QString nonce = nonceSource ? nonceSource() : QUuid::createUuid().toString(QUuid::Id128);
-        request.headers.append(
-            {"Authorization", OAuthSigner::authorizationHeader(request.HTTPMethod, _url, _signedParameters(),
-                                                               *credential, timestamp, nonce)});
+        const QString nonce = QUuid::createUuid().toString(QUuid::Id128);
+        request.headers.append({"Authorization", OAuthSigner::authorizationHeader(
+                                                     request.HTTPMethod, _url, _signedParameters(), *credential,
+                                                     QDateTime::currentSecsSinceEpoch(), nonce)});
     }
     return request;
-}
-
-void SLRequest::setTimestampSource(std::function<qint64()> source) {
-    timestampSource = std::move(source);
-}
-
-void SLRequest::setNonceSource(std::function<QString()> source) {
-    nonceSource = std::move(source);
 }
 
 } // namespace korvane

@@ -6,7 +6,6 @@
 
 #include <QVariantMap>
 
-#include <functional>
 #include <memory>
 
 namespace korvane {
@@ -36,16 +35,11 @@ public:
     // each call. A parameter that stands in the URL's query as well is signed once.
     NSMutableURLRequest preparedURLRequest() const;
 
-    // Replace the clock (seconds since 1970) and the source of nonces; empty functions restore them. For tests.
-    static void setTimestampSource(std::function<qint64()> source);
-    static void setNonceSource(std::function<QString()> source);
-
 private:
-    SLRequest(QString serviceType, SLRequestMethod method, NSURL url, const QVariantMap &parameters);
+    SLRequest(SLRequestMethod method, NSURL url, const QVariantMap &parameters);
     OAuthParameters _signedParameters() const;
     QByteArray _methodName() const;
 
-    QString _serviceType;
     SLRequestMethod _method;
     NSURL _url;
     OAuthParameters _parameters;

@@ -1,0 +1,27 @@
+// A JSON array of uploads on standard output.
+#pragma once
+
+#include "CommandLine/Output.h"
+#include "CommandLine/UploadText.h"
+
+#include <utility>
+
+namespace korvane {
+
+// Writes the start, each upload as it is added, and at the end of its life the end.
+class JSONArray {
+public:
+    JSONArray() { Output::raw("["); }
+    ~JSONArray() { Output::raw("\n]\n"); }
+    JSONArray(const JSONArray &) = delete;
+    JSONArray &operator=(const JSONArray &) = delete;
+
+    void add(const Upload &upload) {
+        Output::raw((std::exchange(_isEmpty, false) ? "\n" : ",\n") + UploadText::json(upload));
+    }
+
+private:
+    bool _isEmpty = true;
+};
+
+} // namespace korvane

@@ -1,0 +1,68 @@
+// A connection to the upload service, which means the same settings as this program.
+#include "Platform/Social/ServiceConnection.h"
+
+#include "Platform/Social/RemoteServiceError.h"
+#include "Platform/Social/ServiceSettings.h"
+#include "Platform/Social/SessionBus.h"
+#include "Platform/Social/UploadsInterface.h"
+
+#include <QDBusArgument>
+#include <QDBusError>
+#include <QDBusMessage>
+#include <QUuid>
+
+namespace korvane {
+namespace {
+
+void fail(std::optional<NSError> *error, const QString &text) {
+    setError(error, NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorUnreachable, text));
+}
+
+} // namespace
+
+ServiceConnection::Outcome ServiceConnection::open(int milliseconds, std::optional<NSError> *error) {
+    close();
+    const auto address = SessionBus::addressStartingService(error);
+    if (!address) return Failed;
+    _connectionName = QUuid::createUuid().toString();
+    const auto bus = QDBusConnection::connectToBus(*address, _connectionName);
+    if (!bus.isConnected())
+        fail(error, QStringLiteral("The session bus cannot be reached: %1").arg(bus.lastError().message()));
+    const Outcome outcome = bus.isConnected() ? _agreeOnSettings(milliseconds, error) : Failed;
+    if (outcome != Answered) close();
+    return outcome;
+}
+
+ServiceConnection::Outcome ServiceConnection::_agreeOnSettings(int milliseconds, std::optional<NSError> *error) const {
+    QVariantList answer;
+    const Outcome outcome = call(UploadsInterface::path(), QStringLiteral("org.freedesktop.DBus.Properties"),
+                                 QStringLiteral("GetAll"), {UploadsInterface::name()}, milliseconds, &answer, error);
+    if (outcome != Answered) return outcome;
+    const auto service = ServiceSettings::fromDictionary(qdbus_cast<QVariantMap>(answer.value(0)));
+    const auto difference = ServiceSettings::current().difference(service);
+    if (!difference) return Answered;
+    setError(error,
+             NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorOtherSettings, *difference));
+    return Failed;
+}
+
+void ServiceConnection::close() {
+    if (isOpen()) QDBusConnection::disconnectFromBus(std::exchange(_connectionName, QString()));
+}
+
+ServiceConnection::Outcome ServiceConnection::call(const QString &path, const QString &interface, const QString &member,
+                                                   const QVariantList &arguments, int milliseconds,
+                                                   QVariantList *answer, std::optional<NSError> *error) const {
+    auto message = QDBusMessage::createMethodCall(_serviceName, path, interface, member);
+    message.setArguments(arguments);
+    const QDBusMessage reply = bus().call(message, QDBus::Block, milliseconds);
+    if (reply.type() == QDBusMessage::ReplyMessage) {
+        *answer = reply.arguments();
+        return Answered;
+    }
+    fail(error, QStringLiteral("The upload service (korvane-uploadd) cannot be reached: %1").arg(reply.errorMessage()));
+    const auto type = QDBusError(reply).type();
+    return type == QDBusError::NoReply || type == QDBusError::Disconnected ? Lost : Failed;
+}
+
+} // namespace korvane

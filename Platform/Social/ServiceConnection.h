@@ -1,0 +1,47 @@
+// A connection to the upload service, which means the same settings as this program.
+#pragma once
+
+#include "Platform/Foundation/NSError.h"
+
+#include <QDBusConnection>
+#include <QString>
+#include <QVariantList>
+
+#include <optional>
+
+namespace korvane {
+
+// On a connection of its own, so that the end of the bus is an error and no hang. Errors are of
+// RemoteServiceErrorDomain. Thread: the one that made it, alone; calls block.
+class ServiceConnection {
+public:
+    enum Outcome {
+        Answered,
+        Failed, // with the error placed; the service has not acted on the call
+        Lost    // with the error placed: service or bus went away, and nobody knows how far the call came
+    };
+
+    // serviceName: the bus name under which the service is reached and started.
+    explicit ServiceConnection(QString serviceName) : _serviceName(std::move(serviceName)) {}
+    ~ServiceConnection() { close(); }
+    ServiceConnection(const ServiceConnection &) = delete;
+    ServiceConnection &operator=(const ServiceConnection &) = delete;
+
+    // Connects, anew if it was connected, starting the service where it is not running. A service with another queue or
+    // other hosts is not the one that the caller means: Failed, naming the difference.
+    Outcome open(int milliseconds, std::optional<NSError> *error);
+    void close();
+    bool isOpen() const { return !_connectionName.isEmpty(); }
+    QDBusConnection bus() const { return QDBusConnection(_connectionName); }
+
+    Outcome call(const QString &path, const QString &interface, const QString &member, const QVariantList &arguments,
+                 int milliseconds, QVariantList *answer, std::optional<NSError> *error) const;
+
+private:
+    Outcome _agreeOnSettings(int milliseconds, std::optional<NSError> *error) const;
+
+    const QString _serviceName;
+    QString _connectionName;
+};
+
+} // namespace korvane
