@@ -15,6 +15,11 @@ bool isStatus(int status) {
     return status >= 200 && status <= 599;
 }
 
+std::optional<qint64> wholeNumber(const QJsonObject &object, const char *key) {
+    const auto value = object.value(QLatin1String(key));
+    return value.isDouble() && value.toInteger(-1) >= 0 ? std::optional(value.toInteger()) : std::nullopt;
+}
+
 // What to do with the operation's queue; nothing when the object names no fault or an impossible one.
 std::function<void(FaultQueue &, int)> faultOf(const QJsonObject &object) {
     const auto has = [&](const char *key) { return object.value(QLatin1String(key)).toBool(); };
@@ -27,8 +32,17 @@ std::function<void(FaultQueue &, int)> faultOf(const QJsonObject &object) {
         if (!isStatus(status) || type.contains('\n') || type.contains('\r')) return {};
         return [=](FaultQueue &queue, int count) { queue.answer(status, type, body, count); };
     }
-    if (const auto bytes = object.value(QStringLiteral("dropAfterBytes")); bytes.isDouble() && bytes.toInteger() >= 0)
-        return [n = bytes.toInteger()](FaultQueue &queue, int count) { queue.dropAfterBytes(n, count); };
+    if (const auto bytes = wholeNumber(object, "dropAfterBytes"))
+        return [n = *bytes](FaultQueue &queue, int count) { queue.dropAfterBytes(n, count); };
+    if (const auto bytes = wholeNumber(object, "storeOnly"))
+        return [n = *bytes](FaultQueue &queue, int count) { queue.storeOnly(n, count); };
+    if (const auto delay = wholeNumber(object, "delay"))
+        return [ms = *delay](FaultQueue &queue, int count) { queue.delay(ms, count); };
+    if (const auto range = object.value(QStringLiteral("range")); range.isNull() || range.isString()) {
+        const auto text = range.isNull() ? std::nullopt : std::optional(range.toString().toUtf8());
+        if (text && (text->contains('\n') || text->contains('\r'))) return {};
+        return [=](FaultQueue &queue, int count) { queue.reportRange(text, count); };
+    }
     if (has("hang")) return [](FaultQueue &queue, int count) { queue.hang(count); };
     if (has("truncate")) return [](FaultQueue &queue, int count) { queue.truncate(count); };
     if (has("dropBeforeAnswer")) return [](FaultQueue &queue, int count) { queue.dropBeforeAnswer(count); };
@@ -36,17 +50,56 @@ std::function<void(FaultQueue &, int)> faultOf(const QJsonObject &object) {
     return {};
 }
 
-Step stepOf(const QJsonObject &object) {
-    if (object.value(QStringLiteral("clear")).toBool()) return [](ServiceContext &context) { context.faults.clear(); };
-    if (object.value(QStringLiteral("release")).toBool())
-        return [](ServiceContext &context) { context.gate.release(); };
-    if (const auto delay = object.value(QStringLiteral("delay")); delay.isDouble() && delay.toInteger() >= 0)
-        return [ms = delay.toInteger()](ServiceContext &context) { context.delay = ms; };
+std::optional<double> probability(const QJsonObject &object, const char *key) {
+    const double value = object.value(QLatin1String(key)).toDouble(0);
+    return value >= 0 && value <= 1 ? std::optional(value) : std::nullopt;
+}
+
+Step weatherOf(const QJsonObject &object) {
+    Weather weather;
+    const auto error = probability(object, "error");
+    const auto reset = probability(object, "reset");
+    const auto loseTail = probability(object, "loseTail");
+    weather.seed = quint64(object.value(QStringLiteral("seed")).toInteger(0));
+    weather.delay = object.value(QStringLiteral("delay")).toInteger(0);
+    for (const auto operation : object.value(QStringLiteral("on")).toArray())
+        weather.operations.append(operation.toString().toUtf8());
+    if (!error || !reset || !loseTail || weather.delay < 0) return {};
+    weather.error = *error;
+    weather.reset = *reset;
+    weather.loseTail = *loseTail;
+    return [weather](ServiceContext &context) { context.faults.setWeather(weather); };
+}
+
+Step quotaOf(const QJsonValue &value) {
+    if (value.isNull()) return [](ServiceContext &context) { context.videos.setQuota(std::nullopt); };
+    const QJsonObject object = value.toObject();
+    if (!object.value(QStringLiteral("free")).isDouble()) return {};
+    const Quota quota{.free = object.value(QStringLiteral("free")).toInteger(),
+                      .hd = object.value(QStringLiteral("hd")).toBool(true),
+                      .sd = object.value(QStringLiteral("sd")).toBool(true)};
+    return [quota](ServiceContext &context) { context.videos.setQuota(quota); };
+}
+
+Step faultStepOf(const QJsonObject &object) {
     const QByteArray operation = object.value(QStringLiteral("on")).toString().toUtf8();
     const int count = object.value(QStringLiteral("count")).toInt(1);
     const auto fault = faultOf(object);
     if (operation.isEmpty() || !fault || count < 1 || count > MostRequests) return {};
     return [=](ServiceContext &context) { fault(context.faults.on(operation), count); };
+}
+
+Step stepOf(const QJsonObject &object) {
+    if (object.contains(QStringLiteral("on"))) return faultStepOf(object);
+    if (const auto weather = object.value(QStringLiteral("weather")); weather.isObject())
+        return weatherOf(weather.toObject());
+    if (object.contains(QStringLiteral("quota"))) return quotaOf(object.value(QStringLiteral("quota")));
+    if (object.value(QStringLiteral("clear")).toBool()) return [](ServiceContext &context) { context.clear(); };
+    if (object.value(QStringLiteral("release")).toBool())
+        return [](ServiceContext &context) { context.gate.release(); };
+    if (const auto delay = wholeNumber(object, "delay"))
+        return [ms = *delay](ServiceContext &context) { context.delay = ms; };
+    return {};
 }
 
 } // namespace

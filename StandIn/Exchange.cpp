@@ -35,33 +35,37 @@ Exchange::~Exchange() {
 }
 
 void Exchange::begin(const QByteArray &operation) {
-    _fault = _context.faults.on(operation).next();
+    _record.operation = operation;
+    _fault = _context.faults.next(operation, bodyLength().value_or(0));
 }
 
-bool Exchange::readBody(RequestBody &body) {
-    _body = &body;
-    const auto length = _contentLength();
+bool Exchange::readBody(BodyReader &body) {
+    const auto length = bodyLength();
     if (!length) {
-        _connection.leaveBodyUnread();
-        answer(411, "text/plain", "The request does not say how long its body is.\n");
+        refuse(411, "it does not say how long its body is");
         return false;
     }
+    _body = &body;
     const bool dropping = _fault.kind == Fault::Kind::DropAfterBytes;
     const qint64 wanted = dropping ? std::min(_fault.bytes, *length) : *length;
     const bool whole = _connection.readBody(wanted, [&](const char *data, qsizetype size) {
         body.feed(data, size);
+        _record.bodyBytes += size;
         return true;
     });
     body.finish();
-    _noteBody(body);
+    body.note(_record);
     if (dropping) {
         _drop();
         return false;
     }
-    if (!whole) _connection.leaveBodyUnread();
-    const QByteArray error = whole ? body.error() : QByteArray("the body is shorter than its Content-Length");
-    if (!error.isEmpty()) answer(400, "text/plain", "Bad request: " + error + ".\n");
-    return error.isEmpty();
+    if (!whole) {
+        _connection.leaveBodyUnread();
+        answer(400, "text/plain", "Bad request: the body is shorter than its Content-Length.\n");
+    } else if (!body.error().isEmpty()) {
+        refuse(400, body.error());
+    }
+    return whole && body.error().isEmpty();
 }
 
 bool Exchange::passesFault() {
@@ -80,15 +84,17 @@ bool Exchange::passesFault() {
     case Fault::Kind::None:
     case Fault::Kind::Truncate:
     case Fault::Kind::DropBeforeAnswer:
+    case Fault::Kind::StoreOnly:
+    case Fault::Kind::ReportRange:
         break;
     }
     return true;
 }
 
 void Exchange::answer(int status, const QByteArray &contentType, const QByteArray &body) {
-    if (_body && _body->photoIsComplete() && _record.photoId == 0 && _context.log.isEnabled())
-        _record.photoSha256 = _body->photo()->sha256();
-    const qint64 delay = _context.delay;
+    if (_body && _record.photoId == 0 && _context.log.isEnabled()) _record.photoSha256 = _body->photoSha256();
+    if (!_body && bodyLength().value_or(1) > 0) _connection.leaveBodyUnread();
+    const qint64 delay = _context.delay + _fault.delay;
     if (delay > 0 && !_context.gate.sleep(std::chrono::milliseconds(delay))) return _drop();
     if (_fault.kind == Fault::Kind::DropBeforeAnswer) return _drop();
     _record.status = status;
@@ -99,15 +105,24 @@ void Exchange::answer(int status, const QByteArray &contentType, const QByteArra
     if (!body.isEmpty()) _response.set_content(body.constData(), size_t(body.size()), contentType.toStdString());
 }
 
+void Exchange::setHeader(const char *name, const QByteArray &value) {
+    _response.set_header(name, value.toStdString());
+}
+
+void Exchange::refuse(int status, const QByteArray &problem) {
+    _context.protocolErrors.add(_record.method + ' ' + target(), problem);
+    answer(status, "text/plain", "Bad request: " + problem + ".\n");
+}
+
 QByteArray Exchange::header(const char *name) const {
     return bytes(_request.get_header_value(name));
 }
 
 SignedRequest Exchange::signedRequest(const Parameters &body) const {
-    return {_record.method, header("Host"), bytes(_request.target), header("Authorization"), body};
+    return {_record.method, header("Host"), target(), header("Authorization"), body};
 }
 
-std::optional<qint64> Exchange::_contentLength() const {
+std::optional<qint64> Exchange::bodyLength() const {
     if (_request.has_header("Transfer-Encoding") || _request.get_header_value_count("Content-Length") != 1)
         return std::nullopt;
     bool isNumber = false;
@@ -115,18 +130,10 @@ std::optional<qint64> Exchange::_contentLength() const {
     return isNumber && length >= 0 ? std::optional(length) : std::nullopt;
 }
 
-void Exchange::_noteBody(const RequestBody &body) {
-    _record.parameters += body.parameters();
-    if (!body.photoHeader()) return;
-    _record.photoContentType = body.photoHeader()->contentType;
-    _record.photoFileName = body.photoHeader()->fileName.value_or(QByteArray());
-    _record.photoBytes = body.photo()->bytes();
-}
-
 void Exchange::_sendHalf(int status, const QByteArray &contentType, const QByteArray &body) {
     const QByteArray head = "HTTP/1.1 " + QByteArray::number(status) + " Cut short\r\nContent-Type: " + contentType +
                             "\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n\r\n";
-    const QByteArray sent = head + body.left(body.size() / 2);
+    const QByteArray sent = body.isEmpty() ? head.left(head.size() / 2) : head + body.left(body.size() / 2);
     _connection.write(sent.constData(), size_t(sent.size()));
     _drop();
 }

@@ -1,6 +1,7 @@
 #include "StandIn/FlickrService.h"
 
 #include "StandIn/FlickrAnswer.h"
+#include "StandIn/RequestBody.h"
 
 namespace standin {
 
@@ -39,7 +40,7 @@ Credential FlickrService::credential() {
 
 void FlickrService::_upload(Exchange &exchange) {
     exchange.begin("upload");
-    RequestBody body(exchange.header("Content-Type"), _context.store.receive(), _context.photoLimit);
+    RequestBody body(exchange.header("Content-Type"), _context.photos.receive(), _context.photoLimit);
     if (!exchange.readBody(body) || !exchange.passesFault()) return;
     if (const auto problem = _check.problem(exchange.signedRequest(body.parameters())))
         return exchange.answer(401, "text/plain", *problem);
@@ -58,7 +59,7 @@ QByteArray FlickrService::_take(Exchange &exchange, RequestBody &body) {
     for (const Parameter &parameter : exchange.parameters()) {
         if (isStored(parameter.first)) photo.parameters.append(parameter);
     }
-    const qint64 id = _context.store.add(*body.photo(), photo);
+    const qint64 id = _context.photos.add(*body.photo(), photo);
     if (id == 0) return flickrFailure(3, "General upload failure");
     exchange.notePhotoId(id);
     return flickrOk("<photoid>" + QByteArray::number(id) + "</photoid>");
@@ -85,7 +86,7 @@ QByteArray FlickrService::_call(const QByteArray &method, const Parameters &para
 QByteArray FlickrService::_addPhoto(const Parameters &parameters) {
     const qint64 album = valueOf(parameters, "photoset_id").toLongLong();
     const qint64 photo = valueOf(parameters, "photo_id").toLongLong();
-    switch (_context.store.file(photo, album)) {
+    switch (_context.photos.file(photo, album)) {
     case PhotoStore::Filing::NoAlbum:
         return flickrFailure(1, "Photoset not found");
     case PhotoStore::Filing::NoPhoto:
@@ -101,7 +102,7 @@ QByteArray FlickrService::_addPhoto(const Parameters &parameters) {
 QByteArray FlickrService::_listAlbums(const Parameters &parameters) {
     const qint64 page = valueOf(parameters, "page").toLongLong();
     const qint64 perPage = valueOf(parameters, "per_page").toLongLong();
-    return flickrAlbumList(_context.store.albums(), std::clamp(page, qint64(1), qint64(1'000'000)),
+    return flickrAlbumList(_context.photos.albums(), std::clamp(page, qint64(1), qint64(1'000'000)),
                            perPage > 0 ? std::min(perPage, AlbumsPerPage) : AlbumsPerPage);
 }
 

@@ -7,6 +7,8 @@
 
 namespace standin {
 
+class RequestBody;
+
 // Thread: any, once the routes are added. Must outlive the server.
 class FlickrService {
 public:

@@ -1,6 +1,6 @@
 #include "StandIn/IncomingPhoto.h"
 
-#include <QCryptographicHash>
+#include "StandIn/FileHash.h"
 
 #include <algorithm>
 
@@ -38,13 +38,6 @@ bool IncomingPhoto::moveTo(const QString &path) {
     _file.close();
     _moved = _file.rename(path);
     return _moved;
-}
-
-QByteArray IncomingPhoto::sha256OfFile(const QString &path) {
-    QFile file(path);
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    if (!file.open(QIODevice::ReadOnly) || !hash.addData(&file)) return {};
-    return hash.result().toHex();
 }
 
 } // namespace standin

@@ -25,8 +25,6 @@ public:
     // Moves the file there. The photo is then no longer this object's.
     bool moveTo(const QString &path);
 
-    static QByteArray sha256OfFile(const QString &path);
-
 private:
     QFile _file;
     const bool _kept;

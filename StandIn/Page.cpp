@@ -136,8 +136,9 @@ QByteArray countOf(size_t photos) {
 
 } // namespace
 
-QByteArray page(const PhotoStore &store) {
-    const qint64 revision = store.revision();
+QByteArray page(const ServiceContext &context) {
+    const PhotoStore &store = context.photos;
+    const qint64 revision = context.revision();
     const std::vector<Photo> photos = store.photos();
     const std::vector<Album> albums = store.albums();
     std::map<qint64, QString> albumTitles;

@@ -1,5 +1,7 @@
 #include "StandIn/PhotoStore.h"
 
+#include "StandIn/FileHash.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QJsonArray>
@@ -126,7 +128,7 @@ std::vector<Album> PhotoStore::albums() const {
 QByteArray PhotoStore::sha256(qint64 id) {
     const auto known = photo(id);
     if (!known || !known->sha256.isEmpty() || known->path.isEmpty()) return known ? known->sha256 : QByteArray();
-    const QByteArray hash = IncomingPhoto::sha256OfFile(known->path);
+    const QByteArray hash = sha256OfFile(known->path);
     const std::lock_guard lock(_mutex);
     _photos[id].sha256 = hash;
     return hash;

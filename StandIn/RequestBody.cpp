@@ -36,6 +36,14 @@ QByteArray RequestBody::error() const {
     return _multipart ? _multipart->error() : _refusal;
 }
 
+void RequestBody::note(Request &record) const {
+    record.parameters += _parameters;
+    if (!_photoHeader) return;
+    record.photoContentType = _photoHeader->contentType;
+    record.photoFileName = _photoHeader->fileName.value_or(QByteArray());
+    record.photoBytes = _photo->bytes();
+}
+
 bool RequestBody::partBegan(const PartHeader &header) {
     _part = header;
     _partText = QByteArray("");

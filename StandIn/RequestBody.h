@@ -1,6 +1,7 @@
 // The body of a service request: parameters from a form or from multipart text parts, and at most one photo.
 #pragma once
 
+#include "StandIn/BodyReader.h"
 #include "StandIn/IncomingPhoto.h"
 #include "StandIn/MultipartReader.h"
 #include "StandIn/Parameters.h"
@@ -11,21 +12,21 @@
 namespace standin {
 
 // Thread: one at a time.
-class RequestBody final : private PartReceiver {
+class RequestBody final : public BodyReader, private PartReceiver {
 public:
     // Without a place for it, a photo is refused.
     RequestBody(const QByteArray &contentType, std::unique_ptr<IncomingPhoto> photo, qint64 photoLimit = 0);
 
-    void feed(const char *data, qsizetype size);
-    void finish();
-    // What is wrong with the body; empty when it is well-formed.
-    QByteArray error() const;
+    void feed(const char *data, qsizetype size) override;
+    void finish() override;
+    QByteArray error() const override;
+    void note(Request &record) const override;
+    QByteArray photoSha256() override { return _photoComplete ? _photo->sha256() : QByteArray(); }
 
     const Parameters &parameters() const { return _parameters; }
     // The header of the part "photo", once it began.
     const std::optional<PartHeader> &photoHeader() const { return _photoHeader; }
     IncomingPhoto *photo() const { return _photo.get(); }
-    bool photoIsComplete() const { return _photoComplete; }
     bool photoIsTooLarge() const { return _photo && _photo->bytes() > _photoLimit; }
     bool diskRefused() const { return _diskRefused; }
 

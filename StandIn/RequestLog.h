@@ -9,10 +9,12 @@
 namespace standin {
 
 struct Request {
+    QByteArray operation; // as faults name it; empty when the request did not get so far
     QByteArray method;
     QByteArray path; // as sent, without the query
     Parameters headers;
     Parameters parameters; // decoded: query, then form or text parts, in the order sent
+    qint64 bodyBytes = 0;  // as many as arrived
     QByteArray photoContentType;
     QByteArray photoFileName;
     qint64 photoBytes = 0;  // as many as arrived

@@ -4,6 +4,7 @@
 #include "StandIn/FlickrService.h"
 #include "StandIn/Page.h"
 #include "StandIn/StateJson.h"
+#include "StandIn/VimeoService.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -16,14 +17,15 @@ namespace {
 
 const char *const Json = "application/json; charset=utf-8";
 
-void sendPhoto(const PhotoStore &store, const httplib::Request &request, httplib::Response &response) {
-    const auto photo = store.photo(QByteArray::fromStdString(request.matches[1]).toLongLong());
-    auto file = std::make_shared<std::ifstream>();
-    if (photo && !photo->path.isEmpty()) file->open(photo->path.toStdString(), std::ios::binary);
-    if (!file->is_open()) {
-        response.status = 404;
-        return response.set_content("No such photo.\n", "text/plain");
-    }
+void notFound(httplib::Response &response, const char *what) {
+    response.status = 404;
+    response.set_content(what, "text/plain");
+}
+
+// The HTTP library takes care of ranges.
+void sendFile(const QString &path, qint64 bytes, const QByteArray &type, httplib::Response &response) {
+    auto file = std::make_shared<std::ifstream>(path.toStdString(), std::ios::binary);
+    if (!file->is_open()) return notFound(response, "The file is gone.\n");
     response.set_header("Content-Security-Policy", "default-src 'none'; sandbox");
     response.set_header("Cache-Control", "private, max-age=86400");
     const auto provide = [file](size_t offset, size_t length, httplib::DataSink &sink) {
@@ -33,7 +35,23 @@ void sendPhoto(const PhotoStore &store, const httplib::Request &request, httplib
         file->read(piece.data(), std::streamsize(piece.size()));
         return file->gcount() > 0 && sink.write(piece.data(), size_t(file->gcount()));
     };
-    response.set_content_provider(size_t(photo->bytes), photo->imageType.toStdString(), provide);
+    response.set_content_provider(size_t(bytes), type.toStdString(), provide);
+}
+
+qint64 idIn(const httplib::Request &request) {
+    return QByteArray::fromStdString(request.matches[1]).toLongLong();
+}
+
+void sendPhoto(const PhotoStore &store, const httplib::Request &request, httplib::Response &response) {
+    const auto photo = store.photo(idIn(request));
+    if (!photo || photo->path.isEmpty()) return notFound(response, "No such photo.\n");
+    sendFile(photo->path, photo->bytes, photo->imageType, response);
+}
+
+void sendVideo(const VideoStore &store, const httplib::Request &request, httplib::Response &response) {
+    const auto video = store.video(idIn(request));
+    if (!video || video->path.isEmpty()) return notFound(response, "No such video.\n");
+    sendFile(video->path, video->bytesStored, "video/mp4", response);
 }
 
 void takePlan(ServiceContext &context, const httplib::Request &request, httplib::Response &response) {
@@ -54,6 +72,7 @@ StandIn::StandIn(const StandInOptions &options)
     : _options(options), _context(new ServiceContext(options.keepRequests, options.photoLimit)), _port(options.port) {
     _context->delay = options.delay.count();
     _flickr = std::make_unique<FlickrService>(*_context);
+    _vimeo = std::make_unique<VimeoService>(*_context);
 }
 
 StandIn::~StandIn() {
@@ -98,8 +117,24 @@ Credential StandIn::flickrCredential() {
     return FlickrService::credential();
 }
 
+Credential StandIn::vimeoCredential() {
+    return VimeoService::credential();
+}
+
+QByteArray StandIn::foreignVideoId() {
+    return VimeoService::foreignVideoId();
+}
+
 FaultQueue &StandIn::on(const QByteArray &operation) {
     return _context->faults.on(operation);
+}
+
+void StandIn::weather(const Weather &weather) {
+    _context->faults.setWeather(weather);
+}
+
+void StandIn::quota(const std::optional<Quota> &quota) {
+    _context->videos.setQuota(quota);
 }
 
 void StandIn::delay(std::chrono::milliseconds time) {
@@ -111,26 +146,37 @@ void StandIn::release() {
 }
 
 void StandIn::clearFaults() {
-    _context->faults.clear();
+    _context->clear();
 }
 
 std::vector<Request> StandIn::requests() const {
     std::vector<Request> requests = _context->log.requests();
     for (Request &request : requests) {
-        if (request.photoId != 0) request.photoSha256 = _context->store.sha256(request.photoId);
+        if (request.photoId != 0) request.photoSha256 = _context->photos.sha256(request.photoId);
     }
     return requests;
 }
 
 std::vector<Photo> StandIn::photos() const {
-    std::vector<Photo> photos = _context->store.photos();
+    std::vector<Photo> photos = _context->photos.photos();
     for (Photo &photo : photos)
-        photo.sha256 = _context->store.sha256(photo.id);
+        photo.sha256 = _context->photos.sha256(photo.id);
     return photos;
 }
 
 std::vector<Album> StandIn::albums() const {
-    return _context->store.albums();
+    return _context->photos.albums();
+}
+
+std::vector<Video> StandIn::videos() const {
+    std::vector<Video> videos = _context->videos.videos();
+    for (Video &video : videos)
+        video.sha256 = _context->videos.sha256(video.ticketId);
+    return videos;
+}
+
+QStringList StandIn::protocolErrors() const {
+    return _context->protocolErrors.all();
 }
 
 bool StandIn::_openState(QString *error) {
@@ -143,29 +189,33 @@ bool StandIn::_openState(QString *error) {
             return false;
         }
     }
-    return _context->store.open(folder, _options.albums, _options.keepBodies, error);
+    return _context->photos.open(folder, _options.albums, _options.keepBodies, error) &&
+           _context->videos.open(folder, _options.keepBodies, error) && _context->protocolErrors.open(folder, error);
 }
 
 void StandIn::_addRoutes() {
     using httplib::Request;
     using httplib::Response;
     _flickr->addRoutes(*_server);
+    _vimeo->addRoutes(*_server);
     _server->set_default_headers({{"X-Content-Type-Options", "nosniff"}});
-    PhotoStore &store = _context->store;
+    ServiceContext &context = *_context;
     _server->Get("/", [&](const Request &, Response &response) {
         response.set_header("Content-Security-Policy", pagePolicy().toStdString());
-        response.set_content(page(store).toStdString(), "text/html; charset=utf-8");
+        response.set_content(page(context).toStdString(), "text/html; charset=utf-8");
     });
     _server->Get("/photos/(\\d{1,18})",
-                 [&](const Request &request, Response &response) { sendPhoto(store, request, response); });
+                 [&](const Request &request, Response &response) { sendPhoto(context.photos, request, response); });
+    _server->Get("/videos/(\\d{1,18})",
+                 [&](const Request &request, Response &response) { sendVideo(context.videos, request, response); });
     _server->Get("/api/state", [&](const Request &, Response &response) {
-        response.set_content(stateJson(store).toStdString(), Json);
+        response.set_content(stateJson(context).toStdString(), Json);
     });
     _server->Get("/api/revision", [&](const Request &, Response &response) {
-        response.set_content(std::to_string(store.revision()) + "\n", "text/plain");
+        response.set_content(std::to_string(context.revision()) + "\n", "text/plain");
     });
     _server->Post("/control/faults",
-                  [this](const Request &request, Response &response) { takePlan(*_context, request, response); });
+                  [&](const Request &request, Response &response) { takePlan(context, request, response); });
 }
 
 } // namespace standin

@@ -17,6 +17,11 @@ QJsonArray idsOf(const QList<qint64> &ids) {
     return array;
 }
 
+QJsonValue timeOf(qint64 milliseconds) {
+    if (milliseconds == 0) return {};
+    return QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC).toString(Qt::ISODateWithMs);
+}
+
 QJsonObject objectOf(const Photo &photo, const QByteArray &sha256) {
     const auto parameter = [&](const char *name) { return QString::fromUtf8(valueOf(photo.parameters, name)); };
     return {{QStringLiteral("id"), QString::number(photo.id)},
@@ -31,25 +36,60 @@ QJsonObject objectOf(const Photo &photo, const QByteArray &sha256) {
             {QStringLiteral("bytes"), photo.bytes},
             {QStringLiteral("sha256"), QString::fromLatin1(sha256)},
             {QStringLiteral("albums"), idsOf(photo.albums)},
-            {QStringLiteral("receivedAt"),
-             QDateTime::fromMSecsSinceEpoch(photo.receivedAt, Qt::UTC).toString(Qt::ISODateWithMs)}};
+            {QStringLiteral("receivedAt"), timeOf(photo.receivedAt)}};
 }
 
-} // namespace
-
-QByteArray stateJson(PhotoStore &store) {
+QJsonArray photosIn(PhotoStore &store) {
     QJsonArray photos;
     for (const Photo &photo : store.photos())
         photos.append(objectOf(photo, store.sha256(photo.id)));
+    return photos;
+}
+
+QJsonArray albumsIn(const PhotoStore &store) {
     QJsonArray albums;
     for (const Album &album : store.albums()) {
         albums.append(QJsonObject{{QStringLiteral("id"), QString::number(album.id)},
                                   {QStringLiteral("title"), album.title},
                                   {QStringLiteral("photos"), idsOf(album.photos)}});
     }
-    const QJsonObject state{{QStringLiteral("revision"), store.revision()},
-                            {QStringLiteral("photos"), photos},
-                            {QStringLiteral("albums"), albums}};
+    return albums;
+}
+
+QJsonObject objectOf(const Video &video, const QByteArray &sha256) {
+    QJsonArray chunks;
+    for (const VideoChunk &chunk : video.chunks)
+        chunks.append(objectOf(chunk));
+    QJsonArray operations;
+    for (const QByteArray &operation : video.operations)
+        operations.append(QString::fromUtf8(operation));
+    QJsonObject object = factsOf(video);
+    object[QStringLiteral("createdAt")] = timeOf(video.createdAt);
+    object[QStringLiteral("committedAt")] = timeOf(video.committedAt);
+    object[QStringLiteral("sha256")] = QString::fromLatin1(sha256);
+    object[QStringLiteral("endpointHits")] = video.endpointHits();
+    object[QStringLiteral("commits")] = video.commits();
+    object[QStringLiteral("operations")] = operations;
+    object[QStringLiteral("chunks")] = chunks;
+    return object;
+}
+
+QJsonArray videosIn(VideoStore &store) {
+    QJsonArray videos;
+    for (const Video &video : store.videos())
+        videos.append(objectOf(video, store.sha256(video.ticketId)));
+    return videos;
+}
+
+} // namespace
+
+QByteArray stateJson(ServiceContext &context) {
+    const QJsonObject state{
+        {QStringLiteral("revision"), context.revision()},
+        {QStringLiteral("photos"), photosIn(context.photos)},
+        {QStringLiteral("albums"), albumsIn(context.photos)},
+        {QStringLiteral("videos"), videosIn(context.videos)},
+        {QStringLiteral("protocolErrors"), QJsonArray::fromStringList(context.protocolErrors.all())}};
     return QJsonDocument(state).toJson(QJsonDocument::Compact) + '\n';
 }
 

@@ -27,9 +27,11 @@ int complain(const QString &what) {
 }
 
 int printCredential(const QString &service) {
-    if (service != QLatin1String("flickr"))
-        return complain(QStringLiteral("there are only credentials for \"flickr\""));
-    const standin::Credential credential = standin::StandIn::flickrCredential();
+    const bool isFlickr = service == QLatin1String("flickr");
+    if (!isFlickr && service != QLatin1String("vimeo"))
+        return complain(QStringLiteral("there are only credentials for \"flickr\" and \"vimeo\""));
+    const standin::Credential credential =
+        isFlickr ? standin::StandIn::flickrCredential() : standin::StandIn::vimeoCredential();
     const auto text = [](const QByteArray &bytes) { return QString::fromUtf8(bytes); };
     const QJsonObject object{{QStringLiteral("username"), text(credential.username)},
                              {QStringLiteral("consumerKey"), text(credential.consumerKey)},
@@ -93,7 +95,7 @@ int main(int argc, char *argv[]) {
         {QStringLiteral("albums"), QStringLiteral("Number of albums that exist from the start, 3 or more."),
          QStringLiteral("N"), QStringLiteral("3")},
         {QStringLiteral("print-credential"),
-         QStringLiteral("Print the credential of the test user of a service (flickr) as JSON and exit."),
+         QStringLiteral("Print the credential of the test user of a service (flickr, vimeo) as JSON and exit."),
          QStringLiteral("SERVICE")},
     });
     parser.process(application);

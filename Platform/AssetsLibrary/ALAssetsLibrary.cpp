@@ -1,6 +1,9 @@
 // The user's photo library: what is in the Pictures and Videos folders.
 #include "Platform/AssetsLibrary/ALAssetsLibrary.h"
 
+#include "Platform/AVFoundation/AVError.h"
+#include "Platform/AVFoundation/ExportPlan.h"
+#include "Platform/AVFoundation/MediaInfo.h"
 #include "Platform/AssetsLibrary/AssetLocation.h"
 #include "Platform/Foundation/Dispatch.h"
 #include "Platform/ImageIO/PictureProgram.h"
@@ -11,12 +14,20 @@
 #include <sys/stat.h>
 
 #include <cerrno>
+#include <chrono>
+#include <mutex>
 
 namespace korvane {
 namespace {
 
+constexpr std::chrono::seconds longestProbe(10); // somebody waits in front of a window
+
+QString nameOf(const QByteArray &path) {
+    return QFile::decodeName(path.mid(path.lastIndexOf('/') + 1));
+}
+
 QString nameOf(const AssetLocation &location) {
-    return QFile::decodeName(location.path.mid(location.path.lastIndexOf('/') + 1));
+    return nameOf(location.path);
 }
 
 // Null without an error where there is no such asset.
@@ -42,6 +53,50 @@ std::shared_ptr<ALAsset> findAsset(const NSURL &url, std::optional<NSError> &err
     return std::make_shared<ALAsset>(url, std::move(representation));
 }
 
+NSError noVideo(const QString &what, const QString &reason) {
+    return NSError::errorWithDescription(
+        AVFoundationErrorDomain, AVErrorContentIsUnavailable,
+        QStringLiteral("The video “%1” cannot be opened (%2). Choose it again.").arg(what, reason));
+}
+
+AVAsset videoInLibrary(const NSURL &url) {
+    const auto location = AssetLocation::ofURL(url);
+    if (!location) return {url.absoluteString(), {}, noVideo(url.absoluteString(), QStringLiteral("no such asset"))};
+    auto file = std::make_shared<FileDescriptor>(location->open());
+    struct stat status;
+    if (!*file || ::fstat(file->get(), &status) != 0)
+        return {nameOf(*location), {}, noVideo(nameOf(*location), qt_error_string(errno))};
+    return {nameOf(*location), NSData::dataWithFile(std::move(file), 0, status.st_size), {}};
+}
+
+AVAsset videoInFile(const QByteArray &path) {
+    std::optional<NSError> error;
+    auto data = NSData::dataWithContentsOfFile(path, &error);
+    if (error) error = noVideo(nameOf(path), error->localizedDescription());
+    return {nameOf(path), std::move(data), std::move(error)};
+}
+
+AVAsset videoAt(const NSURL &url, const std::optional<QByteArray> &fallbackFilePath) {
+    AVAsset asset = url.isFileURL() ? videoInFile(url.fileSystemRepresentation()) : videoInLibrary(url);
+    if (asset.file || !fallbackFilePath) return asset;
+    AVAsset other = videoInFile(*fallbackFilePath);
+    return other.file ? other : asset;
+}
+
+// Three sizes are asked of one video in a row, so what was found last is kept.
+std::optional<MediaInfo> infoOf(const AVAsset &asset) {
+    static std::mutex mutex;
+    static std::optional<FileIdentity> lastFile;
+    static std::optional<MediaInfo> lastInfo;
+    const auto file = FileIdentity::ofDescriptor(asset.file->file()->get());
+    const std::lock_guard lock(mutex);
+    if (!file || file != lastFile || !lastInfo) {
+        lastInfo = MediaInfo::ofAsset(asset, longestProbe, {}, nullptr);
+        lastFile = file;
+    }
+    return lastInfo;
+}
+
 } // namespace
 
 void ALAssetsLibrary::assetForURL(const NSURL &url, ResultBlock resultBlock, FailureBlock failureBlock) const {
@@ -59,6 +114,21 @@ std::optional<NSURL> ALAssetsLibrary::assetURLForFile(const QByteArray &path) {
     const auto location = AssetLocation::ofFile(path);
     if (!location) return std::nullopt;
     return location->url();
+}
+
+std::shared_ptr<AVAssetExportSession>
+ALAssetsLibrary::_exportSessionForVideoURL(const NSURL &url, const std::optional<QByteArray> &fallbackFilePath,
+                                           const std::optional<QString> &exportPreset) {
+    return AVAssetExportSession::exportSessionWithAsset(videoAt(url, fallbackFilePath), exportPreset);
+}
+
+qint64 ALAssetsLibrary::_estimatedOutputFileLengthForVideoURL(const NSURL &url,
+                                                              const std::optional<QByteArray> &fallbackFilePath,
+                                                              const std::optional<QString> &exportPreset,
+                                                              const std::optional<QVariantMap> &) {
+    const AVAsset asset = videoAt(url, fallbackFilePath);
+    const auto info = asset.file ? infoOf(asset) : std::nullopt;
+    return info ? ExportPlan(*info, exportPreset).estimatedLength() : 0;
 }
 
 QVariantMap ALAssetsLibrary::photoRoots() {

@@ -1,6 +1,7 @@
 // The user's photo library: what is in the Pictures and Videos folders.
 #pragma once
 
+#include "Platform/AVFoundation/AVAssetExportSession.h"
 #include "Platform/AssetsLibrary/ALAsset.h"
 #include "Platform/Foundation/NSError.h"
 #include "Platform/Foundation/NSURL.h"
@@ -28,6 +29,21 @@ public:
     // The asset URL of a regular file; null if it is not inside the library once symbolic links are resolved. The path
     // is given in the file system's own bytes.
     static std::optional<NSURL> assetURLForFile(const QByteArray &path);
+
+    // Videos of the library ("assets-library" URLs) or of any place ("file" URLs); fallbackFilePath, in the file
+    // system's own bytes, is taken where the URL leads nowhere. exportPreset as in AVAssetExportSession.
+
+    // Never null: a session for a video that is not there fails with an error when it is started. The file is opened
+    // here.
+    static std::shared_ptr<AVAssetExportSession>
+    _exportSessionForVideoURL(const NSURL &url, const std::optional<QByteArray> &fallbackFilePath,
+                              const std::optional<QString> &exportPreset);
+    // Bytes of the MP4 file that such a session would make, as far as can be told without making it; 0 if unknown.
+    // exportProperties are not looked at. Blocks for about a tenth of a second the first time for a file.
+    static qint64 _estimatedOutputFileLengthForVideoURL(const NSURL &url,
+                                                        const std::optional<QByteArray> &fallbackFilePath,
+                                                        const std::optional<QString> &exportPreset,
+                                                        const std::optional<QVariantMap> &exportProperties);
 
     // The two folders, as absolute paths under "pictures" and "videos"; KORVANE_PHOTO_LIBRARY=DIR overrides the user's
     // own with DIR/Pictures and DIR/Videos, or with DIR for one that is not there.

@@ -24,6 +24,7 @@ namespace korvane {
 namespace {
 
 constexpr qsizetype mostErrorText = 16 * 1024;
+constexpr qsizetype pipeCapacity = 64 * 1024;
 constexpr int cannotRun = 127;
 
 // The kernel kills a child when the thread that started it ends, so all are started from one thread that never does.
@@ -42,6 +43,7 @@ struct Launch {
     FileDescriptor output;
     FileDescriptor errors;  // the child's end
     FileDescriptor failure; // takes errno if the program cannot be executed
+    int niceness = 0;
     pid_t parent = ::getpid();
 };
 
@@ -70,6 +72,7 @@ void closeOthersOnExec() {
     if (::dup2(launch.input.get(), STDIN_FILENO) < 0 || ::dup2(launch.output.get(), STDOUT_FILENO) < 0 ||
         ::dup2(launch.errors.get(), STDERR_FILENO) < 0)
         reportFailure(launch);
+    [[maybe_unused]] const int priority = ::nice(launch.niceness);
     closeOthersOnExec();
     ::execve(launch.argv.front(), launch.argv.data(), launch.envp.data());
     reportFailure(launch);
@@ -107,6 +110,7 @@ pid_t start(Launch &launch) {
     startingQueue().sync([&] {
         process = forkChild(launch);
         code = errno;
+        launch.output.reset();
         launch.errors.reset();
         launch.failure.reset();
     });
@@ -142,13 +146,23 @@ QByteArrayList environmentWith(const QByteArrayList &additions) {
     return variables;
 }
 
+// How long a child may run, and who is told meanwhile.
+struct Terms {
+    std::optional<std::chrono::milliseconds> timeLimit;
+    std::stop_token cancellation;
+    std::function<void(const QByteArray &piece)> outputHandler;
+    std::chrono::milliseconds watchInterval;
+    std::function<bool()> goesOn;
+};
+
 // A child that runs: its end, its words, and the wish to stop it, all of which poll() can wait for.
 class RunningChild {
 public:
-    RunningChild(pid_t process, FileDescriptor errors)
+    RunningChild(pid_t process, FileDescriptor output, FileDescriptor errors)
         : _process(process), _end(int(::syscall(SYS_pidfd_open, process, 0))), _endError(errno),
-          _errors(std::move(errors)), _wish(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
-        ::fcntl(_errors.get(), F_SETFL, O_NONBLOCK);
+          _output(std::move(output)), _errors(std::move(errors)), _wish(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
+        for (const FileDescriptor *pipe : {&_output, &_errors})
+            if (*pipe) ::fcntl(pipe->get(), F_SETFL, O_NONBLOCK);
     }
 
     // 0, or the errno value that says why the child cannot be followed.
@@ -156,14 +170,14 @@ public:
 
     void kill() { ::kill(_process, SIGKILL); }
 
-    ChildProcess::Result wait(const std::optional<std::chrono::milliseconds> &limit,
-                              const std::stop_token &cancellation) {
-        const std::stop_callback onCancel(cancellation, [this] { ::eventfd_write(_wish.get(), 1); });
-        const auto ending = _end ? _watch(limit) : ChildProcess::Exited;
+    ChildProcess::Result wait(const Terms &terms) {
+        const std::stop_callback onCancel(terms.cancellation, [this] { ::eventfd_write(_wish.get(), 1); });
+        const auto ending = _end ? _watch(terms) : ChildProcess::Exited;
         if (ending != ChildProcess::Exited) kill();
         siginfo_t info{};
         while (::waitid(P_PID, id_t(_process), &info, WEXITED) != 0 && errno == EINTR) {
         }
+        _readOutput(terms);
         _readErrors();
         const bool exited = info.si_code == CLD_EXITED;
         if (ending != ChildProcess::Exited && !exited) return {ending, info.si_status, _text};
@@ -174,38 +188,55 @@ private:
     using Clock = std::chrono::steady_clock;
 
     // Exited once the child has ended by itself, else the reason to end it.
-    ChildProcess::Ending _watch(const std::optional<std::chrono::milliseconds> &limit) {
-        const auto start = Clock::now();
-        pollfd watched[] = {{_end.get(), POLLIN, 0}, {_wish.get(), POLLIN, 0}, {_errors.get(), POLLIN, 0}};
+    ChildProcess::Ending _watch(const Terms &terms) {
+        const auto deadline = terms.timeLimit ? std::optional(Clock::now() + *terms.timeLimit) : std::nullopt;
+        pollfd watched[] = {
+            {_end.get(), POLLIN, 0}, {_wish.get(), POLLIN, 0}, {_errors.get(), POLLIN, 0}, {_output.get(), POLLIN, 0}};
         for (;;) {
-            int milliseconds = -1;
-            if (limit) {
-                const auto left = std::chrono::ceil<std::chrono::milliseconds>(start + *limit - Clock::now()).count();
-                if (left <= 0) return ChildProcess::TimedOut;
-                milliseconds = int(std::min<long long>(left, INT_MAX));
-            }
-            if (::poll(watched, std::size(watched), milliseconds) < 0) continue;
+            if (deadline && Clock::now() >= *deadline) return ChildProcess::TimedOut;
+            if (terms.goesOn && !terms.goesOn()) return ChildProcess::TimedOut;
+            if (::poll(watched, std::size(watched), _patience(terms, deadline)) < 0) continue;
             if (watched[0].revents != 0) return ChildProcess::Exited;
             if (watched[1].revents != 0) return ChildProcess::Cancelled;
             if (watched[2].revents != 0 && !_readErrors()) watched[2].fd = -1;
+            if (watched[3].revents != 0 && !_readOutput(terms)) watched[3].fd = -1;
         }
     }
 
-    // Takes what is there; false at the end. A grandchild may keep the pipe open, so nobody waits for that.
-    bool _readErrors() {
+    // Milliseconds until somebody must look again; -1 for never.
+    static int _patience(const Terms &terms, const std::optional<Clock::time_point> &deadline) {
+        auto patience = std::chrono::milliseconds(INT_MAX);
+        if (deadline) patience = std::chrono::ceil<std::chrono::milliseconds>(*deadline - Clock::now());
+        if (terms.goesOn) patience = std::min(patience, terms.watchInterval);
+        if (!deadline && !terms.goesOn) return -1;
+        return int(std::clamp<long long>(patience.count(), 0, INT_MAX));
+    }
+
+    // Takes what is there, but no more than a pipe holds, or a child that never pauses would get all attention. False
+    // at the end. A grandchild may keep the pipe open, so nobody waits for that.
+    template <typename Take>
+    static bool _drain(const FileDescriptor &pipe, Take take) {
         char buffer[4096];
-        for (;;) {
-            const ssize_t count = ::read(_errors.get(), buffer, sizeof buffer);
+        for (qsizetype taken = 0; taken < pipeCapacity;) {
+            const ssize_t count = ::read(pipe.get(), buffer, sizeof buffer);
             if (count < 0 && errno == EINTR) continue;
             if (count <= 0) return count < 0 && errno == EAGAIN;
-            _text.append(buffer, count);
-            if (_text.size() > mostErrorText) _text.remove(0, _text.size() - mostErrorText);
+            take(QByteArray(buffer, count));
+            taken += count;
         }
+        return true;
     }
+
+    bool _readErrors() {
+        return _drain(_errors, [this](const QByteArray &piece) { _text = (_text + piece).right(mostErrorText); });
+    }
+
+    bool _readOutput(const Terms &terms) { return _output && _drain(_output, terms.outputHandler); }
 
     pid_t _process;
     FileDescriptor _end;
     int _endError;
+    FileDescriptor _output; // invalid where the child writes elsewhere
     FileDescriptor _errors;
     FileDescriptor _wish;
     QByteArray _text;
@@ -252,23 +283,28 @@ std::optional<ChildProcess::Result> ChildProcess::run(std::optional<NSError> *er
     launch.strings = QByteArrayList{path} + _arguments;
     launch.variables = environmentWith(_environment);
     launch.input = sharedOrNull(_standardInput, O_RDONLY);
-    launch.output = sharedOrNull(_standardOutput, O_WRONLY);
+    launch.niceness = _niceness;
+    FileDescriptor output;
     FileDescriptor errors;
     FileDescriptor failure;
+    if (_outputHandler)
+        makePipe(output, launch.output);
+    else
+        launch.output = sharedOrNull(_standardOutput, O_WRONLY);
     if (!launch.input || !launch.output || !makePipe(errors, launch.errors) || !makePipe(failure, launch.failure))
         return fail(errno);
     const pid_t process = start(launch);
     if (process < 0) return fail(errno);
 
-    RunningChild child(process, std::move(errors));
+    RunningChild child(process, std::move(output), std::move(errors));
     int code = 0;
     ssize_t count;
     while ((count = ::read(failure.get(), &code, sizeof code)) < 0 && errno == EINTR) {
     }
     if (count != sizeof code) code = child.error();
-    if (code == 0) return child.wait(_timeLimit, _cancellation);
+    if (code == 0) return child.wait({_timeLimit, _cancellation, _outputHandler, _watchInterval, _goesOn});
     child.kill();
-    child.wait(std::nullopt, {});
+    child.wait({});
     return fail(code);
 }
 

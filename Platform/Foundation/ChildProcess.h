@@ -7,6 +7,7 @@
 #include <QByteArrayList>
 
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <stop_token>
 
@@ -36,10 +37,21 @@ public:
     // Descriptors stay the caller's and are shared with the child, position included. Without one: /dev/null.
     void setStandardInput(int descriptor) { _standardInput = descriptor; }
     void setStandardOutput(int descriptor) { _standardOutput = descriptor; }
+    // In place of a descriptor: gets what the child writes on standard output, piece by piece as it comes, on the
+    // thread of run(); all of it before run() returns.
+    void setOutputHandler(std::function<void(const QByteArray &piece)> handler) { _outputHandler = std::move(handler); }
     // Sets a variable in the child's environment, which is otherwise this process's own.
     void setEnvironmentVariable(const QByteArray &name, const QByteArray &value);
     // Without one the child may take as long as it likes.
     void setTimeLimit(std::chrono::milliseconds limit) { _timeLimit = limit; }
+    // Asked after each piece of output and at least once an interval, on the thread of run(); false kills the child,
+    // which counts as TimedOut.
+    void setWatch(std::chrono::milliseconds interval, std::function<bool()> goesOn) {
+        _watchInterval = interval;
+        _goesOn = std::move(goesOn);
+    }
+    // Lowers the child's claim on the processor, by 1 to 19.
+    void setNiceness(int niceness) { _niceness = niceness; }
     // A request to stop kills the child at once.
     void setCancellation(std::stop_token token) { _cancellation = std::move(token); }
 
@@ -56,7 +68,11 @@ private:
     QByteArrayList _environment; // NAME=VALUE
     int _standardInput = -1;
     int _standardOutput = -1;
+    int _niceness = 0;
+    std::function<void(const QByteArray &piece)> _outputHandler;
     std::optional<std::chrono::milliseconds> _timeLimit;
+    std::chrono::milliseconds _watchInterval{1000};
+    std::function<bool()> _goesOn;
     std::stop_token _cancellation;
 };
 

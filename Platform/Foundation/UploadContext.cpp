@@ -9,14 +9,9 @@ UploadContext::Snapshot UploadContext::snapshot() const {
 }
 
 void UploadContext::cancel() {
+    _cancellation.request_stop();
     const std::lock_guard lock(_mutex);
-    _cancelled = true;
     if (_wake) _wake();
-}
-
-bool UploadContext::isCancelled() const {
-    const std::lock_guard lock(_mutex);
-    return _cancelled;
 }
 
 void UploadContext::requestBegan(qint64 bytesTotal, std::function<void()> wake) {

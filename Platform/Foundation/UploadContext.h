@@ -6,11 +6,12 @@
 #include <functional>
 #include <mutex>
 #include <optional>
+#include <stop_token>
 
 namespace korvane {
 
 // Hangs on the account object of one job; every request prepared for that account carries it to the send. The upload
-// code above knows nothing of it. Thread: any; one mutex guards everything.
+// code above knows nothing of it. Thread: any; one mutex guards the numbers.
 class UploadContext {
 public:
     struct Snapshot {
@@ -24,7 +25,9 @@ public:
 
     // Ends the current send, and every later one, with NSURLErrorCancelled. There is no way back.
     void cancel();
-    bool isCancelled() const;
+    bool isCancelled() const { return _cancellation.stop_requested(); }
+    // For work of the job that is no request: asked to stop by cancel(), on the thread that calls it.
+    std::stop_token cancellation() const { return _cancellation.get_token(); }
 
     // For the send: a request of bytesTotal body bytes begins; wake interrupts its wait when the job is cancelled.
     void requestBegan(qint64 bytesTotal, std::function<void()> wake);
@@ -35,7 +38,7 @@ private:
     mutable std::mutex _mutex;
     Snapshot _snapshot;
     std::function<void()> _wake;
-    bool _cancelled = false;
+    std::stop_source _cancellation;
 };
 
 } // namespace korvane

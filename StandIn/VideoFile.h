@@ -1,0 +1,36 @@
+// The bytes of one video while they come in: a file that grows at its end, with one writer at a time.
+#pragma once
+
+#include <QFile>
+
+#include <mutex>
+
+namespace standin {
+
+// Thread: any.
+class VideoFile {
+public:
+    // An empty path keeps no bytes, only their number, which then begins with `size`.
+    VideoFile(const QString &path, qint64 size);
+
+    qint64 size() const;
+    // Forgets the bytes from `start` (at most size()) on, and every writer before. Returns the new writer; 0 when the
+    // disk refuses.
+    quint64 startWriting(qint64 start);
+    // False when the disk refuses. What a forgotten writer brings is forgotten, too.
+    bool append(quint64 writer, const char *data, qsizetype size);
+    void stopWriting(quint64 writer);
+    // Nobody may write any more until somebody starts again.
+    void forgetWriter();
+
+private:
+    bool _openAt(qint64 start);
+
+    mutable std::mutex _mutex;
+    QFile _file;
+    const bool _kept;
+    qint64 _size = 0;
+    quint64 _writer = 0;
+};
+
+} // namespace standin

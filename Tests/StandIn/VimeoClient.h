@@ -1,0 +1,37 @@
+// A client that uploads a video step by step, signed on its own, with every byte under the test's control.
+#pragma once
+
+#include "Tests/StandIn/Client.h"
+
+#include <QJsonObject>
+
+namespace standin::test {
+
+class VimeoClient : public Client {
+public:
+    explicit VimeoClient(const StandIn &server) : Client(server) {}
+
+    // The answer's JSON; empty when there was none.
+    QJsonObject method(const QByteArray &name, const Parameters &parameters = {});
+    Reply rest(const Parameters &form, const QByteArray &query = "format=json");
+
+    // The path and query of a fresh ticket's endpoint.
+    QByteArray ticket();
+    // Sends a PUT with these header lines besides Host, Authorization and Content-Length.
+    Reply put(const QByteArray &target, const QByteArray &headers, const QByteArray &body);
+    Reply chunk(const QByteArray &target, const QByteArray &bytes, const QByteArray &range = {});
+    // What the answer's Range header says; -1 without one.
+    qint64 verify(const QByteArray &target);
+    QJsonObject commit(const QByteArray &target) {
+        return method("upload.complete", {{"ticket_id", target.mid(18)}, {"filename", "video.mp4"}});
+    }
+
+    QByteArray signedAs(const QByteArray &verb, const QByteArray &target, const Parameters &form = {}) const;
+};
+
+// Different bytes for each seed.
+QByteArray video(qsizetype size, quint32 seed = 1);
+// The value of the answer's header line; empty when there is none.
+QByteArray headerIn(const Reply &reply, const QByteArray &name);
+
+} // namespace standin::test
