@@ -2,32 +2,11 @@
 #include "Korvane/FlickrPost.h"
 
 #include "Platform/Foundation/NSNumber.h"
+#include "Platform/Foundation/PropertyList.h"
 
 namespace korvane {
 
 const QString FlickrPostErrorDomain = QStringLiteral("FlickrPostErrorDomain");
-
-namespace {
-
-std::optional<QString> text(const QVariant &value) {
-    return value.typeId() == QMetaType::QString ? std::optional(value.toString()) : std::nullopt;
-}
-
-std::optional<NSData> data(const QVariant &value) {
-    if (value.canConvert<NSData>() && value.typeId() == qMetaTypeId<NSData>()) return value.value<NSData>();
-    return value.typeId() == QMetaType::QByteArray ? std::optional(NSData(value.toByteArray())) : std::nullopt;
-}
-
-std::optional<QStringList> texts(const QVariant &value) {
-    if (value.typeId() == QMetaType::QStringList) return value.toStringList();
-    if (value.typeId() != QMetaType::QVariantList) return std::nullopt;
-    QStringList list;
-    for (const QVariant &element : value.toList())
-        if (element.typeId() == QMetaType::QString) list.append(element.toString());
-    return list;
-}
-
-} // namespace
 
 std::shared_ptr<FlickrPost> FlickrPost::init() {
     return std::shared_ptr<FlickrPost>(new FlickrPost);
@@ -56,11 +35,11 @@ QVariantMap FlickrPost::serializedDictionary() const {
 
 void FlickrPost::_initWithDictionary(const QVariantMap &dictionary) {
     const auto value = [&](const char *key) { return dictionary.value(QLatin1String(key)); };
-    if (const auto url = text(value("assetURL"))) assetURL = NSURL::URLWithString(*url);
-    photoData = data(value("photoData"));
-    title = text(value("title"));
-    postDescription = text(value("description"));
-    tags = texts(value("tags"));
+    if (const auto url = stringValue(value("assetURL"))) assetURL = NSURL::URLWithString(*url);
+    photoData = dataValue(value("photoData"));
+    title = stringValue(value("title"));
+    postDescription = stringValue(value("description"));
+    tags = stringListValue(value("tags"));
     visibility = quint32(intValue(value("visibility")));
     safetyLevel = intValue(value("safetyLevel"));
     contentType = intValue(value("contentType"));

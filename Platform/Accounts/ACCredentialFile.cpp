@@ -2,7 +2,7 @@
 #include "Platform/Accounts/ACCredentialFile.h"
 
 #include "Platform/Accounts/ACError.h"
-#include "Platform/Preferences/JSONText.h"
+#include "Platform/Foundation/NSJSONSerialization.h"
 
 #include <algorithm>
 
@@ -37,7 +37,7 @@ std::optional<ACCredentialFile> ACCredentialFile::credentialFileWithData(const N
     const QByteArray text = data.bytes();
     if (text.trimmed().isEmpty()) return refuse(error, QStringLiteral("it is empty"));
     QString problem;
-    const auto value = JSONText::parse(text, &problem);
+    const auto value = NSJSONSerialization::JSONObjectWithData(text, &problem);
     if (!value) return refuse(error, problem);
     if (value->typeId() != QMetaType::QVariantMap) return refuse(error, QStringLiteral("it is not a JSON object"));
     const QVariantMap map = value->toMap();

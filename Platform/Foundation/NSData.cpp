@@ -55,9 +55,10 @@ std::optional<NSData> NSData::dataWithContentsOfURL(const NSURL &url, std::optio
     return dataWithContentsOfFile(url.fileSystemRepresentation(), error);
 }
 
-NSData NSData::dataWithFile(std::shared_ptr<const FileDescriptor> file, qint64 offset, qint64 length) {
+NSData NSData::dataWithFile(std::shared_ptr<const FileDescriptor> file, qint64 offset, qint64 length,
+                            const std::optional<FileIdentity> &identity) {
     NSData data;
-    data._identity = FileIdentity::ofDescriptor(file->get()).value_or(FileIdentity{});
+    data._identity = identity ? *identity : FileIdentity::ofDescriptor(file->get()).value_or(FileIdentity{});
     data._file = std::move(file);
     data._offset = offset;
     data._length = length;

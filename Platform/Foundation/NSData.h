@@ -38,8 +38,10 @@ public:
     static std::optional<NSData> dataWithContentsOfFile(const QByteArray &path,
                                                         std::optional<NSError> *error = nullptr);
     static std::optional<NSData> dataWithContentsOfURL(const NSURL &url, std::optional<NSError> *error = nullptr);
-    // Stands for length bytes of an open regular file from offset on.
-    static NSData dataWithFile(std::shared_ptr<const FileDescriptor> file, qint64 offset, qint64 length);
+    // Stands for length bytes of an open regular file from offset on. identity: of the file as it is meant to be; as it
+    // is now without one.
+    static NSData dataWithFile(std::shared_ptr<const FileDescriptor> file, qint64 offset, qint64 length,
+                               const std::optional<FileIdentity> &identity = std::nullopt);
 
     qint64 length() const { return _length; }
     // The bytes in [location, location + length), cut at the end of this data.
@@ -49,10 +51,11 @@ public:
     // All bytes in memory. Shorter than length() if the file has become shorter. For data that is known to be small.
     QByteArray bytes() const;
 
-    // False once the file behind this data is no longer what it was when the data was made.
+    // False once the file behind this data is no longer what it was meant to be.
     bool isIntact() const;
     // The open file behind this data, else null; its part starts at fileOffset().
     const std::shared_ptr<const FileDescriptor> &file() const { return _file; }
+    const FileIdentity &identity() const { return _identity; } // of that file
     qint64 fileOffset() const { return _offset; }
 
     friend bool operator==(const NSData &a, const NSData &b);

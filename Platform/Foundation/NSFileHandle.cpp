@@ -16,7 +16,7 @@ std::shared_ptr<NSFileHandle> NSFileHandle::fileHandleForReadingFromURL(const NS
     }
     const auto contents = NSData::dataWithContentsOfURL(url, error);
     if (!contents) return nullptr;
-    return std::shared_ptr<NSFileHandle>(new NSFileHandle(contents->file()));
+    return std::shared_ptr<NSFileHandle>(new NSFileHandle(contents->file(), contents->identity()));
 }
 
 void NSFileHandle::seekToFileOffset(quint64 offset) {
@@ -34,7 +34,7 @@ NSData NSFileHandle::readDataOfLength(quint64 length) {
     const auto count = qint64(std::min(length, end - _offset));
     ::posix_fadvise(_file->get(), start, count, POSIX_FADV_WILLNEED);
     _offset += quint64(count);
-    return NSData::dataWithFile(_file, start, count);
+    return NSData::dataWithFile(_file, start, count, _identity);
 }
 
 quint64 NSFileHandle::_fileLength() const {

@@ -21,15 +21,22 @@ public:
     quint64 seekToEndOfFile();
     quint64 offsetInFile() const { return _offset; }
 
+    // What the file was when it was opened.
+    const FileIdentity &identity() const { return _identity; }
+    const std::shared_ptr<const FileDescriptor> &file() const { return _file; }
+
     // Up to length bytes from the offset on, fewer at the end of the file, and moves behind them. The data stands for
-    // the file's bytes: they are read when they are used, and the kernel is asked to have them ready.
+    // the file's bytes: they are read when they are used, and the kernel is asked to have them ready. It is intact as
+    // long as the file is what it was when it was opened.
     NSData readDataOfLength(quint64 length);
 
 private:
-    explicit NSFileHandle(std::shared_ptr<const FileDescriptor> file) : _file(std::move(file)) {}
+    NSFileHandle(std::shared_ptr<const FileDescriptor> file, const FileIdentity &identity)
+        : _file(std::move(file)), _identity(identity) {}
     quint64 _fileLength() const;
 
     std::shared_ptr<const FileDescriptor> _file;
+    const FileIdentity _identity; // of the file as it was opened
     quint64 _offset = 0;
 };
 

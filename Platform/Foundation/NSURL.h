@@ -24,6 +24,8 @@ public:
     int port() const { return _url.port(); } // -1 where the text names none
     // Whether the host is this machine by its usual name or a loopback address; no name is looked up.
     bool isLoopback() const;
+    // The path, percent-decoded.
+    QString path() const { return _url.path(QUrl::FullyDecoded); }
     // The query as written, without "?"; empty where there is none.
     QString query() const;
     // The same URL up to its query and fragment.

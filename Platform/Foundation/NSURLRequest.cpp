@@ -2,6 +2,15 @@
 #include "Platform/Foundation/NSURLRequest.h"
 
 namespace korvane {
+namespace {
+
+std::optional<QByteArray> valueOf(const HTTPHeaders &headers, const QByteArray &field) {
+    for (const auto &[name, value] : headers)
+        if (name.compare(field, Qt::CaseInsensitive) == 0) return value;
+    return std::nullopt;
+}
+
+} // namespace
 
 void NSMutableURLRequest::addValueForHTTPHeaderField(const QByteArray &value, const QByteArray &field) {
     for (auto &[name, present] : headers) {
@@ -19,10 +28,12 @@ qint64 NSMutableURLRequest::bodyLength() const {
     return length;
 }
 
+std::optional<QByteArray> NSMutableURLRequest::valueForHTTPHeaderField(const QByteArray &field) const {
+    return valueOf(headers, field);
+}
+
 std::optional<QByteArray> NSHTTPURLResponse::valueForHTTPHeaderField(const QByteArray &field) const {
-    for (const auto &[name, value] : headers)
-        if (name.compare(field, Qt::CaseInsensitive) == 0) return value;
-    return std::nullopt;
+    return valueOf(headers, field);
 }
 
 } // namespace korvane

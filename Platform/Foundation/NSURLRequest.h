@@ -25,11 +25,13 @@ struct NSMutableURLRequest {
     HTTPHeaders headers = {};
     std::vector<NSData> HTTPBody = {}; // sent one after the other as one body
     double timeoutInterval = 60;       // seconds without a byte moved
-    bool allowsCellularAccess = true;
+    bool allowsCellularAccess = true;  // false: the send fails while the default route is a cellular one
     std::shared_ptr<UploadContext> uploadContext = {}; // may be null
 
     // Appends the value to a header that is there already, as ", value".
     void addValueForHTTPHeaderField(const QByteArray &value, const QByteArray &field);
+    // Null where there is no such header.
+    std::optional<QByteArray> valueForHTTPHeaderField(const QByteArray &field) const;
     qint64 bodyLength() const;
 };
 

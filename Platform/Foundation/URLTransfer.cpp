@@ -2,6 +2,7 @@
 #include "Platform/Foundation/URLTransfer.h"
 
 #include "Platform/SystemConfiguration/NetworkRoute.h"
+#include "Platform/SystemConfiguration/SCNetworkReachability.h"
 
 #include <linux/sockios.h>
 #include <sys/ioctl.h>
@@ -90,6 +91,8 @@ void URLTransfer::_configure() {
     curl_easy_setopt(easy, CURLOPT_WRITEDATA, this);
     curl_easy_setopt(easy, CURLOPT_HEADERFUNCTION, _onHeader);
     curl_easy_setopt(easy, CURLOPT_HEADERDATA, this);
+    curl_easy_setopt(easy, CURLOPT_PREREQFUNCTION, _onRequest);
+    curl_easy_setopt(easy, CURLOPT_PREREQDATA, this);
     _configureMethod();
 }
 
@@ -112,9 +115,22 @@ void URLTransfer::_configureMethod() {
 std::optional<NSError> URLTransfer::run() {
     const auto &context = _request.uploadContext;
     if (context) context->requestBegan(_bodyLength, [multi = _handle.multi] { curl_multi_wakeup(multi); });
-    const std::optional<NSError> error = _drive();
-    if (context) context->requestEnded(_response.statusCode, error);
+    auto error = _objection();
+    if (!error) error = _drive();
+    if (context) context->requestEnded(_response.statusCode, error, _body);
     return error;
+}
+
+// What is known before anything is sent.
+std::optional<NSError> URLTransfer::_objection() const {
+    if (!_request.allowsCellularAccess && !_request.URL.isLoopback() && isDefaultRouteCellular())
+        return NSError::errorWithDescription(
+            NSURLErrorDomain, NSURLErrorNotConnectedToInternet,
+            QStringLiteral("There is only the cellular network, which this upload may not use."));
+    const auto announced = _request.valueForHTTPHeaderField("Content-Length");
+    if (!announced || announced->toLongLong() == _bodyLength) return std::nullopt;
+    return NSError::errorWithDescription(NSURLErrorDomain, NSURLErrorUnknown,
+                                         QStringLiteral("The file became shorter while it was being sent."));
 }
 
 std::optional<NSError> URLTransfer::_drive() {
@@ -227,6 +243,15 @@ size_t URLTransfer::_onWrite(char *bytes, size_t size, size_t count, void *self)
     }
     transfer->_body.append(bytes, qsizetype(size * count));
     return size * count;
+}
+
+// A request without a body needs no rewinding to be repeated, so it is stopped here.
+int URLTransfer::_onRequest(void *self, char *, char *, int, int) {
+    auto *transfer = static_cast<URLTransfer *>(self);
+    if (++transfer->_requests == 1 || transfer->_bodyLength > 0) return CURL_PREREQFUNC_OK;
+    transfer->_localError = NSError::errorWithDescription(NSURLErrorDomain, NSURLErrorNetworkConnectionLost,
+                                                          QStringLiteral("The web service closed the connection."));
+    return CURL_PREREQFUNC_ABORT;
 }
 
 size_t URLTransfer::_onHeader(char *bytes, size_t size, size_t count, void *self) {

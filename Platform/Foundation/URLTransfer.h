@@ -28,6 +28,7 @@ private:
 
     void _configure();
     void _configureMethod();
+    std::optional<NSError> _objection() const;
     std::optional<NSError> _drive();
     std::optional<NSError> _result(CURLcode code) const;
     bool _hasStalled();
@@ -38,6 +39,7 @@ private:
     static size_t _onRead(char *buffer, size_t size, size_t count, void *self);
     static int _onSeek(void *self, curl_off_t offset, int origin);
     static size_t _onWrite(char *bytes, size_t size, size_t count, void *self);
+    static int _onRequest(void *self, char *, char *, int, int);
     static size_t _onHeader(char *bytes, size_t size, size_t count, void *self);
 
     const NSMutableURLRequest &_request;
@@ -47,6 +49,7 @@ private:
     QByteArray _body;
     qint64 _bodyLength = 0;
     qint64 _bodyRead = 0;               // bytes handed to curl; at most _bodyLength
+    int _requests = 0;                  // begun, a repetition of curl's own included
     size_t _piece = 0;                  // the piece that is being read, and
     qint64 _pieceRead = 0;              // how much of it was
     qint64 _lastMoved = -1;             // bytes moved both ways when something last moved, and

@@ -2,6 +2,11 @@
 #include "Platform/Foundation/UploadContext.h"
 
 namespace korvane {
+namespace {
+
+constexpr qsizetype longestAnswer = 2048; // as much as anybody reads of it
+
+} // namespace
 
 UploadContext::Snapshot UploadContext::snapshot() const {
     const std::lock_guard lock(_mutex);
@@ -16,7 +21,7 @@ void UploadContext::cancel() {
 
 void UploadContext::requestBegan(qint64 bytesTotal, std::function<void()> wake) {
     const std::lock_guard lock(_mutex);
-    _snapshot = {0, bytesTotal, 0, std::nullopt};
+    _snapshot = {0, bytesTotal, 0, std::nullopt, {}};
     _wake = std::move(wake);
 }
 
@@ -25,11 +30,18 @@ void UploadContext::requestSent(qint64 bytesSent) {
     _snapshot.bytesSent = bytesSent;
 }
 
-void UploadContext::requestEnded(int httpStatus, const std::optional<NSError> &error) {
+void UploadContext::requestEnded(int httpStatus, const std::optional<NSError> &error, const QByteArray &answer) {
     const std::lock_guard lock(_mutex);
     _snapshot.httpStatus = httpStatus;
     _snapshot.transportError = error;
+    _snapshot.answer = answer.left(longestAnswer);
     _wake = nullptr;
+}
+
+SerialQueue &UploadContext::answerQueue() {
+    const std::lock_guard lock(_mutex);
+    if (!_answerQueue) _answerQueue = std::make_unique<SerialQueue>();
+    return *_answerQueue;
 }
 
 } // namespace korvane

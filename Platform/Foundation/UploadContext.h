@@ -1,9 +1,13 @@
 // What one upload job sees of its requests on the wire, and how it ends them.
 #pragma once
 
+#include "Platform/Foundation/Dispatch.h"
 #include "Platform/Foundation/NSError.h"
 
+#include <QByteArray>
+
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <stop_token>
@@ -19,6 +23,7 @@ public:
         qint64 bytesTotal = 0;                 // of the current request's body
         int httpStatus = 0;                    // of the last answer; 0 while the current request has none
         std::optional<NSError> transportError; // of the last request that ended
+        QByteArray answer;                     // the beginning of its body
     };
 
     Snapshot snapshot() const;
@@ -32,13 +37,17 @@ public:
     // For the send: a request of bytesTotal body bytes begins; wake interrupts its wait when the job is cancelled.
     void requestBegan(qint64 bytesTotal, std::function<void()> wake);
     void requestSent(qint64 bytesSent);
-    void requestEnded(int httpStatus, const std::optional<NSError> &error);
+    void requestEnded(int httpStatus, const std::optional<NSError> &error, const QByteArray &answer);
+
+    // Where the request layer delivers the job's answers, one after another. Made on first use.
+    SerialQueue &answerQueue();
 
 private:
     mutable std::mutex _mutex;
     Snapshot _snapshot;
     std::function<void()> _wake;
     std::stop_source _cancellation;
+    std::unique_ptr<SerialQueue> _answerQueue;
 };
 
 } // namespace korvane

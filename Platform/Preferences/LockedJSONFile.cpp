@@ -4,7 +4,7 @@
 #include "Platform/Foundation/FileDescriptor.h"
 #include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/NSData.h"
-#include "Platform/Preferences/JSONText.h"
+#include "Platform/Foundation/NSJSONSerialization.h"
 #include "Platform/Preferences/LogOnce.h"
 
 #include <QFile>
@@ -48,7 +48,7 @@ LockedJSONFile::Contents LockedJSONFile::_load(QVariantMap &values, QString &pro
         setError(error, readError);
         return Contents::Unreadable;
     }
-    const auto value = JSONText::parse(data->bytes(), &problem);
+    const auto value = NSJSONSerialization::JSONObjectWithData(data->bytes(), &problem);
     if (value && value->typeId() == QMetaType::QVariantMap) {
         values = value->toMap();
         return Contents::Read;
@@ -95,9 +95,9 @@ bool LockedJSONFile::update(const std::function<bool(QVariantMap &values)> &chan
     const Contents contents = _load(values, problem, error);
     if (contents == Contents::Unreadable) return false;
     if (contents == Contents::Damaged) _setAside(problem);
-    const auto before = JSONText::write(values);
+    const auto before = NSJSONSerialization::dataWithJSONObject(values);
     if (!change(values)) return false;
-    const auto after = JSONText::write(values);
+    const auto after = NSJSONSerialization::dataWithJSONObject(values);
     // Texts are compared since values of different types, as 1 and true, compare as equal.
     return before == after || _write(after, error);
 }

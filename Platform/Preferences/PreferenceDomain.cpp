@@ -3,7 +3,7 @@
 
 #include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/NSLog.h"
-#include "Platform/Preferences/JSONText.h"
+#include "Platform/Foundation/NSJSONSerialization.h"
 #include "Platform/Preferences/LogOnce.h"
 
 #include <QFile>
@@ -59,7 +59,7 @@ QVariant PreferenceDomain::currentValue(const QString &key) {
 }
 
 void PreferenceDomain::setValue(const QString &key, const QVariant &value) {
-    if (!JSONText::write(value))
+    if (!NSJSONSerialization::dataWithJSONObject(value))
         return NSLog("The preference %@ was not set: a value of type %s cannot be stored.", key, value.typeName());
     const std::lock_guard lock(_mutex);
     _pending.insert_or_assign(key, Pending{value, ++_serial});

@@ -2,7 +2,9 @@
 #include "Platform/Social/SLRequest.h"
 
 #include "Platform/Accounts/ACAccount.h"
+#include "Platform/Foundation/Dispatch.h"
 #include "Platform/Foundation/NSNumber.h"
+#include "Platform/Foundation/NSURLConnection.h"
 
 #include <QDateTime>
 #include <QUuid>
@@ -57,6 +59,17 @@ NSMutableURLRequest SLRequest::preparedURLRequest() const {
                                                      QDateTime::currentSecsSinceEpoch(), nonce)});
     }
     return request;
+}
+
+void SLRequest::performRequestWithHandler(const SLRequestHandler &handler) const {
+    static auto *const sharedQueue = new SerialQueue; // never destroyed: answers may come as the process ends
+    dispatchGlobal([request = preparedURLRequest(), handler] {
+        NSHTTPURLResponse response;
+        std::optional<NSError> error;
+        const auto body = NSURLConnection::sendSynchronousRequest(request, &response, &error);
+        SerialQueue &queue = request.uploadContext ? request.uploadContext->answerQueue() : *sharedQueue;
+        queue.async([=] { handler(body, response, error); });
+    });
 }
 
 } // namespace korvane

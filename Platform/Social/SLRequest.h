@@ -6,6 +6,7 @@
 
 #include <QVariantMap>
 
+#include <functional>
 #include <memory>
 
 namespace korvane {
@@ -16,6 +17,10 @@ extern const QString SLServiceTypeFlickr;
 extern const QString SLServiceTypeVimeo;
 
 enum SLRequestMethod { SLRequestMethodPOST, SLRequestMethodPUT };
+
+// body: the answer, also an empty one; null where none came, with the error of the send.
+using SLRequestHandler = std::function<void(const std::optional<NSData> &body, const NSHTTPURLResponse &response,
+                                            const std::optional<NSError> &error)>;
 
 class SLRequest {
 public:
@@ -34,6 +39,10 @@ public:
     // The request as it can be sent: URL as given, parameters in the body, signed with a new time stamp and nonce at
     // each call. A parameter that stands in the URL's query as well is signed once.
     NSMutableURLRequest preparedURLRequest() const;
+
+    // Sends the request on a pool thread; returns at once. The handler runs once, on the answer queue of the account's
+    // upload context, or without one on a queue that all such requests of the process share.
+    void performRequestWithHandler(const SLRequestHandler &handler) const;
 
 private:
     SLRequest(SLRequestMethod method, NSURL url, const QVariantMap &parameters);

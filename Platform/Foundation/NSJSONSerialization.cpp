@@ -1,5 +1,5 @@
-// Values of property lists as JSON text and back.
-#include "Platform/Preferences/JSONText.h"
+// Property-list values as JSON text and back.
+#include "Platform/Foundation/NSJSONSerialization.h"
 
 #include <nlohmann/json.hpp>
 
@@ -10,7 +10,7 @@ namespace {
 
 using nlohmann::json;
 
-constexpr int deepest = 64; // deeper nesting is nobody's preference, and both directions recurse
+constexpr int deepest = 64; // deeper nesting is nobody's value, and both directions recurse
 
 std::optional<QVariant> fromJSON(const json &value, int depth);
 
@@ -119,7 +119,7 @@ std::optional<json> toJSON(const QVariant &value, int depth) {
 
 } // namespace
 
-std::optional<QVariant> JSONText::parse(const QByteArray &text, QString *problem) {
+std::optional<QVariant> NSJSONSerialization::JSONObjectWithData(const QByteArray &text, QString *problem) {
     const auto fail = [problem](const QString &what) {
         if (problem) *problem = what;
         return std::nullopt;
@@ -136,7 +136,7 @@ std::optional<QVariant> JSONText::parse(const QByteArray &text, QString *problem
     }
 }
 
-std::optional<QByteArray> JSONText::write(const QVariant &value) {
+std::optional<QByteArray> NSJSONSerialization::dataWithJSONObject(const QVariant &value) {
     const auto converted = toJSON(value, 0);
     if (!converted) return std::nullopt;
     return QByteArray::fromStdString(converted->dump(2) + "\n");

@@ -1,0 +1,116 @@
+// What a video post is made of, how Vimeo's answers are read, and the reader of its file.
+#include "Korvane/VimeoPost.h"
+#include "Korvane/VimeoUploadSession.h"
+#include "Tests/Support/LogCapture.h"
+#include "Tests/Support/Printing.h"
+#include "Tests/Support/TemporaryHome.h"
+
+#include <gtest/gtest.h>
+
+using namespace korvane;
+using namespace korvane::test;
+
+TEST(VimeoPost, WritesItsRecordAndReadsAnyOther) {
+    const QVariantMap bare{
+        {QStringLiteral("accessType"), 0}, {QStringLiteral("privacy"), 0}, {QStringLiteral("videoSize"), 0}};
+    EXPECT_EQ(VimeoPost::init()->serializedDictionary(), bare);
+
+    const QVariantMap full{{QStringLiteral("assetURL"), QStringLiteral("file:///a%20b.mp4")},
+                           {QStringLiteral("title"), QStringLiteral("ü")},
+                           {QStringLiteral("description"), QString()},
+                           {QStringLiteral("tags"), QStringList{QStringLiteral("a"), QStringLiteral("b")}},
+                           {QStringLiteral("accessType"), quint64(7)},
+                           {QStringLiteral("privacy"), quint64(5)},
+                           {QStringLiteral("videoSize"), quint64(2)}};
+    const auto post = VimeoPost::initWithDictionary(full);
+    EXPECT_EQ(post->assetURL->absoluteString(), QStringLiteral("file:///a%20b.mp4"));
+    EXPECT_EQ(post->postDescription, QString());
+    EXPECT_EQ(post->privacySettings, 5);
+    EXPECT_EQ(post->videoSize, VimeoVideoSizeLarge);
+    EXPECT_EQ(post->serializedDictionary(), full);
+
+    const QVariant data = QVariant::fromValue(NSData("bytes"));
+    const auto both = VimeoPost::initWithDictionary(
+        {{QStringLiteral("assetURL"), QStringLiteral("file:///a.mp4")}, {QStringLiteral("assetData"), data}});
+    EXPECT_TRUE(both->assetURL && !both->assetData);
+    const auto odd = VimeoPost::initWithDictionary({{QStringLiteral("assetURL"), 5},
+                                                    {QStringLiteral("assetData"), data},
+                                                    {QStringLiteral("title"), 5},
+                                                    {QStringLiteral("tags"), QStringLiteral("a")},
+                                                    {QStringLiteral("privacy"), QStringLiteral("1x")},
+                                                    {QStringLiteral("more"), true}});
+    EXPECT_EQ(odd->postSize(), 5);
+    EXPECT_TRUE(!odd->assetURL && !odd->title && !odd->tags);
+    EXPECT_EQ(odd->privacySettings, VimeoPrivacyPrivate);
+}
+
+TEST(VimeoPost, TellsAnswersFromFailuresAndLogsThem) {
+    struct Case {
+        std::optional<QByteArray> body;
+        qint64 code; // 0: an answer
+        const char *logged;
+    };
+    const Case cases[] = {
+        {std::nullopt, VimeoPostErrorEmptyResponse, "Empty response data provided"},
+        {"", VimeoPostErrorEmptyResponse, "Empty response data provided"},
+        {"<html>", VimeoPostErrorBadResponse, "Failed to parse response data: "},
+        {"[]", VimeoPostErrorBadResponse, "Failed to parse non-dictionary response data"},
+        {"7", VimeoPostErrorBadResponse, "Failed to parse non-dictionary response data"},
+        {R"({"err":{"code":"401"}})", VimeoPostErrorServiceCode401, "Vimeo Error Response: "},
+        {R"({"err":{"code":708}})", VimeoPostErrorServiceCode708, "Vimeo Error Response: "},
+        {R"({"err":{"code":"999","msg":"no"}})", VimeoPostErrorBadResponse, "Vimeo Error Response: "},
+        {R"({"err":null,"stat":"ok"})", VimeoPostErrorBadResponse, "Vimeo Error Response: "},
+        {R"({"stat":"fail"})", 0, nullptr},
+    };
+    for (const Case &test : cases) {
+        const LogCapture log;
+        std::optional<NSError> error;
+        const auto answer =
+            VimeoPost::dictionaryWithResponseData(test.body ? std::optional(NSData(*test.body)) : std::nullopt, &error);
+        EXPECT_EQ(answer.has_value(), test.code == 0);
+        EXPECT_EQ(error,
+                  test.code == 0 ? std::nullopt : std::optional(NSError(VimeoPublishPostErrorDomain, test.code)));
+        EXPECT_EQ(log.lines().size(), test.logged ? 1 : 0);
+        EXPECT_TRUE(log.lines().value(0).startsWith(QLatin1String(test.logged)));
+        EXPECT_EQ(VimeoPost::dictionaryWithResponseData(NSData(test.body.value_or("")), nullptr), answer);
+    }
+}
+
+TEST(VimeoCheckpoint, OutlivesBeingWrittenDown) {
+    VimeoCheckpoint checkpoint;
+    EXPECT_EQ(VimeoCheckpoint::withDictionary(checkpoint.dictionary()), checkpoint);
+    EXPECT_EQ(VimeoCheckpoint::withDictionary({}), checkpoint);
+    checkpoint = {QStringLiteral("a1"), NSURL::URLWithString(QStringLiteral("http://v/upload?ticket_id=a1")),
+                  Q_UINT64_C(6'442'450'944), true, qint64(53)};
+    EXPECT_EQ(VimeoCheckpoint::withDictionary(checkpoint.dictionary()), checkpoint);
+}
+
+TEST(KRDataReader, ReadsRangesOfAFileThatMayChange) {
+    const TemporaryHome home;
+    std::optional<NSError> error = NSError(QStringLiteral("before"), 1);
+    EXPECT_EQ(KRDataReader::dataReaderWithURL(std::nullopt, &error), nullptr);
+    EXPECT_EQ(error->domain(), QStringLiteral("before"));
+    EXPECT_EQ(KRDataReader::dataReaderWithURL(NSURL::fileURLWithPath("/nowhere/a.mp4"), &error), nullptr);
+    EXPECT_EQ(error->domain(), NSPOSIXErrorDomain);
+
+    const QByteArray path = home.file(QStringLiteral("a.mp4"), "0123456789");
+    const auto reader = KRDataReader::dataReaderWithURL(NSURL::fileURLWithPath(path), &error);
+    EXPECT_EQ(reader->dataWithRange(2, 3)->bytes(), "234");
+    EXPECT_EQ(reader->length(), 10u);
+    EXPECT_EQ(reader->readHandle->offsetInFile(), 5u);
+    EXPECT_EQ(reader->dataWithRange(8, 5)->bytes(), "89");
+    EXPECT_EQ(reader->dataWithRange(20, 5)->length(), 0);
+    ASSERT_EQ(::truncate(path.constData(), 4), 0);
+    EXPECT_EQ(reader->length(), 4u);
+}
+
+TEST(VimeoUploadSessionDeathTest, StopsWithoutARemoteEnd) {
+    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
+    const auto upload = [] {
+        const auto session = VimeoUploadSession::init();
+        session->setRemoteSession(nullptr);
+        session->uploadPost(VimeoPost::init());
+    };
+    EXPECT_DEATH(upload(), "\\(_remoteSession\\).*\\[VimeoUploadSession uploadPost:error:\\].*"
+                           "Korvane/VimeoUploadSession.*53");
+}

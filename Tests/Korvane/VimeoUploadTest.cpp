@@ -1,0 +1,361 @@
+// Video uploads into the stand-in, which checks every signature and every range on its own.
+#include "Korvane/VimeoPost.h"
+#include "Platform/Accounts/ACAccount.h"
+#include "Platform/AssetsLibrary/ALAssetsLibrary.h"
+#include "Platform/Foundation/Dispatch.h"
+#include "Tests/Support/LogCapture.h"
+#include "Tests/Support/Printing.h"
+#include "Tests/Support/StandInAccount.h"
+#include "Tests/Support/WaitFor.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QRandomGenerator>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+
+using namespace korvane;
+using namespace korvane::test;
+
+namespace {
+
+class Delegate : public VimeoPostDelegate {
+public:
+    void vimeoPostUploadProgressDidChange(const std::shared_ptr<VimeoPost> &, float value) override {
+        EXPECT_EQ(QThread::currentThread(), QCoreApplication::instance()->thread());
+        progress.append(value);
+    }
+    void vimeoPostWarningDuringUpload(const std::shared_ptr<VimeoPost> &, qint64 code) override { warning = code; }
+    void vimeoPostUploadFailedWithError(const std::shared_ptr<VimeoPost> &, const NSError &reason) override {
+        error = reason;
+        ++ends;
+    }
+    void vimeoPostUploadSucceeded(const std::shared_ptr<VimeoPost> &) override { ++ends; }
+
+    QList<float> progress;
+    std::atomic<qint64> warning = 0;
+    std::optional<NSError> error;
+    std::atomic<int> ends = 0;
+};
+
+QByteArray variedBytes(qsizetype length) {
+    QByteArray bytes(length, Qt::Uninitialized);
+    QRandomGenerator(5).generate(bytes.begin(), bytes.end());
+    return bytes;
+}
+
+QString sha256(const QByteArray &bytes) {
+    return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
+}
+
+struct VimeoUpload : ::testing::Test {
+    TemporaryHome home;
+    StandInAccount services{home};
+    LogCapture log;
+    standin::StandIn &vimeo = services.server;
+    const QByteArray bytes = variedBytes(5'000'000);
+    std::shared_ptr<Delegate> delegate = std::make_shared<Delegate>();
+
+    std::shared_ptr<VimeoPost> post(const QByteArray &contents) {
+        const auto made = VimeoPost::init();
+        made->assetURL = NSURL::fileURLWithPath(home.file(QStringLiteral("ein film.mp4"), contents));
+        made->title = QStringLiteral("A & B = ü");
+        return made;
+    }
+
+    // The error that the delegate heard; fails the test unless it heard of one end.
+    std::optional<NSError> end(const std::shared_ptr<VimeoPost> &post) {
+        EXPECT_TRUE(waitFor([&] { return delegate->ends > 0; })) << post->uploadState();
+        EXPECT_EQ(delegate->ends, 1);
+        return delegate->error;
+    }
+    std::optional<NSError> upload(const std::shared_ptr<VimeoPost> &post) {
+        delegate = std::make_shared<Delegate>();
+        post->setDelegate(delegate);
+        EXPECT_TRUE(post->uploadToAccount(services.vimeoAccount));
+        return end(post);
+    }
+    std::optional<NSError> resume(const std::shared_ptr<VimeoPost> &post, const VimeoCheckpoint &checkpoint) {
+        delegate = std::make_shared<Delegate>();
+        post->setDelegate(delegate);
+        EXPECT_TRUE(post->resumeUploadToAccount(services.vimeoAccount, checkpoint));
+        return end(post);
+    }
+
+    QByteArrayList operations() const {
+        QByteArrayList names;
+        for (const auto &request : vimeo.requests())
+            names.append(request.operation);
+        return names;
+    }
+    static NSError postError(qint64 code) { return NSError(VimeoPublishPostErrorDomain, code); }
+};
+
+} // namespace
+
+TEST_F(VimeoUpload, SendsFiveMillionBytesInThreeChunksAndAllThatBelongsToThem) {
+    const auto video = post(bytes);
+    video->postDescription = QStringLiteral("Zeile\nzwei");
+    video->tags = QStringList{QStringLiteral("a"), QStringLiteral("b c")};
+    video->privacySettings = 5;
+    EXPECT_EQ(upload(video), std::nullopt);
+    EXPECT_EQ(delegate->progress, (QList<float>{0.0F, 0.0F, 1.0F}));
+    EXPECT_EQ(operations(),
+              (QByteArrayList{"getQuota", "getTicket", "chunk", "verify", "chunk", "verify", "chunk", "verify",
+                              "complete", "setTitle", "setDescription", "addTags", "setPrivacy"}));
+    EXPECT_EQ(vimeo.protocolErrors(), QStringList());
+    ASSERT_EQ(vimeo.videos().size(), 1u);
+    const standin::Video stored = vimeo.videos()[0];
+    ASSERT_EQ(stored.chunks.size(), 3u);
+    const std::optional<QByteArray> ranges[] = {std::nullopt, "bytes 2097152-4999999/5000000",
+                                                "bytes 4194304-4999999/5000000"};
+    const qint64 lengths[] = {2'097'152, 2'097'152, 805'696};
+    for (size_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(stored.chunks[i].contentRange, ranges[i]);
+        EXPECT_EQ(stored.chunks[i].length, lengths[i]);
+    }
+    EXPECT_EQ(QString::fromLatin1(stored.sha256), sha256(bytes));
+    EXPECT_EQ(stored.filename, home.path(QStringLiteral("ein film.mp4")));
+    EXPECT_EQ(stored.title, *video->title);
+    EXPECT_EQ(stored.description, *video->postDescription);
+    EXPECT_EQ(stored.tags, *video->tags);
+    EXPECT_EQ(stored.privacy, QStringLiteral("nobody"));
+    EXPECT_EQ(video->uploadState(), VimeoUploadStateSettingPrivacy);
+    EXPECT_TRUE(QFile::exists(home.path(QStringLiteral("ein film.mp4"))));
+}
+
+TEST_F(VimeoUpload, LeavesOutWhatThePostDoesNotHave) {
+    const auto video = post(bytes.left(10));
+    EXPECT_EQ(upload(video), std::nullopt);
+    EXPECT_EQ(operations().mid(4), (QByteArrayList{"complete", "setTitle", "setPrivacy"}));
+    EXPECT_EQ(vimeo.videos()[0].privacy, QStringLiteral("anybody"));
+
+    const auto data = VimeoPost::init();
+    data->assetData = NSData(bytes);
+    data->title = QString();
+    data->tags = QStringList();
+    EXPECT_EQ(upload(data), std::nullopt);
+    EXPECT_EQ(vimeo.videos()[1].filename, QStringLiteral("video.mp4"));
+    EXPECT_EQ(QString::fromLatin1(vimeo.videos()[1].sha256), sha256(bytes));
+    EXPECT_TRUE(operations().contains("addTags"));
+    EXPECT_EQ(vimeo.protocolErrors(), QStringList());
+}
+
+TEST_F(VimeoUpload, SaysAtOnceWhatItCannotStart) {
+    const auto refused = [&](const std::shared_ptr<VimeoPost> &video, const std::shared_ptr<ACAccount> &account) {
+        video->setDelegate(delegate);
+        std::optional<NSError> error;
+        EXPECT_FALSE(video->uploadToAccount(account));
+        EXPECT_FALSE(video->uploadToAccount(account, &error));
+        return error.value_or(postError(0));
+    };
+    const auto untitled = post(bytes);
+    untitled->title.reset();
+    EXPECT_EQ(refused(untitled, services.vimeoAccount), postError(VimeoPostErrorMissingAccountOrTitle));
+    EXPECT_EQ(refused(post(bytes), nullptr), postError(VimeoPostErrorMissingAccountOrTitle));
+    const auto nothing = VimeoPost::init();
+    nothing->title = QString();
+    EXPECT_EQ(refused(nothing, services.vimeoAccount), postError(VimeoPostErrorUnsupportedAsset));
+    nothing->assetURL = NSURL::URLWithString(QStringLiteral("https://elsewhere/a.mp4"));
+    EXPECT_EQ(refused(nothing, services.vimeoAccount), postError(VimeoPostErrorUnsupportedAsset));
+    EXPECT_EQ(log.lines().last(), QStringLiteral("Unsupported scheme for asset URL https://elsewhere/a.mp4"));
+    nothing->assetURL = NSURL::fileURLWithPath("/nowhere/a.mp4");
+    EXPECT_EQ(refused(nothing, services.vimeoAccount).domain(), NSPOSIXErrorDomain);
+    EXPECT_EQ(vimeo.requests().size(), 0u);
+    EXPECT_EQ(delegate->ends, 0);
+}
+
+TEST_F(VimeoUpload, AsksForTheQuotaBeforeAnythingElse) {
+    const qint64 size = 1000;
+    struct Case {
+        standin::Quota quota;
+        qint64 videoSize;
+        std::optional<NSError> error;
+        qint64 warning;
+    };
+    const Case cases[] = {
+        {{.free = size, .hd = true, .sd = true}, VimeoVideoSizeLarge, std::nullopt, 0},
+        {{.free = size - 1, .hd = true, .sd = true}, 0, postError(VimeoPostErrorQuotaExceeded), 0},
+        {{.free = -1, .hd = true, .sd = true}, 0, std::nullopt, 0}, // unsigned: huge
+        {{.free = size, .hd = true, .sd = false}, 0, postError(VimeoPostErrorNoSDQuota), 0},
+        {{.free = size, .hd = false, .sd = true}, VimeoVideoSizeLarge, std::nullopt, VimeoPostWarningNoHDQuota},
+        {{.free = size, .hd = false, .sd = true}, VimeoVideoSizeMedium, std::nullopt, 0},
+    };
+    for (const Case &test : cases) {
+        vimeo.quota(test.quota);
+        const auto video = post(bytes.left(size));
+        video->videoSize = test.videoSize;
+        EXPECT_EQ(upload(video), test.error) << test.quota.free;
+        EXPECT_EQ(delegate->warning, test.warning);
+    }
+    vimeo.on("getQuota").answer(200, "application/json", R"({"stat":"ok"})");
+    EXPECT_EQ(upload(post(bytes)), postError(VimeoPostErrorQuotaExceeded)) << "no user means no space";
+}
+
+TEST_F(VimeoUpload, GoesOnFromWhatTheEndpointHasStored) {
+    vimeo.on("chunk").storeOnly(1'000'000);
+    vimeo.on("verify").thenOk(2).reportRange(std::nullopt).thenOk();
+    EXPECT_EQ(upload(post(bytes)), std::nullopt);
+    const auto stored = vimeo.videos()[0];
+    std::vector<std::optional<QByteArray>> ranges;
+    for (const auto &chunk : stored.chunks)
+        ranges.push_back(chunk.contentRange);
+    EXPECT_EQ(ranges,
+              (std::vector<std::optional<QByteArray>>{
+                  std::nullopt, "bytes 1000000-4999999/5000000", "bytes 3097152-4999999/5000000",
+                  "bytes 0-4999999/5000000", "bytes 2097152-4999999/5000000", "bytes 4194304-4999999/5000000"}));
+    EXPECT_EQ(QString::fromLatin1(stored.sha256), sha256(bytes));
+}
+
+TEST_F(VimeoUpload, ReadsTheStoredCountInEveryForm) {
+    // What is reported after the first chunk, and where the second begins.
+    const std::pair<const char *, const char *> cases[] = {
+        {"bytes=0-2097152", "bytes 2097152-"},
+        {"0-2097152", "bytes 2097152-"},
+        {"x-5y-7", "bytes 5-"},
+        {"2097152", "bytes 0-"},
+        {"0-", "bytes 0-"},
+        {"-  12", "bytes 12-"},
+    };
+    size_t count = 0;
+    for (const auto &[range, next] : cases) {
+        vimeo.on("verify").reportRange(range).thenOk();
+        EXPECT_EQ(upload(post(bytes.left(2'500'000))), std::nullopt);
+        const auto chunks = vimeo.videos().at(count++).chunks;
+        EXPECT_TRUE(chunks.at(1).contentRange->startsWith(next))
+            << range << ' ' << chunks[1].contentRange->toStdString();
+    }
+}
+
+TEST_F(VimeoUpload, EndsWithTheErrorOfTheStepThatFailed) {
+    struct Case {
+        const char *operation;
+        std::optional<QByteArray> body; // none: the connection breaks
+        NSError error;
+        VimeoUploadState state;
+    };
+    const NSError lost(NSURLErrorDomain, NSURLErrorNetworkConnectionLost);
+    const Case cases[] = {
+        {"getQuota", std::nullopt, lost, VimeoUploadStateCheckingQuota},
+        {"getTicket", std::nullopt, postError(VimeoPostErrorEmptyResponse), VimeoUploadStateGettingTicket},
+        {"getTicket", R"({"err":{"code":"401"}})", postError(VimeoPostErrorServiceCode401),
+         VimeoUploadStateGettingTicket},
+        {"chunk", std::nullopt, lost, VimeoUploadStateUploadingChunk},
+        {"verify", std::nullopt, postError(VimeoPostErrorBadResponse), VimeoUploadStateVerifyingChunk},
+        {"complete", std::nullopt, lost, VimeoUploadStateCommitting},
+        {"complete", R"({"err":{"code":708}})", postError(VimeoPostErrorServiceCode708), VimeoUploadStateCommitting},
+        {"setTitle", "[]", postError(VimeoPostErrorBadResponse), VimeoUploadStateSettingTitle},
+        {"addTags", "", postError(VimeoPostErrorEmptyResponse), VimeoUploadStateAddingTags},
+        {"setPrivacy", "x", postError(VimeoPostErrorBadResponse), VimeoUploadStateSettingPrivacy},
+    };
+    for (const Case &test : cases) {
+        SCOPED_TRACE(test.operation);
+        vimeo.clearFaults();
+        if (test.body)
+            vimeo.on(test.operation).answer(200, "application/json", *test.body);
+        else
+            vimeo.on(test.operation).dropBeforeAnswer();
+        const auto video = post(bytes.left(3000));
+        video->tags = QStringList{QStringLiteral("a")};
+        const auto error = upload(video).value_or(postError(0));
+        EXPECT_EQ(error.domain(), test.error.domain());
+        EXPECT_EQ(error.code(), test.error.code());
+        EXPECT_EQ(video->uploadState(), test.state);
+        EXPECT_TRUE(log.lines().join(u'\n').contains(QStringLiteral("Vimeo error: ")));
+    }
+    vimeo.clearFaults();
+    vimeo.on("setDescription").fail(500);
+    const auto described = post(bytes.left(3000));
+    described->postDescription = QStringLiteral("x");
+    EXPECT_EQ(upload(described), std::nullopt) << "a failed description is no failure";
+    EXPECT_EQ(vimeo.videos().back().commits(), 1);
+}
+
+TEST_F(VimeoUpload, ResumesWhereAnEarlierUploadGotTo) {
+    VimeoCheckpoint reached;
+    vimeo.on("chunk").thenOk().dropAfterBytes(1'000'000);
+    const auto first = post(bytes);
+    first->checkpointChanged = [&](const VimeoCheckpoint &checkpoint, const std::function<void()> &proceed) {
+        reached = checkpoint;
+        proceed();
+    };
+    EXPECT_TRUE(upload(first).has_value());
+    EXPECT_EQ(reached.bytesStored, 2'097'152u);
+    EXPECT_FALSE(reached.commitSent);
+
+    EXPECT_EQ(resume(post(bytes), reached), std::nullopt);
+    ASSERT_EQ(vimeo.videos().size(), 1u);
+    EXPECT_EQ(vimeo.videos()[0].chunks.at(2).start, 3'097'152) << "with the bytes of the broken chunk";
+    EXPECT_EQ(QString::fromLatin1(vimeo.videos()[0].sha256), sha256(bytes));
+
+    reached.videoID = QString::number(vimeo.videos()[0].id);
+    const size_t before = vimeo.requests().size();
+    EXPECT_EQ(resume(post(bytes), reached), std::nullopt);
+    EXPECT_EQ(operations().mid(qsizetype(before)), (QByteArrayList{"setTitle", "setPrivacy"}));
+
+    reached.videoID = {};
+    EXPECT_EQ(resume(post(bytes), reached), std::nullopt) << "the ticket is used up, so there is a new one";
+    EXPECT_EQ(vimeo.videos().size(), 2u);
+    EXPECT_EQ(QString::fromLatin1(vimeo.videos()[1].sha256), sha256(bytes));
+}
+
+TEST_F(VimeoUpload, WaitsWithTheCommitUntilItIsRecorded) {
+    std::function<void()> proceedWithCommit;
+    const auto video = post(bytes.left(3000));
+    video->checkpointChanged = [&](const VimeoCheckpoint &checkpoint, const std::function<void()> &proceed) {
+        if (checkpoint.commitSent && !proceedWithCommit)
+            proceedWithCommit = proceed;
+        else
+            proceed();
+    };
+    delegate = std::make_shared<Delegate>();
+    video->setDelegate(delegate);
+    ASSERT_TRUE(video->uploadToAccount(services.vimeoAccount));
+    ASSERT_TRUE(waitFor([&] { return proceedWithCommit != nullptr; }));
+    EXPECT_FALSE(waitFor([&] { return operations().contains("complete"); }, 200));
+    proceedWithCommit();
+    EXPECT_EQ(end(video), std::nullopt);
+    EXPECT_FALSE(video->checkpoint().commitSent);
+    EXPECT_EQ(video->checkpoint().videoID.toLongLong(), vimeo.videos()[0].id);
+    video->checkpointChanged = nullptr;
+}
+
+TEST_F(VimeoUpload, EndsWithAnErrorWhenTheFileShrinksOrTheJobIsCancelled) {
+    const auto shrinking = post(bytes);
+    shrinking->checkpointChanged = [&](const VimeoCheckpoint &checkpoint, const std::function<void()> &proceed) {
+        if (checkpoint.bytesStored > 0) QFile::resize(home.path(QStringLiteral("ein film.mp4")), 2'500'000);
+        proceed();
+    };
+    const auto result = upload(shrinking);
+    shrinking->checkpointChanged = nullptr;
+    EXPECT_EQ(vimeo.videos()[0].sha256, QByteArray()) << "half a video was committed";
+    EXPECT_TRUE(result.has_value());
+
+    services.vimeoAccount->setUploadContext(std::make_shared<UploadContext>());
+    vimeo.on("verify").hang();
+    const auto cancelled = post(bytes);
+    delegate = std::make_shared<Delegate>();
+    cancelled->setDelegate(delegate);
+    ASSERT_TRUE(cancelled->uploadToAccount(services.vimeoAccount));
+    ASSERT_TRUE(waitFor([&] { return cancelled->uploadState() == VimeoUploadStateVerifyingChunk; }));
+    services.vimeoAccount->uploadContext()->cancel();
+    EXPECT_EQ(end(cancelled), postError(VimeoPostErrorBadResponse));
+    EXPECT_EQ(services.vimeoAccount->uploadContext()->snapshot().transportError->code(), NSURLErrorCancelled);
+}
+
+TEST(VimeoUploadDeathTest, StopsOnAnEmptyVideo) {
+    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
+    const auto uploadNothing = [] {
+        TemporaryHome home;
+        StandInAccount services(home);
+        const auto video = VimeoPost::init();
+        video->assetData = NSData(QByteArray());
+        video->title = QString();
+        video->uploadToAccount(services.vimeoAccount);
+        waitFor([] { return false; });
+    };
+    EXPECT_DEATH(uploadNothing(), "Got chunk size of 0. fileSize = 0, starting byte = 0\n"
+                                  "(.*\n)*.*\\(chunkSize > 0\\).*\\[VimeoPost _uploadData\\].*Korvane/VimeoPost.*381");
+}
