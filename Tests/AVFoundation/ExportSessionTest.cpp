@@ -1,10 +1,14 @@
 // Exports of real videos with the real ffmpeg.
 #include "Platform/AVFoundation/AVError.h"
 #include "Platform/AssetsLibrary/ALAssetsLibrary.h"
+#include "Platform/MobileCoreServices/UTType.h"
 #include "Tests/AVFoundation/VideoFixture.h"
 #include "Tests/Support/Printing.h"
+#include "Tests/Support/WaitFor.h"
 
 #include <QFileInfo>
+
+#include <atomic>
 
 namespace korvane::test {
 namespace {
@@ -125,6 +129,50 @@ TEST_F(VideoExport, SaysWhatIsWrongWithASourceThatCannotBeUsed) {
     for (const char *url : {"assets-library://asset/asset.MP4?id=videos%2Fgone.mp4&ext=MP4", "assets-library://x",
                             "http://127.0.0.1:9/a.mp4"})
         EXPECT_EQ(errorFor(*NSURL::URLWithString(QString::fromLatin1(url))).code(), AVErrorContentIsUnavailable) << url;
+}
+
+TEST_F(VideoExport, AreMadeFromAssetsOfManyKinds) {
+    const std::pair<const char *, const char *> table[] = {
+        {"usual.mov", "-c:v mpeg4"},
+        {"usual.mkv", "-c:v mpeg4"},
+        {"usual.webm", "-map 0 -c:v libvpx -deadline realtime -cpu-used 8"},
+        {"old.wmv", "-c:v wmv2 -c:a wmav2"},
+        {"old.avi", "-c:v mjpeg"},
+        {"recorded.mts", "-c:v mpeg2video -f mpegts"},
+        {"camera.mp4", "-c:v mpeg4 -brand XAVC"},
+        {"cut.mp4", "-c:v mpeg4 -brand iso5"},
+    };
+    for (const auto &[name, arguments] : table) {
+        SCOPED_TRACE(name);
+        const QByteArray path = makeVideo(QString::fromLatin1(name),
+                                          QString::fromLatin1(arguments) + QStringLiteral(" -frames:v 5 -t 0.2"));
+        std::shared_ptr<ALAsset> asset;
+        std::atomic<bool> answered = false;
+        ALAssetsLibrary().assetForURL(
+            *ALAssetsLibrary::assetURLForFile(path),
+            [&](const std::shared_ptr<ALAsset> &found) {
+                asset = found;
+                answered = true;
+            },
+            [&](const NSError &) { answered = true; });
+        ASSERT_TRUE(waitFor([&] { return answered.load(); }));
+        ASSERT_TRUE(asset);
+        QFile file(QFile::decodeName(path));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const auto representation = asset->defaultRepresentation();
+        EXPECT_TRUE(UTTypeConformsTo(representation->UTI(), kUTTypeMovie));
+        EXPECT_EQ(representation->filename(), QString::fromLatin1(name));
+        EXPECT_EQ(representation->size(), file.size());
+        QByteArray part(100, '\0');
+        EXPECT_EQ(representation->getBytes(part.data(), 500, 100), 100);
+        EXPECT_EQ(part, file.readAll().mid(500, 100));
+        const auto session = ALAssetsLibrary::_exportSessionForVideoURL(asset->url(), {}, low);
+        session->setOutputFileType(AVFileTypeMPEG4);
+        session->setOutputURL(NSURL::fileURLWithPath(output));
+        runToEnd(session);
+        EXPECT_EQ(session->error(), std::nullopt);
+        EXPECT_TRUE(streamsOf(output).startsWith(QStringLiteral("h264 320x240 yuv420p")));
+    }
 }
 
 TEST_F(VideoExport, FindsVideosOfTheLibraryAndTheFallback) {

@@ -60,6 +60,10 @@ TEST_F(ExportProgram, FailsTheExportWithAClearErrorAndLeavesNoFile) {
          "Free some space"},
         {"ffmpeg", "ulimit -f 1; head -c 100000 /dev/zero > $out; exec head -c 100000 /dev/zero > $out",
          AVErrorDiskFull, "Free some space"},
+        {"ffmpeg",
+         "echo made > $out; echo out_time_us=10000000; echo more >> " +
+             QFile::encodeName(home.path(QStringLiteral("clip.mp4"))),
+         AVErrorContentIsUnavailable, "was changed"},
         {"ffmpeg", "echo \"Unknown encoder 'libx264'\" >&2; exit 1", AVErrorEncoderNotFound, "libx264"},
         {"ffprobe", "exec sleep 1000", AVErrorExportFailed, "took too long"},
         {"ffprobe", "kill -9 $$", AVErrorExportFailed, "stopped by signal 9"},

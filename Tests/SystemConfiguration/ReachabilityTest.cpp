@@ -1,14 +1,20 @@
 // Whether the default route is a cellular one: by the kernel's tables, and by the desktop's network service.
-#include "Platform/SystemConfiguration/NetworkRoute.h"
 #include "Platform/SystemConfiguration/SCNetworkReachability.h"
+#include "Tests/SystemConfiguration/FakeNetworkManager.h"
+#include "Tests/TestBus.h"
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
+#include <QNetworkInformation>
 #include <QTemporaryDir>
 
 #include <netinet/in.h>
+
+#include <thread>
 
 namespace korvane {
 namespace {
@@ -81,6 +87,28 @@ TEST(Reachability, KnowsAModemByTheRoutesDevice) {
     const sockaddr_in loopback = address4(INADDR_LOOPBACK);
     EXPECT_EQ(SCNetworkReachabilityCreateWithAddress(reinterpret_cast<const sockaddr *>(&loopback)), nullptr);
     EXPECT_EQ(SCNetworkReachabilityCreateWithAddress(nullptr), nullptr);
+}
+
+TEST(Reachability, BelievesTheNetworkServiceBeforeTheDevicesName) {
+    if (QNetworkInformation::instance()) GTEST_SKIP() << "the network service was asked before, on another bus";
+    TestBus bus;
+    ASSERT_TRUE(bus.start(QStringLiteral("network-manager")));
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", bus.address());
+    FakeNetworkService service(bus.connection(), {FakeNetworkService::modem, FakeNetworkService::wifi});
+    ASSERT_TRUE(bus.waitForName(QStringLiteral("org.freedesktop.NetworkManager")));
+
+    const auto becomes = [](bool expected) {
+        for (const QDeadlineTimer deadline(10'000); !deadline.hasExpired() && isDefaultRouteCellular() != expected;)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        bool onOtherThread = !expected;
+        std::thread([&] { onOtherThread = isDefaultRouteCellular(); }).join();
+        return isDefaultRouteCellular() == expected && onOtherThread == expected;
+    };
+    EXPECT_TRUE(becomes(true));
+    service.setPrimaryConnection(1);
+    EXPECT_TRUE(becomes(false));
+    service.setPrimaryConnection(0);
+    EXPECT_TRUE(becomes(true));
 }
 
 } // namespace
