@@ -1,4 +1,5 @@
 // Speed and memory of the way of a photo, each against a reference measured in the same run.
+#include "Benchmarks/ExportBenchmark.h"
 #include "Benchmarks/Measure.h"
 #include "Platform/Preferences/CFPreferences.h"
 #include "Platform/Social/OAuthSigner.h"
@@ -254,8 +255,11 @@ void longQueue() {
 
 int main(int argc, char **argv) {
     QCoreApplication application(argc, argv);
-    const std::map<std::string, std::function<void()>> benchmarks{
-        {"hand-over", handOver}, {"long-queue", longQueue}, {"one-stream", oneStream}, {"side-by-side", sideBySide}};
+    const std::map<std::string, std::function<void()>> benchmarks{{"export", [] { check(exportVideos()); }},
+                                                                  {"hand-over", handOver},
+                                                                  {"long-queue", longQueue},
+                                                                  {"one-stream", oneStream},
+                                                                  {"side-by-side", sideBySide}};
     if (argc > 1 && !benchmarks.contains(argv[1])) {
         fprintf(stderr, "There is no benchmark %s.\n", argv[1]);
         return 2;

@@ -84,37 +84,21 @@ ExportPlan::ExportPlan(const MediaInfo &info, const std::optional<QString> &pres
 QByteArrayList ExportPlan::arguments() const {
     const auto number = [](qint64 value) { return QByteArray::number(value); };
     QByteArrayList arguments{"-map", "0:" + number(_info.video.index)};
-    if (_info.sound)
-        arguments << "-map"
-                  << "0:" + number(_info.sound->index);
+    if (_info.sound) arguments += {"-map", "0:" + number(_info.sound->index)};
     if (_copiesVideo) {
-        arguments << "-c:v"
-                  << "copy";
+        arguments += {"-c:v", "copy"};
     } else {
-        QByteArray filter = "scale=" + number(_size.width()) + ':' + number(_size.height());
-        if (_info.video.squarePixels) filter += ",setsar=1";
-        arguments << "-vf" << filter << "-c:v"
-                  << "libx264"
-                  << "-preset"
-                  << "veryfast"
-                  << "-pix_fmt"
-                  << "yuv420p"
-                  << "-b:v" << number(_videoRate) << "-maxrate" << number(_videoRate * 3 / 2) << "-bufsize"
-                  << number(_videoRate * 3);
+        const QByteArray scale = "scale=" + number(_size.width()) + ':' + number(_size.height());
+        const QByteArray peak = number(_videoRate * 3 / 2); // held over a second
+        arguments += {"-vf", _info.video.squarePixels ? scale + ",setsar=1" : scale};
+        arguments += {"-c:v", "libx264", "-preset", "veryfast", "-pix_fmt", "yuv420p"};
+        arguments += {"-b:v", number(_videoRate), "-maxrate", peak, "-bufsize", peak};
     }
     if (_copiesSound)
-        arguments << "-c:a"
-                  << "copy";
+        arguments += {"-c:a", "copy"};
     else if (_info.sound)
-        arguments << "-c:a"
-                  << "aac"
-                  << "-b:a" << number(_soundRate) << "-ac" << number(std::min(2, _info.sound->channels));
-    return arguments << "-max_muxing_queue_size"
-                     << "4096"
-                     << "-movflags"
-                     << "+faststart"
-                     << "-f"
-                     << "mp4";
+        arguments += {"-c:a", "aac", "-b:a", number(_soundRate), "-ac", number(std::min(2, _info.sound->channels))};
+    return arguments += {"-max_muxing_queue_size", "4096", "-movflags", "+faststart", "-f", "mp4"};
 }
 
 qint64 ExportPlan::estimatedLength() const {

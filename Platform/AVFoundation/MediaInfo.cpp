@@ -65,7 +65,8 @@ double longest(const QJsonObject &format, const QList<QJsonObject> &streams) {
     return seconds;
 }
 
-std::optional<MediaInfo> infoIn(const QJsonObject &answer) {
+// Without pictures and sound where there are none that can be used.
+MediaInfo infoIn(const QJsonObject &answer) {
     MediaInfo info;
     QList<QJsonObject> chosen;
     for (const QJsonValue &value : answer.value(QLatin1String("streams")).toArray()) {
@@ -83,7 +84,6 @@ std::optional<MediaInfo> infoIn(const QJsonObject &answer) {
             chosen.append(stream);
         }
     }
-    if (!isUsable(info.video)) return std::nullopt;
     const double seconds = longest(answer.value(QLatin1String("format")).toObject(), chosen);
     info.microseconds = qint64(std::clamp(seconds, 0.0, 1e9) * 1e6);
     return info;
@@ -116,10 +116,12 @@ std::optional<MediaInfo> MediaInfo::ofAsset(const AVAsset &asset, std::chrono::m
     probe.setCancellation(cancellation);
     std::optional<NSError> reason;
     const auto result = probe.run(&reason);
-    if (result && result->ending == ChildProcess::Exited && result->status != 0)
+    const auto notRecognized = [&] {
         return fail(AVErrorFileFormatNotRecognized,
                     QStringLiteral("“%1” is not a video that can be read: it is damaged, incomplete or of an unknown "
                                    "format. Check that it plays, or choose another file."));
+    };
+    if (result && result->ending == ChildProcess::Exited && result->status != 0) return notRecognized();
     if (!result || !result->succeeded()) {
         setError(error, MediaProgram::failure(asset, result, reason));
         return std::nullopt;
@@ -128,15 +130,16 @@ std::optional<MediaInfo> MediaInfo::ofAsset(const AVAsset &asset, std::chrono::m
     if (!answer.contains(QLatin1String("format")))
         return fail(AVErrorExportFailed, QStringLiteral("The answer of ffprobe about “%1” is not understood. Check the "
                                                         "package “ffmpeg”."));
-    auto info = infoIn(answer);
-    if (!info)
+    MediaInfo info = infoIn(answer);
+    if (!isUsable(info.video) && !info.sound) return notRecognized();
+    if (!isUsable(info.video))
         return fail(AVErrorInvalidSourceMedia,
                     QStringLiteral("There are no pictures in “%1”. Choose a file with a video in it."));
     // A file that does not say how long it is leaves the key out.
-    if (info->microseconds == 0 && answer.value(QLatin1String("format")).toObject().contains(QLatin1String("duration")))
+    if (info.microseconds == 0 && answer.value(QLatin1String("format")).toObject().contains(QLatin1String("duration")))
         return fail(AVErrorInvalidSourceMedia, QStringLiteral("“%1” is 0 seconds long. Choose another file."));
-    info->fileBytes = asset.file->length();
-    deduceBitRate(*info);
+    info.fileBytes = asset.file->length();
+    deduceBitRate(info);
     return info;
 }
 

@@ -48,11 +48,21 @@ constexpr std::array knownTypes = {
     KnownType{"video/x-msvideo", "public.avi", "public.movie"},
     KnownType{"video/webm", "org.webmproject.webm", "public.movie"},
     KnownType{"application/x-matroska", "public.movie", "public.item"}, // as far as the first bytes tell
+    KnownType{"application/vnd.ms-asf", "public.movie", "public.item"},
+    KnownType{"application/mxf", "public.movie", "public.item"},
     KnownType{"", "public.image", "public.item"},
     KnownType{"", "public.movie", "public.item"},
 };
 
 constexpr qint64 tellingBytes = 4096;
+
+// Cameras write MP4 under brands that the MIME database does not know.
+bool hasVideoBrand(const QByteArray &start) {
+    constexpr std::array brands = {"iso", "avc1", "XAVC", "MSNV", "dash", "cmf", "F4V", "CAEP", "niko", "pana", "mqt"};
+    const QByteArray brand = start.mid(8, 4);
+    return start.mid(4, 4) == "ftyp" &&
+           std::any_of(brands.begin(), brands.end(), [&](const char *one) { return brand.startsWith(one); });
+}
 
 } // namespace
 
@@ -76,7 +86,10 @@ QString typeIdentifierForMimeType(const QString &mimeType) {
 }
 
 QString typeIdentifierForData(const NSData &data) {
-    return typeIdentifierForMimeType(QMimeDatabase().mimeTypeForData(data.subdata(0, tellingBytes).bytes()).name());
+    const QByteArray start = data.subdata(0, tellingBytes).bytes();
+    const QString mimeType = QMimeDatabase().mimeTypeForData(start).name();
+    if (mimeType == QLatin1String("application/octet-stream") && hasVideoBrand(start)) return kUTTypeMPEG4;
+    return typeIdentifierForMimeType(mimeType);
 }
 
 } // namespace korvane

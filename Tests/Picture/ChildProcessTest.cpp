@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <csignal>
@@ -70,6 +71,43 @@ TEST(ChildProcess, ReportsHowItEnded) {
     }
     EXPECT_EQ(shell("echo first >&2; echo last >&2; exit 1").run()->description(),
               QStringLiteral("exit status 1: last"));
+}
+
+TEST(ChildProcess, HandsOverItsOutputAndEndsWhenItsWatcherSaysSo) {
+    ChildProcess talker = shell("seq 1 20000; exec >&-; echo gone >&2; exit 3");
+    QByteArray output;
+    const auto thread = std::this_thread::get_id();
+    talker.setOutputHandler([&](const QByteArray &piece) {
+        output += piece;
+        EXPECT_EQ(std::this_thread::get_id(), thread);
+    });
+    const auto result = talker.run();
+    EXPECT_EQ(result->status, 3);
+    EXPECT_EQ(result->standardError, "gone\n");
+    EXPECT_EQ(output.split('\n').size(), 20'001);
+    EXPECT_TRUE(output.endsWith("\n20000\n"));
+
+    // One that never pauses, and one that never says a word.
+    for (const char *script : {"exec cat /dev/zero", "exec sleep 1000"}) {
+        ChildProcess child = shell(script);
+        child.setOutputHandler([](const QByteArray &) {});
+        int asked = 0;
+        child.setWatch(5ms, [&] { return ++asked < 10; });
+        EXPECT_EQ(child.run()->ending, ChildProcess::TimedOut) << script;
+        EXPECT_EQ(asked, 10);
+    }
+}
+
+TEST(ChildProcess, StandsBackWhereItIsToldTo) {
+    ChildProcess child = shell("exec nice");
+    QByteArray output;
+    child.setOutputHandler([&](const QByteArray &piece) { output += piece; });
+    child.run();
+    const int usual = output.trimmed().toInt();
+    output.clear();
+    child.setNiceness(3);
+    child.run();
+    EXPECT_EQ(output.trimmed().toInt(), std::min(19, usual + 3));
 }
 
 TEST(ChildProcess, GetsItsInputOutputAndEnvironment) {

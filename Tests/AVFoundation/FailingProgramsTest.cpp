@@ -1,0 +1,178 @@
+// Exports with programs that fail, hang or talk nonsense in place of ffmpeg and ffprobe.
+#include "Platform/AVFoundation/AVError.h"
+#include "Tests/AVFoundation/VideoFixture.h"
+#include "Tests/Support/Printing.h"
+#include "Tests/Support/WaitFor.h"
+
+#include <QElapsedTimer>
+#include <QFileInfo>
+
+#include <csignal>
+
+namespace korvane::test {
+namespace {
+
+using namespace std::chrono_literals;
+
+class ExportProgram : public VideoTest {
+protected:
+    ExportProgram() { replaceProgram("ffprobe", "echo '" + answer() + "'"); }
+    static QByteArray answer(const QByteArray &duration = "10.0") {
+        return R"({"streams": [{"index": 0, "codec_type": "video", "codec_name": "h264", "pix_fmt": "yuv420p",)"
+               R"("width": 320, "height": 240, "disposition": {"attached_pic": 0}}], "format": {"duration": ")" +
+               duration + "\"}}";
+    }
+
+    std::shared_ptr<AVAssetExportSession> makeSession() const {
+        auto session = sessionFor(home.file(QStringLiteral("clip.mp4"), "seen by scripts only"));
+        session->setStallLimit(stallLimit);
+        return session;
+    }
+    bool hasOutput() const { return QFileInfo::exists(QFile::decodeName(output)); }
+
+    std::chrono::milliseconds stallLimit = 30s;
+
+    // The child that wrote its number to that file; 0 if none did.
+    int childIn(const QString &name) const {
+        QFile file(home.path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toInt() : 0;
+    }
+};
+
+TEST_F(ExportProgram, FailsTheExportWithAClearErrorAndLeavesNoFile) {
+    const struct {
+        const char *program;
+        QByteArray script;
+        AVErrorCode code;
+        const char *text;
+    } table[] = {
+        {"ffmpeg", "echo half > $out; exec sleep 1000", AVErrorExportFailed, "took too long"},
+        {"ffmpeg", "while :; do echo out_time_us=7; done", AVErrorExportFailed, "took too long"},
+        {"ffmpeg", "echo half > $out; kill -SEGV $$", AVErrorExportFailed, "stopped by signal 11"},
+        {"ffmpeg", "exec cat /dev/urandom", AVErrorExportFailed, "not understood"},
+        {"ffmpeg", "exec cat /dev/zero", AVErrorExportFailed, "not understood"},
+        {"ffmpeg", "echo out_time_us=soon; exec sleep 1000", AVErrorExportFailed, "not understood"},
+        {"ffmpeg", "echo half > $out; echo progress=end; echo 'clip: corrupt input' >&2; exit 1",
+         AVErrorFileFailedToParse, "damaged or incomplete"},
+        {"ffmpeg", "echo out_time_us=10000000; echo progress=end", AVErrorFileFailedToParse, "ends too early"},
+        {"ffmpeg", "echo half > $out; echo out_time_us=5000000", AVErrorFileFailedToParse, "ends too early"},
+        {"ffmpeg", "echo half > $out; echo Error writing trailer: No space left on device >&2; exit 1", AVErrorDiskFull,
+         "Free some space"},
+        {"ffmpeg", "ulimit -f 1; head -c 100000 /dev/zero > $out; exec head -c 100000 /dev/zero > $out",
+         AVErrorDiskFull, "Free some space"},
+        {"ffmpeg",
+         "echo made > $out; echo out_time_us=10000000; echo more >> " +
+             QFile::encodeName(home.path(QStringLiteral("clip.mp4"))),
+         AVErrorContentIsUnavailable, "was changed"},
+        {"ffmpeg", "echo \"Unknown encoder 'libx264'\" >&2; exit 1", AVErrorEncoderNotFound, "libx264"},
+        {"ffprobe", "exec sleep 1000", AVErrorExportFailed, "took too long"},
+        {"ffprobe", "kill -9 $$", AVErrorExportFailed, "stopped by signal 9"},
+        {"ffprobe", "exec cat /dev/zero", AVErrorExportFailed, "broke off"},
+        {"ffprobe", "echo '[1, 2]'", AVErrorExportFailed, "not understood"},
+        {"ffprobe", "echo '{\"format\": 7, \"streams\": {\"a\": [-1]}}'", AVErrorFileFormatNotRecognized,
+         "is not a video"},
+        {"ffprobe", "echo '" + answer("0.000000") + "'", AVErrorInvalidSourceMedia, "0 seconds"},
+    };
+    for (const auto &[program, script, code, text] : table) {
+        SCOPED_TRACE(script.constData());
+        replaceProgram("ffmpeg", "exit 99");
+        replaceProgram("ffprobe", "echo '" + answer() + "'");
+        replaceProgram(program, script);
+        stallLimit = QLatin1String(text) == QLatin1String("took too long") ? 300ms : 30s;
+        const auto session = makeSession();
+        runToEnd(session);
+        EXPECT_EQ(session->status(), AVAssetExportSessionStatusFailed);
+        ASSERT_TRUE(session->error());
+        EXPECT_EQ(session->error()->domain(), AVFoundationErrorDomain);
+        EXPECT_EQ(session->error()->code(), code) << qPrintable(session->error()->description());
+        EXPECT_TRUE(session->error()->localizedDescription().contains(QLatin1String(text)))
+            << qPrintable(session->error()->description());
+        EXPECT_FALSE(hasOutput());
+    }
+    for (const char *variable : {"KORVANE_FFMPEG", "KORVANE_FFPROBE"}) {
+        replaceProgram("ffprobe", "echo '" + answer() + "'");
+        home.setEnvironment(variable, "/no/such/program");
+        const auto session = makeSession();
+        runToEnd(session);
+        EXPECT_EQ(session->error()->code(), AVErrorEncoderNotFound);
+        EXPECT_TRUE(session->error()->localizedDescription().contains(QStringLiteral("package “ffmpeg”")));
+    }
+}
+
+TEST_F(ExportProgram, IsNotGivenUpWhileItsFileChanges) {
+    replaceProgram("ffmpeg",
+                   "echo out_time_us=9900000; for i in 1 2 3 4 5 6 7 8 9 10; do sleep 0.1; echo $i >> $out; done");
+    stallLimit = 700ms;
+    const auto session = makeSession();
+    runToEnd(session);
+    EXPECT_EQ(session->error(), std::nullopt);
+}
+
+TEST_F(ExportProgram, TellsHowFarItIs) {
+    const QByteArray go = QFile::encodeName(home.path(QStringLiteral("go")));
+    replaceProgram("ffmpeg", "echo made > $out; printf 'frame=1\nout_time_us=N/A\nout_time_'; echo us=2500000; "
+                             "until [ -e " +
+                                 go + " ]; do echo again >> $out; sleep 0.01; done; echo out_time_us=10000000");
+    const auto session = makeSession();
+    EXPECT_EQ(session->progress(), 0);
+    std::atomic<bool> ended = false;
+    session->exportAsynchronouslyWithCompletionHandler([&] { ended = true; });
+    EXPECT_TRUE(waitFor([&] { return session->progress() == 0.25F; }));
+    EXPECT_EQ(session->status(), AVAssetExportSessionStatusExporting);
+    EXPECT_FALSE(ended);
+    home.file(QStringLiteral("go"), {});
+    ASSERT_TRUE(waitFor([&] { return ended.load(); }));
+    EXPECT_EQ(session->progress(), 1);
+}
+
+TEST_F(ExportProgram, EncodesWhatCannotBeCopiedAfterAll) {
+    replaceProgram("ffmpeg", "case \"$*\" in *'-c:v copy'*) echo 'Could not write header' >&2; exit 1;; esac; "
+                             "echo made > $out; echo out_time_us=10000000");
+    const auto session = makeSession();
+    runToEnd(session);
+    EXPECT_EQ(session->error(), std::nullopt);
+    EXPECT_TRUE(hasOutput());
+}
+
+TEST_F(ExportProgram, EndsAtOnceWhenItsJobIsCancelled) {
+    for (const char *program : {"ffmpeg", "ffprobe"}) {
+        replaceProgram("ffprobe", "echo '" + answer() + "'");
+        replaceProgram(program,
+                       "echo $$ > " + QFile::encodeName(home.path(QLatin1String(program))) + "; exec sleep 1000");
+        const auto session = makeSession();
+        const auto context = std::make_shared<UploadContext>();
+        session->setUploadContext(context);
+        std::atomic<bool> ended = false;
+        session->exportAsynchronouslyWithCompletionHandler([&] { ended = true; });
+        ASSERT_TRUE(waitFor([&] { return childIn(QLatin1String(program)) != 0; }));
+        QElapsedTimer timer;
+        timer.start();
+        context->cancel();
+        ASSERT_TRUE(waitFor([&] { return ended.load(); }));
+        EXPECT_LT(timer.elapsed(), 1000);
+        EXPECT_NE(::kill(childIn(QLatin1String(program)), 0), 0) << "the child is gone";
+        EXPECT_EQ(session->status(), AVAssetExportSessionStatusCancelled);
+        EXPECT_EQ(session->error()->domain(), NSURLErrorDomain);
+        EXPECT_EQ(session->error()->code(), NSURLErrorCancelled);
+        EXPECT_FALSE(hasOutput());
+    }
+}
+
+TEST_F(ExportProgram, IsNotStartedForACancelledJob) {
+    replaceProgram("ffprobe", "echo $$ > " + QFile::encodeName(home.path(QStringLiteral("started"))));
+    const auto context = std::make_shared<UploadContext>();
+    context->cancel();
+    const auto ofCancelledJob = makeSession();
+    ofCancelledJob->setUploadContext(context);
+    const auto cancelledItself = makeSession();
+    cancelledItself->cancelExport();
+    for (const auto &session : {ofCancelledJob, cancelledItself}) {
+        runToEnd(session);
+        EXPECT_EQ(session->status(), AVAssetExportSessionStatusCancelled);
+        EXPECT_EQ(session->error()->code(), NSURLErrorCancelled);
+    }
+    EXPECT_EQ(childIn(QStringLiteral("started")), 0);
+}
+
+} // namespace
+} // namespace korvane::test

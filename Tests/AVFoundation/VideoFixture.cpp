@@ -1,0 +1,117 @@
+// Small videos made on the spot, exports of them, and what came out.
+#include "Tests/AVFoundation/VideoFixture.h"
+
+#include "Platform/AssetsLibrary/ALAssetsLibrary.h"
+#include "Tests/Support/WaitFor.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+#include <atomic>
+
+namespace korvane::test {
+
+namespace {
+
+// Its standard output. A program that fails says why in the test's own output.
+QByteArray outputOf(const QString &program, const QStringList &arguments, bool *succeeded = nullptr) {
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(program, arguments);
+    const bool well = process.waitForFinished() && process.exitCode() == 0;
+    if (succeeded)
+        *succeeded = well;
+    else
+        EXPECT_TRUE(well) << qPrintable(arguments.join(u' '));
+    return process.readAllStandardOutput();
+}
+
+QByteArray ffmpeg(const QString &arguments, const QString &path, bool *succeeded = nullptr) {
+    const QString always = QStringLiteral("-nostdin -v error -threads 2 ");
+    QStringList list = (always + arguments).split(u' ', Qt::SkipEmptyParts);
+    return outputOf(QStringLiteral("ffmpeg"), list.replaceInStrings(QStringLiteral("FILE"), path), succeeded);
+}
+
+} // namespace
+
+VideoTest::VideoTest() {
+    QDir().mkpath(home.path(QStringLiteral("library/Videos")));
+}
+
+QByteArray VideoTest::makeVideo(const QString &name, const QString &arguments) const {
+    const QString path = home.path(QStringLiteral("library/Videos/") + name);
+    ffmpeg(QStringLiteral("-f lavfi -i testsrc2=s=320x240:r=25:d=2,noise=alls=20:allf=t "
+                          "-f lavfi -i anoisesrc=d=2:a=0.3,lowpass=4000 ") +
+               arguments + QStringLiteral(" FILE"),
+           path);
+    return QFile::encodeName(path);
+}
+
+QByteArray VideoTest::makeUsualVideo(const QString &name) const {
+    return makeVideo(name,
+                     QStringLiteral("-c:v libx264 -preset ultrafast -pix_fmt yuv420p -c:a aac -movflags +faststart"));
+}
+
+QByteArray VideoTest::turn(const QByteArray &path) const {
+    const QString turned = QFile::decodeName(path) + QStringLiteral(".turned.mp4");
+    ffmpeg(QStringLiteral("-i %1 -c copy -metadata:s:v rotate=90 FILE").arg(QFile::decodeName(path)), turned);
+    return QFile::encodeName(turned);
+}
+
+void VideoTest::replaceProgram(const QByteArray &program, const QByteArray &script) {
+    const QByteArray path = home.file(QString::fromLatin1("replaced-" + program),
+                                      "#!/bin/sh\nfor out; do :; done; out=${out#file:}\n" + script);
+    QFile::setPermissions(QFile::decodeName(path), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    home.setEnvironment("KORVANE_" + program.toUpper(), path);
+}
+
+std::shared_ptr<AVAssetExportSession> VideoTest::sessionFor(const QByteArray &path,
+                                                            const std::optional<QString> &preset) const {
+    const auto session = ALAssetsLibrary::_exportSessionForVideoURL(NSURL::fileURLWithPath(path), std::nullopt, preset);
+    session->setOutputFileType(AVFileTypeMPEG4);
+    session->setOutputURL(NSURL::fileURLWithPath(output));
+    return session;
+}
+
+void runToEnd(const std::shared_ptr<AVAssetExportSession> &session) {
+    std::atomic<int> calls = 0;
+    std::atomic<bool> onOtherThread = false;
+    session->exportAsynchronouslyWithCompletionHandler([&, caller = std::this_thread::get_id()] {
+        onOtherThread = std::this_thread::get_id() != caller;
+        ++calls;
+    });
+    ASSERT_TRUE(waitFor([&] { return calls > 0; }));
+    EXPECT_EQ(calls, 1);
+    EXPECT_TRUE(onOtherThread);
+}
+
+QString streamsOf(const QByteArray &path) {
+    const QByteArray answer =
+        outputOf(QStringLiteral("ffprobe"),
+                 QStringLiteral("-v error -of json -show_streams").split(u' ') + QStringList{QFile::decodeName(path)});
+    QStringList words;
+    for (const QJsonValue &stream : QJsonDocument::fromJson(answer)[u"streams"].toArray()) {
+        words << stream[u"codec_name"].toString();
+        if (stream[u"codec_type"].toString() == QLatin1String("video"))
+            words << QStringLiteral("%1x%2").arg(stream[u"width"].toInt()).arg(stream[u"height"].toInt())
+                  << stream[u"pix_fmt"].toString();
+        for (const QJsonValue &data : stream[u"side_data_list"].toArray())
+            words << QStringLiteral("turned by %1").arg(data[u"rotation"].toInt());
+    }
+    return words.join(u' ');
+}
+
+QByteArray checksumOfVideo(const QByteArray &path) {
+    return ffmpeg(QStringLiteral("-i FILE -map 0:v:0 -c copy -f md5 -"), QFile::decodeName(path));
+}
+
+bool isWhole(const QByteArray &path) {
+    bool succeeded = false;
+    ffmpeg(QStringLiteral("-xerror -i FILE -f null -"), QFile::decodeName(path), &succeeded);
+    return succeeded;
+}
+
+} // namespace korvane::test

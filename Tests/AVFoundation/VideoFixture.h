@@ -1,0 +1,50 @@
+// Small videos made on the spot, exports of them, and what came out.
+#pragma once
+
+#include "Platform/AVFoundation/AVAssetExportSession.h"
+#include "Tests/Support/TemporaryHome.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+namespace korvane::test {
+
+class VideoTest : public testing::Test {
+protected:
+    VideoTest();
+
+    // Makes a video with ffmpeg's arguments: two seconds of moving pictures, 320 x 240, are its input 0, a varied sound
+    // its input 1. Returns its path below the Videos folder of the photo library.
+    QByteArray makeVideo(const QString &name, const QString &arguments) const;
+    // H.264 and AAC, with the index first.
+    QByteArray makeUsualVideo(const QString &name = QStringLiteral("usual.mp4")) const;
+
+    // A copy of a video that players are told to turn by 90 degrees.
+    QByteArray turn(const QByteArray &path) const;
+
+    // A script of the shell in place of a program ("ffmpeg", "ffprobe"); its last argument is in $out, as a path.
+    void replaceProgram(const QByteArray &program, const QByteArray &script);
+
+    std::shared_ptr<AVAssetExportSession> sessionFor(const QByteArray &path,
+                                                     const std::optional<QString> &preset = std::nullopt) const;
+
+    TemporaryHome home;
+    const QByteArray output = QFile::encodeName(home.path(QStringLiteral("made.mp4")));
+};
+
+// Starts the session and waits for its handler.
+void runToEnd(const std::shared_ptr<AVAssetExportSession> &session);
+
+// What ffprobe says of a file, in short: "mpeg4 320x240 yuv420p mp3"; a picture that players turn says so.
+QString streamsOf(const QByteArray &path);
+// Of the file's first video, as it is stored; of two files with the same video the same.
+QByteArray checksumOfVideo(const QByteArray &path);
+// Everything in it can be decoded.
+bool isWhole(const QByteArray &path);
+
+} // namespace korvane::test
