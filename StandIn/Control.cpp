@@ -50,32 +50,47 @@ std::function<void(FaultQueue &, int)> faultOf(const QJsonObject &object) {
     return {};
 }
 
+bool hasOnly(const QJsonObject &object, const QStringList &keys) {
+    const QStringList present = object.keys();
+    return std::all_of(present.begin(), present.end(), [&](const QString &key) { return keys.contains(key); });
+}
+
+// 0 when there is none.
 std::optional<double> probability(const QJsonObject &object, const char *key) {
-    const double value = object.value(QLatin1String(key)).toDouble(0);
-    return value >= 0 && value <= 1 ? std::optional(value) : std::nullopt;
+    const auto value = object.value(QLatin1String(key));
+    if (value.isUndefined()) return 0;
+    return value.isDouble() && value.toDouble() >= 0 && value.toDouble() <= 1 ? std::optional(value.toDouble())
+                                                                              : std::nullopt;
 }
 
 Step weatherOf(const QJsonObject &object) {
-    Weather weather;
+    static const QStringList keys{QStringLiteral("seed"),     QStringLiteral("error"), QStringLiteral("reset"),
+                                  QStringLiteral("loseTail"), QStringLiteral("delay"), QStringLiteral("on")};
+    const auto seed = wholeNumber(object, "seed");
     const auto error = probability(object, "error");
     const auto reset = probability(object, "reset");
     const auto loseTail = probability(object, "loseTail");
-    weather.seed = quint64(object.value(QStringLiteral("seed")).toInteger(0));
-    weather.delay = object.value(QStringLiteral("delay")).toInteger(0);
+    const auto delay =
+        object.contains(QStringLiteral("delay")) ? wholeNumber(object, "delay") : std::optional<qint64>(0);
+    if (!hasOnly(object, keys) || !seed || !error || !reset || !loseTail || !delay) return {};
+    QByteArrayList operations;
     for (const auto operation : object.value(QStringLiteral("on")).toArray())
-        weather.operations.append(operation.toString().toUtf8());
-    if (!error || !reset || !loseTail || weather.delay < 0) return {};
-    weather.error = *error;
-    weather.reset = *reset;
-    weather.loseTail = *loseTail;
+        operations.append(operation.toString().toUtf8());
+    const Weather weather{.seed = quint64(*seed),
+                          .error = *error,
+                          .reset = *reset,
+                          .loseTail = *loseTail,
+                          .delay = *delay,
+                          .operations = operations};
     return [weather](ServiceContext &context) { context.faults.setWeather(weather); };
 }
 
 Step quotaOf(const QJsonValue &value) {
     if (value.isNull()) return [](ServiceContext &context) { context.videos.setQuota(std::nullopt); };
     const QJsonObject object = value.toObject();
-    if (!object.value(QStringLiteral("free")).isDouble()) return {};
-    const Quota quota{.free = object.value(QStringLiteral("free")).toInteger(),
+    const auto free = wholeNumber(object, "free");
+    if (!free || !hasOnly(object, {QStringLiteral("free"), QStringLiteral("hd"), QStringLiteral("sd")})) return {};
+    const Quota quota{.free = *free,
                       .hd = object.value(QStringLiteral("hd")).toBool(true),
                       .sd = object.value(QStringLiteral("sd")).toBool(true)};
     return [quota](ServiceContext &context) { context.videos.setQuota(quota); };

@@ -3,7 +3,7 @@
 //    "hang": true, "truncate": true, "dropBeforeAnswer": true, "delay": MILLISECONDS, "storeOnly": N ("chunk"),
 //    "range": TEXT or null ("verify"; null leaves the header out), "ok": true}
 //   {"weather": {"seed": N, "error": P, "reset": P, "loseTail": P, "delay": MILLISECONDS, "on": [OPERATION…]}}, where
-//    what is left out is 0, or all operations
+//    only the seed must be there; what is left out is 0, or all operations of both services
 //   {"quota": {"free": BYTES, "hd": true, "sd": true}} or {"quota": null} for the true one again
 //   {"delay": MILLISECONDS} before each answer   {"release": true}   {"clear": true} ends all but the delay
 // Operations are "upload", "getList", "addPhoto", "login"; "getQuota", "getTicket", "chunk", "verify", "complete",

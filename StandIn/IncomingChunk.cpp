@@ -19,8 +19,9 @@ void IncomingChunk::write(const char *data, qsizetype size) {
     _chunk.received += size;
     const qint64 wanted = std::min(qint64(size), _storeLimit - _chunk.stored);
     if (wanted <= 0 || _diskRefused) return;
-    _diskRefused = !_file->append(_writer, data, wanted);
-    if (!_diskRefused) _chunk.stored += wanted;
+    const qint64 stored = _file->append(_writer, data, wanted);
+    _diskRefused = stored < 0;
+    _chunk.stored += std::max(stored, qint64(0));
 }
 
 void IncomingChunk::finish() {

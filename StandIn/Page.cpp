@@ -1,10 +1,9 @@
 #include "StandIn/Page.h"
 
+#include "StandIn/PageCard.h"
 #include "StandIn/StateJson.h"
 
 #include <QCryptographicHash>
-#include <QDateTime>
-#include <QLocale>
 
 namespace standin {
 
@@ -32,6 +31,9 @@ article { background: var(--card); border: 1px solid var(--line); border-radius:
   display: flex; flex-direction: column; }
 article > a { display: block; text-decoration: none; aspect-ratio: 4 / 3; background: var(--empty); }
 article img { width: 100%; height: 100%; object-fit: cover; display: block; }
+.film { aspect-ratio: 4 / 3; background: #000; }
+.film video { width: 100%; height: 100%; display: block; }
+h3 { font-size: 18px; margin: 0 0 16px; }
 article .blank { height: 100%; display: grid; place-items: center; color: var(--soft); font-size: 13px; }
 .text { padding: 12px 16px 14px; display: flex; flex-direction: column; gap: 6px; flex: 1; }
 h2 { font-size: 16px; margin: 0; overflow-wrap: anywhere; display: -webkit-box; -webkit-line-clamp: 3;
@@ -49,14 +51,16 @@ h2.none { color: var(--soft); font-weight: 400; font-style: italic; }
 code { background: var(--chip); border-radius: 6px; padding: 3px 8px; font-size: 14px; }
 )css";
 
-// Looks for news every three seconds and swaps the content in, so that pictures on show do not flicker.
+// Looks for news every three seconds and swaps the content in, so that pictures on show do not flicker; a
+// video that plays is left in peace.
 const char *const Script = R"js(
 let seen = document.body.dataset.revision;
 setInterval(async () => {
   if (document.hidden) return;
   try {
     const now = (await (await fetch('/api/revision')).text()).trim();
-    if (now === seen) return;
+    const playing = [...document.querySelectorAll('video')].some(video => !video.paused && !video.ended);
+    if (now === seen || playing) return;
     const fresh = new DOMParser().parseFromString(await (await fetch('/')).text(), 'text/html');
     document.querySelector('header').replaceWith(fresh.querySelector('header'));
     document.querySelector('main').replaceWith(fresh.querySelector('main'));
@@ -65,20 +69,16 @@ setInterval(async () => {
 }, 3000);
 )js";
 
-QByteArray escaped(const QString &text) {
-    return text.toHtmlEscaped().toUtf8();
+QString textOf(const Photo &photo, const char *parameter) {
+    return QString::fromUtf8(valueOf(photo.parameters, parameter));
 }
 
-QByteArray escaped(const Photo &photo, const char *parameter) {
-    return escaped(QString::fromUtf8(valueOf(photo.parameters, parameter)));
-}
-
-QByteArray audienceOf(const Photo &photo) {
-    if (isSet(photo, "is_public")) return "Public";
+QString audienceOf(const Photo &photo) {
+    if (isSet(photo, "is_public")) return QStringLiteral("Public");
     const bool friends = isSet(photo, "is_friend");
     const bool family = isSet(photo, "is_family");
-    if (friends && family) return "Friends and family";
-    return friends ? "Friends" : family ? "Family" : "Only me";
+    if (friends && family) return QStringLiteral("Friends and family");
+    return friends ? QStringLiteral("Friends") : family ? QStringLiteral("Family") : QStringLiteral("Only me");
 }
 
 QByteArray pictureOf(const Photo &photo, const QByteArray &title) {
@@ -93,31 +93,48 @@ QByteArray pictureOf(const Photo &photo, const QByteArray &title) {
 }
 
 QByteArray chipsOf(const Photo &photo, const std::map<qint64, QString> &albumTitles) {
-    QByteArray chips = "<div class=\"chips\"><span class=\"chip who\">" + audienceOf(photo) + "</span>";
-    if (isSet(photo, "hidden")) chips += "<span class=\"chip\">Hidden from searches</span>";
+    QByteArray chips = chipOf(audienceOf(photo), "who", {});
+    if (isSet(photo, "hidden")) chips += chipOf(QStringLiteral("Hidden from searches"), {}, {});
     for (const qint64 album : photo.albums)
-        chips += "<span class=\"chip\" title=\"Album\">in " + escaped(albumTitles.at(album)) + "</span>";
+        chips += chipOf(QStringLiteral("in ") + albumTitles.at(album), {}, "Album");
     for (const QString &tag : tagsOf(valueOf(photo.parameters, "tags")))
-        chips += "<span class=\"chip\" title=\"Tag\">#" + escaped(tag) + "</span>";
-    return chips + "</div>";
+        chips += chipOf(QLatin1Char('#') + tag, {}, "Tag");
+    return chips;
 }
 
 QByteArray cardOf(const Photo &photo, const std::map<qint64, QString> &albumTitles) {
-    const QByteArray title = escaped(photo, "title");
-    const QByteArray description = escaped(photo, "description");
-    const QByteArray heading =
-        title.isEmpty() ? "<h2 class=\"none\">Untitled</h2>" : "<h2 dir=\"auto\">" + title + "</h2>";
-    const QDateTime received = QDateTime::fromMSecsSinceEpoch(photo.receivedAt);
-    return "<article>" + pictureOf(photo, title) + "<div class=\"text\">" + heading +
-           (description.isEmpty() ? QByteArray() : "<p class=\"about\" dir=\"auto\">" + description + "</p>") +
-           chipsOf(photo, albumTitles) + "<p class=\"facts\"><span>" +
-           escaped(QLocale::c().formattedDataSize(photo.bytes)) + "</span><time>" +
-           received.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toUtf8() + "</time></p></div></article>\n";
+    const QString title = textOf(photo, "title");
+    return htmlOf({.media = pictureOf(photo, escaped(title)),
+                   .title = title,
+                   .description = textOf(photo, "description"),
+                   .chips = chipsOf(photo, albumTitles),
+                   .bytes = photo.bytes,
+                   .receivedAt = photo.receivedAt});
+}
+
+QByteArray playerOf(const Video &video) {
+    if (video.path.isEmpty()) return "<div class=\"film\"><div class=\"blank\">not kept</div></div>";
+    return "<div class=\"film\"><video controls preload=\"metadata\" src=\"/videos/" + QByteArray::number(video.id) +
+           "\"></video></div>";
+}
+
+QByteArray cardOf(const Video &video) {
+    const bool isPrivate = video.privacy == QLatin1String("nobody");
+    QByteArray chips = chipOf(isPrivate ? QStringLiteral("Private") : QStringLiteral("Public"), "who", {});
+    for (const QString &tag : video.tags)
+        chips += chipOf(QLatin1Char('#') + tag, {}, "Tag");
+    return htmlOf({.media = playerOf(video),
+                   .title = video.title,
+                   .description = video.description,
+                   .chips = chips,
+                   .bytes = video.bytesStored,
+                   .receivedAt = video.committedAt});
 }
 
 QByteArray welcome() {
     return "<section class=\"welcome\"><h2>No photos yet</h2><p>Share one, and it shows up here:</p>"
-           "<p><code>korvane share flickr photo.jpg</code></p></section>";
+           "<p><code>korvane share flickr photo.jpg</code></p><p><code>korvane share vimeo video.mp4</code></p>"
+           "</section>";
 }
 
 QByteArray albumBar(const std::vector<Album> &albums) {
@@ -129,36 +146,55 @@ QByteArray albumBar(const std::vector<Album> &albums) {
     return bar + "</nav>";
 }
 
-QByteArray countOf(size_t photos) {
-    const QByteArray number = QByteArray::number(qint64(photos)) + (photos == 1 ? " photo" : " photos") + " received";
-    return photos > MostShown ? number + ", the newest " + QByteArray::number(qint64(MostShown)) + " shown" : number;
+QByteArray countOf(size_t things, const QByteArray &kind) {
+    const QByteArray number = QByteArray::number(qint64(things)) + ' ' + kind + (things == 1 ? "" : "s") + " received";
+    return things > MostShown ? number + ", the newest " + QByteArray::number(qint64(MostShown)) + " shown" : number;
+}
+
+// The newest first.
+template <typename Things, typename CardOf>
+QByteArray gridOf(const Things &things, CardOf cardOfThing) {
+    QByteArray cards;
+    const size_t shown = std::min(things.size(), MostShown);
+    for (auto thing = things.rbegin(); thing != things.rbegin() + std::ptrdiff_t(shown); ++thing)
+        cards += cardOfThing(*thing);
+    return things.empty() ? QByteArray() : "<div class=\"grid\">\n" + cards + "</div>";
+}
+
+QByteArray photosPart(const std::vector<Photo> &photos, const std::vector<Album> &albums) {
+    std::map<qint64, QString> albumTitles;
+    for (const Album &album : albums)
+        albumTitles[album.id] = album.title;
+    return gridOf(photos, [&](const Photo &photo) { return cardOf(photo, albumTitles); });
+}
+
+QByteArray videosPart(const VideoStore &store) {
+    std::vector<Video> videos = store.videos();
+    std::erase_if(videos, [](const Video &video) { return video.id == 0; });
+    if (videos.empty()) return {};
+    return "<h3>" + countOf(videos.size(), "video") + "</h3>" +
+           gridOf(videos, [](const Video &video) { return cardOf(video); });
 }
 
 } // namespace
 
 QByteArray page(const ServiceContext &context) {
-    const PhotoStore &store = context.photos;
     const qint64 revision = context.revision();
-    const std::vector<Photo> photos = store.photos();
-    const std::vector<Album> albums = store.albums();
-    std::map<qint64, QString> albumTitles;
-    for (const Album &album : albums)
-        albumTitles[album.id] = album.title;
-    QByteArray cards;
-    const size_t shown = std::min(photos.size(), MostShown);
-    for (auto photo = photos.rbegin(); photo != photos.rbegin() + std::ptrdiff_t(shown); ++photo)
-        cards += cardOf(*photo, albumTitles);
+    const std::vector<Photo> photos = context.photos.photos();
+    const std::vector<Album> albums = context.photos.albums();
+    const QByteArray content = photosPart(photos, albums) + videosPart(context.videos);
     return "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\"><title>Korvane stand-in</title>"
            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\"><style>" +
            QByteArray(Style) + "</style></head>\n<body data-revision=\"" + QByteArray::number(revision) +
-           "\"><header><h1><span>Korvane</span> stand-in</h1><p>" + countOf(photos.size()) + "</p>" + albumBar(albums) +
-           "</header>\n<main>" + (photos.empty() ? welcome() : "<div class=\"grid\">\n" + cards + "</div>") +
-           "</main><script>" + Script + "</script></body></html>\n";
+           "\"><header><h1><span>Korvane</span> stand-in</h1><p>" + countOf(photos.size(), "photo") + "</p>" +
+           albumBar(albums) + "</header>\n<main>" + (content.isEmpty() ? welcome() : content) + "</main><script>" +
+           Script + "</script></body></html>\n";
 }
 
 QByteArray pagePolicy() {
     const QByteArray script = QCryptographicHash::hash(QByteArray(Script), QCryptographicHash::Sha256).toBase64();
-    return "default-src 'none'; img-src 'self'; connect-src 'self'; style-src 'unsafe-inline'; script-src 'sha256-" +
+    return "default-src 'none'; img-src 'self'; media-src 'self'; connect-src 'self'; style-src 'unsafe-inline'; "
+           "script-src 'sha256-" +
            script + "'; base-uri 'none'; form-action 'none'; frame-ancestors 'none'";
 }
 

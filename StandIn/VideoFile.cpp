@@ -18,12 +18,12 @@ quint64 VideoFile::startWriting(qint64 start) {
     return _writer;
 }
 
-bool VideoFile::append(quint64 writer, const char *data, qsizetype size) {
+qint64 VideoFile::append(quint64 writer, const char *data, qsizetype size) {
     const std::lock_guard lock(_mutex);
-    if (writer != _writer) return writer != 0;
+    if (writer != _writer) return writer == 0 ? -1 : 0;
     const qint64 written = _kept ? _file.write(data, size) : size;
     _size += std::max(written, qint64(0));
-    return written == size;
+    return written == size ? written : -1;
 }
 
 void VideoFile::stopWriting(quint64 writer) {

@@ -17,8 +17,8 @@ public:
     // Forgets the bytes from `start` (at most size()) on, and every writer before. Returns the new writer; 0 when the
     // disk refuses.
     quint64 startWriting(qint64 start);
-    // False when the disk refuses. What a forgotten writer brings is forgotten, too.
-    bool append(quint64 writer, const char *data, qsizetype size);
+    // How many bytes were stored: 0 for a forgotten writer, -1 when the disk refuses.
+    qint64 append(quint64 writer, const char *data, qsizetype size);
     void stopWriting(quint64 writer);
     // Nobody may write any more until somebody starts again.
     void forgetWriter();

@@ -82,7 +82,8 @@ int main(int argc, char *argv[]) {
     QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
-        "Local stand-in for the web services that Korvane shares to. Shows what it received on a web page."));
+        "Local stand-in for Flickr and Vimeo. Shows the photos and videos that it received on a web page, and tells "
+        "scripts about them as JSON at /api/state. To be told to fail, it takes JSON at /control/faults."));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({
@@ -92,7 +93,7 @@ int main(int argc, char *argv[]) {
          standardStateFolder()},
         {QStringLiteral("delay"), QStringLiteral("Milliseconds to wait before each answer."), QStringLiteral("MS"),
          QStringLiteral("0")},
-        {QStringLiteral("albums"), QStringLiteral("Number of albums that exist from the start, 3 or more."),
+        {QStringLiteral("albums"), QStringLiteral("Number of Flickr albums that exist from the start, 3 or more."),
          QStringLiteral("N"), QStringLiteral("3")},
         {QStringLiteral("print-credential"),
          QStringLiteral("Print the credential of the test user of a service (flickr, vimeo) as JSON and exit."),

@@ -2,12 +2,13 @@
 
 #include <QDateTime>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QRandomGenerator>
 #include <QUrl>
 
 namespace standin::test {
 
-QJsonObject VimeoClient::method(const QByteArray &name, const Parameters &parameters) {
+QJsonValue VimeoClient::method(const QByteArray &name, const Parameters &parameters) {
     const Reply reply = rest(Parameters{{"method", "vimeo.videos." + name}} + parameters);
     return QJsonDocument::fromJson(reply.body).object();
 }
@@ -22,8 +23,8 @@ Reply VimeoClient::rest(const Parameters &form, const QByteArray &query) {
 }
 
 QByteArray VimeoClient::ticket() {
-    const QJsonObject answer = method("upload.getTicket", {{"upload_method", "streaming"}});
-    const QUrl endpoint(answer.value(QLatin1String("ticket")).toObject().value(QLatin1String("endpoint")).toString());
+    const QJsonValue answer = method("upload.getTicket", {{"upload_method", "streaming"}});
+    const QUrl endpoint(answer[QLatin1String("ticket")][QLatin1String("endpoint")].toString());
     return endpoint.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority);
 }
 

@@ -3,7 +3,10 @@
 
 #include "Tests/StandIn/Client.h"
 
-#include <QJsonObject>
+#include <QJsonValue>
+
+#include <chrono>
+#include <thread>
 
 namespace standin::test {
 
@@ -11,8 +14,8 @@ class VimeoClient : public Client {
 public:
     explicit VimeoClient(const StandIn &server) : Client(server) {}
 
-    // The answer's JSON; empty when there was none.
-    QJsonObject method(const QByteArray &name, const Parameters &parameters = {});
+    // The answer's JSON.
+    QJsonValue method(const QByteArray &name, const Parameters &parameters = {});
     Reply rest(const Parameters &form, const QByteArray &query = "format=json");
 
     // The path and query of a fresh ticket's endpoint.
@@ -22,12 +25,21 @@ public:
     Reply chunk(const QByteArray &target, const QByteArray &bytes, const QByteArray &range = {});
     // What the answer's Range header says; -1 without one.
     qint64 verify(const QByteArray &target);
-    QJsonObject commit(const QByteArray &target) {
+    QJsonValue commit(const QByteArray &target) {
         return method("upload.complete", {{"ticket_id", target.mid(18)}, {"filename", "video.mp4"}});
     }
 
     QByteArray signedAs(const QByteArray &verb, const QByteArray &target, const Parameters &form = {}) const;
 };
+
+// Until the predicate holds; false after ten seconds.
+template <typename Predicate>
+bool waitFor(Predicate predicate) {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (!predicate() && std::chrono::steady_clock::now() < end)
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    return predicate();
+}
 
 // Different bytes for each seed.
 QByteArray video(qsizetype size, quint32 seed = 1);
