@@ -15,8 +15,8 @@
 namespace korvane {
 namespace {
 
-constexpr qint64 largestAnswer = 8 * 1024 * 1024; // a thousand albums take half of one
-constexpr long uploadBuffer = 512 * 1024;
+constexpr qint64 largestAnswer = 8LL * 1024 * 1024; // a thousand albums take half of one
+constexpr long uploadBuffer = 512L * 1024;
 constexpr int longestWaitMilliseconds = 250;
 
 bool isLoopback(const QString &host) {
@@ -118,7 +118,7 @@ void URLTransfer::_configureMethod() {
 std::optional<NSError> URLTransfer::run() {
     const auto &context = _request.uploadContext;
     if (context) context->requestBegan(_bodyLength, [multi = _handle.multi] { curl_multi_wakeup(multi); });
-    const std::optional<NSError> error = _drive();
+    std::optional<NSError> error = _drive();
     if (context) context->requestEnded(_response.statusCode, error);
     return error;
 }
@@ -226,13 +226,14 @@ int URLTransfer::_onSeek(void *self, curl_off_t offset, int origin) {
 
 size_t URLTransfer::_onWrite(char *bytes, size_t size, size_t count, void *self) {
     auto *transfer = static_cast<URLTransfer *>(self);
-    if (transfer->_body.size() + qint64(size * count) > largestAnswer) {
+    const size_t length = size * count;
+    if (transfer->_body.size() + qint64(length) > largestAnswer) {
         transfer->_localError = NSError::errorWithDescription(NSURLErrorDomain, NSURLErrorUnknown,
                                                               QStringLiteral("The web service's answer is too large."));
         return 0;
     }
-    transfer->_body.append(bytes, qsizetype(size * count));
-    return size * count;
+    transfer->_body.append(bytes, qsizetype(length));
+    return length;
 }
 
 size_t URLTransfer::_onHeader(char *bytes, size_t size, size_t count, void *self) {
