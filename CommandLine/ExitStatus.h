@@ -6,9 +6,10 @@ namespace korvane {
 enum ExitStatus : int {
     ExitDone = 0,
     ExitUploadFailed = 1, // an upload failed, or something that has no status of its own
-    ExitUsage = 2,        // bad usage, or a file that cannot be used
+    ExitUsage = 2,        // bad usage, a file that cannot be used, or no such upload or account
     ExitNoAccount = 3,
-    ExitUnreachable = 4, // the upload service cannot be reached
+    // The upload service cannot be reached, runs with other settings, or cannot take anything just now.
+    ExitUnreachable = 4,
 };
 
 } // namespace korvane

@@ -30,7 +30,7 @@ struct Interruption::Private {
     std::array<struct sigaction, heardSignals.size()> before{};
 };
 
-Interruption::Interruption(std::function<void(int)> heard) : _private(new Private) {
+Interruption::Interruption(std::function<void(int)> heard) : _private(std::make_unique<Private>()) {
     wakeDescriptor = _private->wake.get();
     QObject::connect(&_private->notifier, &QSocketNotifier::activated, [this, heard = std::move(heard)] {
         eventfd_t signal = 0;
@@ -47,7 +47,6 @@ Interruption::~Interruption() {
     for (size_t i = 0; i < heardSignals.size(); ++i)
         ::sigaction(heardSignals[i], &_private->before[i], nullptr);
     wakeDescriptor = -1;
-    delete _private;
 }
 
 } // namespace korvane

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 namespace korvane {
 
@@ -15,7 +16,7 @@ public:
 
 private:
     struct Private;
-    Private *_private;
+    std::unique_ptr<Private> _private;
 };
 
 } // namespace korvane

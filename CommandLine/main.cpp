@@ -26,15 +26,18 @@ Each command tells more with --help.
 
 Environment:
   KORVANE_FLICKR_URL     base address used in place of Flickr's own, to try things out (plain http on this machine only)
+  KORVANE_VIMEO_URL      the same for Vimeo
   KORVANE_PHOTO_LIBRARY  folder used in place of your Pictures and Videos folders
+  KORVANE_SECRETS        with the value "file", credentials are kept in a file that only you can read, not in the keyring
   NO_COLOR               if set, progress is shown without colours
 
 Files:
   ~/.config/korvane        accounts and preferences
   ~/.local/state/korvane   the queue of uploads and the copies of what is to be uploaded
 
-Exit status: 0 all well, 1 an upload failed, 2 bad usage or a file that cannot be used, 3 no account, 4 the upload
-service cannot be reached.)";
+Exit status: 0 all well, 1 an upload failed, or something that has no status of its own, 2 bad usage, a file that cannot
+be used, or no such upload or account, 3 no account, 4 the upload service cannot be reached, runs with other settings,
+or cannot take anything just now; 130 after Ctrl-C.)";
 
 // Texts are UTF-8 here and in Qt; under another encoding Qt would say so on standard error.
 void useUTF8() {

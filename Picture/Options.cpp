@@ -4,7 +4,6 @@
 #include <getopt.h>
 
 #include <charconv>
-#include <cstring>
 
 namespace korvane {
 namespace {
@@ -13,9 +12,9 @@ constexpr int largestEdge = 1'000'000;
 
 enum OptionCode { ToOption = 1, QualityOption, MaxPixelsOption, SizeOption, HelpOption };
 
-bool readNumber(const char *text, int lowest, int highest, int &number) {
-    const char *end = text + std::strlen(text);
-    const auto [stop, error] = std::from_chars(text, end, number);
+bool readNumber(const std::string &text, int lowest, int highest, int &number) {
+    const char *end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, number);
     return error == std::errc() && stop == end && number >= lowest && number <= highest;
 }
 
@@ -61,9 +60,9 @@ std::optional<Options> Options::parse(int count, char **arguments, std::string &
         if (code == '?') return fail(std::string("cannot understand \"") + arguments[optind - 1] + "\"");
         if (code == ToOption && !readFormat(value, options.format))
             return fail("--to takes jpeg or png, not \"" + value + "\"");
-        if (code == QualityOption && !readNumber(optarg, 1, 100, options.quality))
+        if (code == QualityOption && !readNumber(value, 1, 100, options.quality))
             return fail("--quality takes a number from 1 to 100, not \"" + value + "\"");
-        if ((code == MaxPixelsOption || code == SizeOption) && !readNumber(optarg, 1, largestEdge, options.maxPixels))
+        if ((code == MaxPixelsOption || code == SizeOption) && !readNumber(value, 1, largestEdge, options.maxPixels))
             return fail("the size takes a number of pixels from 1 to 1000000, not \"" + value + "\"");
         formatGiven |= code == ToOption;
         sizeGiven |= code == SizeOption;

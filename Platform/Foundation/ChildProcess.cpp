@@ -23,8 +23,8 @@
 namespace korvane {
 namespace {
 
-constexpr qsizetype mostErrorText = 16 * 1024;
-constexpr qsizetype pipeCapacity = 64 * 1024;
+constexpr qsizetype mostErrorText = 16LL * 1024;
+constexpr qsizetype pipeCapacity = 64LL * 1024;
 constexpr int cannotRun = 127;
 
 // The kernel kills a child when the thread that started it ends, so all are started from one thread that never does.
@@ -321,7 +321,7 @@ QByteArray ChildProcess::pathOfProgram(const QByteArray &name) {
     }
     folders.append(qgetenv("PATH").split(':'));
     for (const QByteArray &folder : std::as_const(folders)) {
-        const QByteArray path = folder + '/' + name;
+        QByteArray path = folder + '/' + name;
         if (folder.startsWith('/') && isProgram(path)) return path;
     }
     return {};

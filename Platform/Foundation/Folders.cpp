@@ -19,7 +19,7 @@ QString temporaryFolder;
 QString baseFolder(const char *variable, const QString &fallbackBelowHome) {
     QString base = QFile::decodeName(qgetenv(variable));
     if (!QDir::isAbsolutePath(base)) base = QDir::homePath() + u'/' + fallbackBelowHome;
-    const QString folder = base + QStringLiteral("/korvane");
+    QString folder = base + QStringLiteral("/korvane");
     makePrivateFolder(folder);
     return folder;
 }

@@ -34,7 +34,7 @@ QString NSBundle::localizedString(const QString &key, const QString &value, cons
     auto found = tables.find(table);
     if (found == tables.end()) found = tables.emplace(table, loadTable(table)).first;
     for (const auto &translator : found->second) {
-        const QString text = translator->translate(table.toUtf8().constData(), key.toUtf8().constData());
+        QString text = translator->translate(table.toUtf8().constData(), key.toUtf8().constData());
         if (!text.isNull()) return text;
     }
     return value;

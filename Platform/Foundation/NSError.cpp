@@ -21,7 +21,7 @@ NSError NSError::errorWithErrno(int code, const QString &what) {
 }
 
 QString NSError::localizedDescription() const {
-    const QString text = _userInfo.value(NSLocalizedDescriptionKey).toString();
+    QString text = _userInfo.value(NSLocalizedDescriptionKey).toString();
     if (!text.isEmpty()) return text;
     return QStringLiteral("The operation could not be completed (%1, code %2).").arg(_domain).arg(_code);
 }

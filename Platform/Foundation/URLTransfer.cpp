@@ -14,8 +14,8 @@
 namespace korvane {
 namespace {
 
-constexpr qint64 largestAnswer = 8 * 1024 * 1024; // a thousand albums take half of one
-constexpr long uploadBuffer = 512 * 1024;
+constexpr qint64 largestAnswer = 8LL * 1024 * 1024; // a thousand albums take half of one
+constexpr long uploadBuffer = 512L * 1024;
 constexpr int longestWaitMilliseconds = 250;
 
 // The one place where transport failures get their codes.
@@ -236,13 +236,14 @@ int URLTransfer::_onSeek(void *self, curl_off_t offset, int origin) {
 
 size_t URLTransfer::_onWrite(char *bytes, size_t size, size_t count, void *self) {
     auto *transfer = static_cast<URLTransfer *>(self);
-    if (transfer->_body.size() + qint64(size * count) > largestAnswer) {
+    const size_t length = size * count;
+    if (transfer->_body.size() + qint64(length) > largestAnswer) {
         transfer->_localError = NSError::errorWithDescription(NSURLErrorDomain, NSURLErrorUnknown,
                                                               QStringLiteral("The web service's answer is too large."));
         return 0;
     }
-    transfer->_body.append(bytes, qsizetype(size * count));
-    return size * count;
+    transfer->_body.append(bytes, qsizetype(length));
+    return length;
 }
 
 // A request without a body needs no rewinding to be repeated, so it is stopped here.

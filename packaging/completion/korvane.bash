@@ -1,53 +1,47 @@
 # bash completion for korvane
 
-_korvane_upload_ids() {
-    korvane uploads list 2>/dev/null | while read -r id _; do [[ $id == [0-9]* ]] && echo "$id"; done
-}
-
-_korvane_account_ids() {
-    korvane accounts list 2>/dev/null | while read -r id _; do [[ $id != ID && $id != No ]] && echo "$id"; done
+# The ids that a list begins its lines with.
+_korvane_ids() {
+    local id
+    korvane "$1" list 2>/dev/null | while read -r id _; do [[ $id =~ ^[0-9a-f-]*[0-9][0-9a-f-]*$ ]] && echo "$id"; done
 }
 
 _korvane() {
     local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]}
-    local command=${COMP_WORDS[1]} action=${COMP_WORDS[2]} words='' files=''
-    COMPREPLY=()
-    case $prev in
-    --audience) words='public friends family only-me' ;;
-    --title | --album | --port) return ;;
-    --credential-file) files=file ;;
-    --state) files=directory ;;
-    *)
-        if ((COMP_CWORD == 1)); then
-            words='share uploads accounts standin --help --version'
-        elif ((COMP_CWORD == 2)); then
-            case $command in
-            share) words='flickr --help' ;;
-            uploads) words='list watch retry remove clear pause resume --json --help' ;;
-            accounts) words='list add remove --json --help' ;;
-            standin) words='--port --state --help' ;;
-            esac
-        else
-            case $command:$action in
-            share:flickr)
-                if [[ $cur == -* ]]; then
-                    words='--title --audience --album --without-metadata --wait --json --help'
-                else
-                    files=file
-                fi
-                ;;
-            uploads:retry) words="all --json --help $(_korvane_upload_ids)" ;;
-            uploads:remove) words="--json --help $(_korvane_upload_ids)" ;;
-            uploads:*) words='--json --help' ;;
-            accounts:add) ((COMP_CWORD == 3)) && words='flickr vimeo' || words='--credential-file --json --help' ;;
-            accounts:remove) words="--json --help $(_korvane_account_ids)" ;;
-            accounts:*) words='--json --help' ;;
-            standin:*) words='--port --state --help' ;;
-            esac
-        fi
+    local word plain=() options='--help' words='' files=''
+    # "--option=value" comes as three words.
+    [[ $cur == = ]] && cur=''
+    [[ $prev == = ]] && prev=${COMP_WORDS[COMP_CWORD - 2]}
+    for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
+        [[ $word == -* ]] || plain+=("$word")
+    done
+    case "${plain[*]:0:3}" in
+    '') words='share uploads accounts standin' options='--help --version' ;;
+    share) words='flickr' ;;
+    'share flickr'*)
+        files=file
+        options='--title --audience --album --without-metadata --wait --json --help'
         ;;
+    uploads) words='list watch retry remove clear pause resume' options='--json --help' ;;
+    'uploads retry'*) words="all $(_korvane_ids uploads)" options='--json --help' ;;
+    'uploads remove'*) words=$(_korvane_ids uploads) options='--json --help' ;;
+    uploads*) options='--json --help' ;;
+    accounts) words='list add remove' options='--json --help' ;;
+    'accounts add') words='flickr vimeo' options='--json --help' ;;
+    'accounts add'*) options='--credential-file --json --help' ;;
+    'accounts remove') words=$(_korvane_ids accounts) options='--json --help' ;;
+    accounts*) options='--json --help' ;;
+    standin*) options='--port --state --help' ;;
     esac
-    if [[ -n $files ]]; then
+    case $prev in
+    --audience) words='public friends family only-me' options='' files='' ;;
+    --credential-file) files=file options='' ;;
+    --state) files=directory options='' ;;
+    --title | --album | --port) words='' options='' files='' ;;
+    esac
+    if [[ $cur == -* || -z $words$files ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "$options" -- "$cur")
+    elif [[ -n $files ]]; then
         compopt -o filenames 2>/dev/null
         mapfile -t COMPREPLY < <(compgen -A "$files" -- "$cur")
     else

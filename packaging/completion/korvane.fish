@@ -1,42 +1,61 @@
 # fish completion for korvane
 
-function __korvane_upload_ids
-    korvane uploads list 2>/dev/null | string match -r '^[0-9]+'
+# The ids that a list begins its lines with, each with the rest of its line.
+function __korvane_ids
+    korvane $argv[1] list 2>/dev/null | string replace -rf '^([0-9a-f-]*[0-9][0-9a-f-]*) +(.*)$' '$1\t$2'
 end
 
-function __korvane_account_ids
-    korvane accounts list 2>/dev/null | string replace -rf '^(?!ID |No )(\S+)\s.*' '$1'
+# Whether the command line so far begins with these words, options and what is being typed aside.
+function __korvane_after
+    set -l expected korvane $argv
+    set -l words (commandline -opc | string match -v -- '-*')
+    string match -q -- "$expected *" "$words "
 end
 
-set -l commands share uploads accounts standin
-set -l actions list watch retry remove clear pause resume
+# The same, and no word follows.
+function __korvane_just_after
+    set -l expected korvane $argv
+    set -l words (commandline -opc | string match -v -- '-*')
+    test "$words" = "$expected"
+end
+
 complete -c korvane -f
 complete -c korvane -s h -l help -d 'Show help'
-complete -c korvane -n "not __fish_seen_subcommand_from $commands" -l version -d 'Show the version'
-complete -c korvane -n "not __fish_seen_subcommand_from $commands" -a share -d 'Share photos'
-complete -c korvane -n "not __fish_seen_subcommand_from $commands" -a uploads -d 'Show and steer the uploads'
-complete -c korvane -n "not __fish_seen_subcommand_from $commands" -a accounts -d 'Show, add and remove accounts'
-complete -c korvane -n "not __fish_seen_subcommand_from $commands" -a standin -d 'Run local stand-ins of the web services'
+complete -c korvane -n __korvane_just_after -l version -d 'Show the version'
+complete -c korvane -n __korvane_just_after -a share -d 'Share photos'
+complete -c korvane -n __korvane_just_after -a uploads -d 'Show and steer the uploads'
+complete -c korvane -n __korvane_just_after -a accounts -d 'Show, add and remove accounts'
+complete -c korvane -n __korvane_just_after -a standin -d 'Run local stand-ins of the web services'
 
-set -l share "__fish_seen_subcommand_from share; and __fish_seen_subcommand_from flickr"
-complete -c korvane -n "__fish_seen_subcommand_from share; and not __fish_seen_subcommand_from flickr" -a flickr
-complete -c korvane -n $share -F
-complete -c korvane -n $share -l title -x -d 'Title of each photo'
-complete -c korvane -n $share -l audience -x -a 'public friends family only-me' -d 'Who sees the photos'
-complete -c korvane -n $share -l album -x -d 'Number of an album'
-complete -c korvane -n $share -l without-metadata -d 'Without place and camera data'
-complete -c korvane -n $share -l wait -d 'Wait until all are uploaded'
-complete -c korvane -n $share -l json -d 'Print JSON'
+complete -c korvane -n '__korvane_just_after share' -a flickr
+set -l flickr '__korvane_after share flickr'
+complete -c korvane -n $flickr -F
+complete -c korvane -n $flickr -l title -x -d 'Title of each photo'
+complete -c korvane -n $flickr -l audience -x -a 'public friends family only-me' -d 'Who sees the photos'
+complete -c korvane -n $flickr -l album -x -d 'Number of an album'
+complete -c korvane -n $flickr -l without-metadata -d 'Without place and camera data'
+complete -c korvane -n $flickr -l wait -d 'Wait until all are uploaded'
+complete -c korvane -n $flickr -l json -d 'Print JSON'
 
-complete -c korvane -n "__fish_seen_subcommand_from uploads; and not __fish_seen_subcommand_from $actions" -a "$actions"
-complete -c korvane -n "__fish_seen_subcommand_from uploads accounts" -l json -d 'Print JSON'
-complete -c korvane -n "__fish_seen_subcommand_from uploads; and __fish_seen_subcommand_from retry" -a 'all (__korvane_upload_ids)'
-complete -c korvane -n "__fish_seen_subcommand_from uploads; and __fish_seen_subcommand_from remove" -a '(__korvane_upload_ids)'
+complete -c korvane -n '__korvane_after uploads' -l json -d 'Print JSON'
+complete -c korvane -n '__korvane_just_after uploads' -a list -d 'All uploads'
+complete -c korvane -n '__korvane_just_after uploads' -a watch -d 'Follow the uploads'
+complete -c korvane -n '__korvane_just_after uploads' -a retry -d 'Try uploads again'
+complete -c korvane -n '__korvane_just_after uploads' -a remove -d 'Remove uploads'
+complete -c korvane -n '__korvane_just_after uploads' -a clear -d 'Forget those that are done'
+complete -c korvane -n '__korvane_just_after uploads' -a pause -d 'Stop uploading'
+complete -c korvane -n '__korvane_just_after uploads' -a resume -d 'Go on uploading'
+complete -c korvane -n '__korvane_after uploads retry' -a all -d 'Each that failed or waits'
+complete -c korvane -n '__korvane_after uploads retry; or __korvane_after uploads remove' -a '(__korvane_ids uploads)'
 
-complete -c korvane -n "__fish_seen_subcommand_from accounts; and not __fish_seen_subcommand_from list add remove" -a 'list add remove'
-complete -c korvane -n "__fish_seen_subcommand_from accounts; and __fish_seen_subcommand_from add" -a 'flickr vimeo'
-complete -c korvane -n "__fish_seen_subcommand_from accounts; and __fish_seen_subcommand_from add" -l credential-file -r -F -d 'Ready credentials'
-complete -c korvane -n "__fish_seen_subcommand_from accounts; and __fish_seen_subcommand_from remove" -a '(__korvane_account_ids)'
+complete -c korvane -n '__korvane_after accounts' -l json -d 'Print JSON'
+complete -c korvane -n '__korvane_just_after accounts' -a list -d 'All accounts'
+complete -c korvane -n '__korvane_just_after accounts' -a add -d 'Add an account'
+complete -c korvane -n '__korvane_just_after accounts' -a remove -d 'Remove an account with its credentials'
+complete -c korvane -n '__korvane_just_after accounts add' -a 'flickr vimeo'
+set -l added '__korvane_after accounts add flickr; or __korvane_after accounts add vimeo'
+complete -c korvane -n $added -l credential-file -r -F -d 'File with ready credentials'
+complete -c korvane -n '__korvane_just_after accounts remove' -a '(__korvane_ids accounts)'
 
-complete -c korvane -n "__fish_seen_subcommand_from standin" -l port -x -d 'Port to listen on'
-complete -c korvane -n "__fish_seen_subcommand_from standin" -l state -x -a '(__fish_complete_directories)' -d 'Folder for the photos received'
+complete -c korvane -n '__korvane_after standin' -l port -x -d 'Port to listen on'
+complete -c korvane -n '__korvane_after standin' -l state -x -a '(__fish_complete_directories)' -d 'Folder for the photos received'

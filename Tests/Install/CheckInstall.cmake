@@ -1,0 +1,61 @@
+# Installs the build, twice as a package would be and once for good, and looks for everything where others look for it.
+file(REMOVE_RECURSE "${prefix}")
+
+# Installs for a prefix, below a staging folder where one is given.
+function(install staging usedPrefix)
+  set(ENV{DESTDIR} "${staging}")
+  execute_process(COMMAND "${CMAKE_COMMAND}" --install "${build}" --prefix "${usedPrefix}"
+    OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+function(check_file path)
+  if(NOT EXISTS "${path}")
+    message(SEND_ERROR "${path} is missing.")
+  elseif(ARGN)
+    file(READ "${path}" text)
+    string(FIND "${text}" "${ARGN}" place)
+    if(place EQUAL -1)
+      message(SEND_ERROR "${path} does not hold ${ARGN}:\n${text}")
+    endif()
+  endif()
+endfunction()
+
+# What starts the service names the program in the prefix that it was installed for.
+function(check_start root usedPrefix unitFolder autostartFolder)
+  set(program "\"${usedPrefix}/${bin}/korvane-uploadd\"")
+  foreach(name com.zorvex.flickr.xpc com.zorvex.vimeo.xpc)
+    check_file("${root}${usedPrefix}/share/dbus-1/services/${name}.service" "Name=${name}\nExec=${program}\n")
+  endforeach()
+  check_file("${root}${unitFolder}/korvane-uploadd.service" "ExecStart=${program}\n")
+  check_file("${root}${unitFolder}/default.target.wants/korvane-uploadd.service" "ExecStart=${program}\n")
+  check_file("${root}${autostartFolder}/korvane-uploadd.desktop" "Exec=${program}\n")
+endfunction()
+
+install("${prefix}/staged" /usr)
+check_start("${prefix}/staged" /usr /usr/lib/systemd/user /etc/xdg/autostart)
+install("${prefix}/staged" /usr/local)
+check_start("${prefix}/staged" /usr/local /usr/local/lib/systemd/user /usr/local/etc/xdg/autostart)
+install("" "${prefix}")
+check_start("" "${prefix}" "${prefix}/share/systemd/user" "${prefix}/etc/xdg/autostart")
+
+foreach(program korvane korvane-uploadd korvane-picture korvane-standin)
+  check_file("${prefix}/${bin}/${program}")
+endforeach()
+check_file("${prefix}/${lib}/libkorvane.so")
+check_file("${prefix}/${lib}/cmake/Korvane/KorvaneConfig.cmake")
+foreach(page korvane korvane-uploadd)
+  check_file("${prefix}/share/man/man1/${page}.1" "korvane ")
+endforeach()
+check_file("${prefix}/share/bash-completion/completions/korvane" "complete -F _korvane korvane")
+check_file("${prefix}/share/zsh/site-functions/_korvane" "#compdef korvane")
+check_file("${prefix}/share/fish/vendor_completions.d/korvane.fish" "complete -c korvane")
+
+# An embedding program brings no library of ours besides those that the package finds.
+check_file("${prefix}/${include}/korvane/Korvane/FlickrPost.h")
+file(GLOB_RECURSE headers "${prefix}/${include}/*.h")
+foreach(header ${headers})
+  file(STRINGS "${header}" foreign REGEX "^#include <(curl|nlohmann|libsecret|gio|glib|vips|CLI)")
+  if(foreign OR header MATCHES "/(CurlPool|URLTransfer|SecretKeyring)\\.h$")
+    message(SEND_ERROR "${header} is not for embedding programs. ${foreign}")
+  endif()
+endforeach()
