@@ -98,14 +98,13 @@ TEST(FlickrPostRecord, TakesWhatItCanFromARecordOfAnyKind) {
 }
 
 TEST(FlickrResponse, ReadsTheAnswerAsItsEventsCome) {
-    struct Case {
+    const struct {
         const char *body;
         bool success;
         qint64 photoID;
         qint32 code;
         std::optional<QString> description;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"<rsp stat=\"ok\"><photoid>53000000001</photoid></rsp>", true, 53000000001, 0, {}},
         {"<rsp stat=\"ok\"><photoid> 12<![CDATA[34]]>x</photoid></rsp>", true, 1234, 0, {}},
         {"<rsp stat=\"fail\"><err code=\"5\" msg=\"Filetype &amp; more\"/></rsp>", false, 0, 5,
@@ -122,13 +121,13 @@ TEST(FlickrResponse, ReadsTheAnswerAsItsEventsCome) {
         {"\xff\xfe", false, 0, -1, {}},
         {"cut off in a character \xc3", false, 0, -1, {}},
     };
-    for (const Case &test : cases) {
-        SCOPED_TRACE(test.body);
-        const auto response = FlickrResponse::responseWithData(NSData(test.body));
-        EXPECT_EQ(response->isSuccess(), test.success);
-        EXPECT_EQ(response->photoID, test.photoID);
-        EXPECT_EQ(response->errorCode, test.code);
-        EXPECT_EQ(response->errorDescription, test.description);
+    for (const auto &[body, success, photoID, code, description] : cases) {
+        SCOPED_TRACE(body);
+        const auto response = FlickrResponse::responseWithData(NSData(body));
+        EXPECT_EQ(response->isSuccess(), success);
+        EXPECT_EQ(response->photoID, photoID);
+        EXPECT_EQ(response->errorCode, code);
+        EXPECT_EQ(response->errorDescription, description);
     }
 }
 
@@ -137,7 +136,10 @@ TEST(FlickrPhotoSetResponse, ListsTheSetsBehindTheNoSetEntry) {
                             "server=\"x\" secret=\"s\">"
                             "<title>A &amp; <![CDATA[B]]></title><description>d</description></photoset>"
                             "<photoset id=\"2\"><title/></photoset>";
-    const auto sets = FlickrPhotoSetResponse::responseWithData(NSData(body + "</photosets></rsp>"))->photoSets;
+    const auto setsIn = [](const std::optional<NSData> &data) {
+        return FlickrPhotoSetResponse::responseWithData(data)->photoSets;
+    };
+    const auto sets = setsIn(NSData(body + "</photosets></rsp>"));
     ASSERT_EQ(sets.size(), 3u);
     EXPECT_EQ(sets[0].identifier, 0);
     EXPECT_EQ(sets[0].title, QStringLiteral("No album"));
@@ -153,10 +155,7 @@ TEST(FlickrPhotoSetResponse, ListsTheSetsBehindTheNoSetEntry) {
     EXPECT_TRUE(sets[1].description().endsWith(
         QStringLiteral(" -- Title: A & B Description: d (id: 72157600000000001 primary photo: 9)")));
 
-    EXPECT_EQ(FlickrPhotoSetResponse::responseWithData(NSData(body))->photoSets.size(), 3u)
-        << "what came before a break stands";
-    EXPECT_EQ(FlickrPhotoSetResponse::responseWithData(NSData("<rsp stat=\"fail\"><err code=\"98\"/></rsp>"))
-                  ->photoSets.size(),
-              1u);
-    EXPECT_EQ(FlickrPhotoSetResponse::responseWithData(std::nullopt)->photoSets.size(), 1u);
+    EXPECT_EQ(setsIn(NSData(body)).size(), 3u) << "what came before a break stands";
+    EXPECT_EQ(setsIn(NSData("<rsp stat=\"fail\"><err code=\"98\"/></rsp>")).size(), 1u);
+    EXPECT_EQ(setsIn(std::nullopt).size(), 1u);
 }
