@@ -14,8 +14,11 @@
 int main(int argc, char **argv) {
     const QCoreApplication application(argc, argv);
     using namespace korvane::bench;
-    const std::map<std::string, bool (*)()> benchmarks{
-        {"export", exportVideos}, {"hand-over", handOver}, {"long-queue", longQueue}, {"one-stream", oneStream}, {"side-by-side", sideBySide}};
+    const std::map<std::string, bool (*)()> benchmarks{{"export", exportVideos},
+                                                       {"hand-over", handOver},
+                                                       {"long-queue", longQueue},
+                                                       {"one-stream", oneStream},
+                                                       {"side-by-side", sideBySide}};
     if (argc > 1 && !benchmarks.contains(argv[1])) {
         fprintf(stderr, "There is no benchmark %s.\n", argv[1]);
         return 2;

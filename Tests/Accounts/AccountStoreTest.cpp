@@ -6,17 +6,16 @@
 #include <sys/wait.h>
 
 #include <set>
-#include <thread>
 
-namespace korvane {
+namespace korvane::test {
 namespace {
 
 class AccountStore : public AccountsFixture {};
 
 TEST_F(AccountStore, KeepsAccountsInOrderAndTheirSecretsOutOfTheList) {
-    const auto ada = store.saveAccount(flickr, QStringLiteral("ada"), credentialOf("ada"));
-    const auto max = store.saveAccount(vimeo, QStringLiteral("ada"), credentialOf("max"));
-    const auto eva = store.saveAccount(flickr, QStringLiteral("eva é"), credentialOf("eva"));
+    const auto ada = add(flickr, "ada");
+    const auto max = add(vimeo, "ada", "max");
+    const auto eva = add(flickr, "eva é", "eva");
     ASSERT_TRUE(ada && max && eva);
 
     const auto found = store.accountsWithAccountType(store.accountTypeWithAccountTypeIdentifier(flickr.identifier()));
@@ -32,123 +31,110 @@ TEST_F(AccountStore, KeepsAccountsInOrderAndTheirSecretsOutOfTheList) {
     found[0]->setUploadContext(std::make_shared<UploadContext>());
     EXPECT_EQ(store.accountWithIdentifier(ada->identifier())->uploadContext(), nullptr);
 
-    for (const auto *name : {"accounts.json", "credentials.json"}) {
+    for (const QString &file : {accounts, credentials}) {
         struct stat status;
-        ASSERT_EQ(::stat(QFile::encodeName(path(name)).constData(), &status), 0) << name;
-        EXPECT_EQ(status.st_mode & 0777, 0600U) << name;
+        ASSERT_EQ(::stat(qPrintable(home.path(file)), &status), 0) << qPrintable(file);
+        EXPECT_EQ(status.st_mode & 0777, 0600U) << qPrintable(file);
     }
-    EXPECT_TRUE(contents("credentials.json").contains("eva-hush2"));
-    EXPECT_FALSE(contents("accounts.json").contains("hush"));
-    EXPECT_FALSE(contents("accounts.json").contains("-key"));
-    EXPECT_FALSE(log.join(u' ').contains(QStringLiteral("hush")));
-    EXPECT_EQ(log.filter(QStringLiteral("credentials.json")).size(), 2); // once for each reason, however many accounts
+    EXPECT_TRUE(says(home.contents(credentials), "eva-hush2"));
+    EXPECT_FALSE(says(home.contents(accounts), "hush"));
+    EXPECT_FALSE(says(home.contents(accounts), "-key"));
+    EXPECT_FALSE(says(log.lines().join(u' '), "hush"));
+    EXPECT_EQ(log.lines().filter(QStringLiteral("credentials.json")).size(), 2) << "once for each reason";
 }
 
 TEST_F(AccountStore, ReplacesTheCredentialOfAKnownAccountAndKeepsItsIdentifier) {
-    const auto first = store.saveAccount(flickr, QStringLiteral("ada"), credentialOf("old"));
-    ASSERT_TRUE(store.saveAccount(flickr, QStringLiteral("eva"), credentialOf("eva")));
+    const auto first = add(flickr, "ada", "old");
+    ASSERT_TRUE(add(flickr, "eva"));
     EXPECT_EQ(first->credential(), credentialOf("old"));
-    const auto second = store.saveAccount(flickr, QStringLiteral("ada"), credentialOf("new"));
+    const auto second = add(flickr, "ada", "new");
     EXPECT_EQ(second->identifier(), first->identifier());
     EXPECT_EQ(second->credential(), credentialOf("new"));
-    EXPECT_EQ(first->credential(), credentialOf("old")); // kept by the object that has read it
+    EXPECT_EQ(first->credential(), credentialOf("old")) << "kept by the object that has read it";
     ASSERT_EQ(store.accountsWithAccountType(flickr).size(), 2U);
     EXPECT_EQ(store.accountsWithAccountType(flickr)[0]->username(), QStringLiteral("ada"));
-    EXPECT_FALSE(contents("credentials.json").contains("old-"));
+    EXPECT_FALSE(says(home.contents(credentials), "old-"));
 }
 
 TEST_F(AccountStore, RemovesTheCredentialWithTheAccount) {
-    const auto ada = store.saveAccount(flickr, QStringLiteral("ada"), credentialOf("ada"));
-    const auto eva = store.saveAccount(flickr, QStringLiteral("eva"), credentialOf("eva"));
-    std::optional<NSError> error;
-    EXPECT_TRUE(store.removeAccount(ada->identifier(), &error));
+    const auto ada = add(flickr, "ada");
+    ASSERT_TRUE(add(flickr, "eva"));
+    EXPECT_TRUE(store.removeAccount(ada->identifier()));
     ASSERT_EQ(store.accountsWithAccountType(flickr).size(), 1U);
     EXPECT_EQ(store.accountsWithAccountType(flickr)[0]->credential(), credentialOf("eva"));
-    EXPECT_FALSE(contents("credentials.json").contains("ada-"));
+    EXPECT_FALSE(says(home.contents(credentials), "ada-"));
+    EXPECT_EQ(ada->credential(), std::nullopt);
+    std::optional<NSError> error;
     EXPECT_FALSE(store.removeAccount(ada->identifier(), &error));
     EXPECT_EQ(error->code(), ACErrorAccountMissing);
-    EXPECT_EQ(ada->credential(), std::nullopt);
 }
 
 TEST_F(AccountStore, RefusesWhatCannotBeAnAccount) {
+    const QString ada = QStringLiteral("ada");
     const ACAccountCredential good = credentialOf("ada");
     struct {
-        const char *what;
         ACAccountType type;
         QString username;
         ACAccountCredential credential;
         ACErrorCode code;
     } const cases[] = {
-        {"type", ACAccountType(QStringLiteral("com.example")), QStringLiteral("ada"), good, ACErrorAccountTypeInvalid},
-        {"no name", flickr, {}, good, ACErrorCredentialInvalid},
-        {"line break", flickr, QStringLiteral("a\nb"), good, ACErrorCredentialInvalid},
-        {"no token",
-         flickr,
-         QStringLiteral("ada"),
-         {good.consumerKey, good.consumerSecret, {}, good.tokenSecret},
-         ACErrorCredentialInvalid},
+        {ACAccountType(QStringLiteral("com.example")), ada, good, ACErrorAccountTypeInvalid},
+        {flickr, {}, good, ACErrorCredentialInvalid},
+        {flickr, QStringLiteral("a\nb"), good, ACErrorCredentialInvalid},
+        {flickr, ada, {good.consumerKey, good.consumerSecret, {}, good.tokenSecret}, ACErrorCredentialInvalid},
     };
-    for (const auto &[what, type, username, credential, code] : cases) {
+    for (const auto &[type, username, credential, code] : cases) {
         std::optional<NSError> error;
-        EXPECT_EQ(store.saveAccount(type, username, credential, &error), nullptr) << what;
-        ASSERT_TRUE(error) << what;
-        EXPECT_EQ(error->code(), code) << what;
+        EXPECT_EQ(store.saveAccount(type, username, credential, &error), nullptr) << username.toStdString();
+        ASSERT_TRUE(error);
+        EXPECT_EQ(error->code(), code) << username.toStdString();
     }
-    EXPECT_FALSE(QFile::exists(path("accounts.json")));
+    EXPECT_FALSE(QFile::exists(home.path(accounts)));
 }
 
 TEST_F(AccountStore, SkipsAndKeepsEntriesThatItDoesNotUnderstand) {
-    ASSERT_TRUE(store.saveAccount(flickr, QStringLiteral("ada"), credentialOf("ada")));
-    QByteArray list = contents("accounts.json");
+    ASSERT_TRUE(add(flickr, "ada"));
+    QByteArray list = home.contents(accounts);
     list.replace("\"accounts\": [", "\"accounts\": [ 5, {\"identifier\": 7, \"type\": \"later\"}, ");
-    QFile file(path("accounts.json"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(list);
-    file.close();
+    home.file(accounts, list);
     EXPECT_EQ(store.accountsWithAccountType(flickr).size(), 1U);
-    ASSERT_TRUE(store.saveAccount(flickr, QStringLiteral("eva"), credentialOf("eva")));
+    ASSERT_TRUE(add(flickr, "eva"));
     EXPECT_EQ(store.accountsWithAccountType(flickr).size(), 2U);
-    EXPECT_TRUE(contents("accounts.json").contains("\"later\""));
+    EXPECT_TRUE(says(home.contents(accounts), "\"later\""));
 }
 
 TEST_F(AccountStore, LeavesNoSecretBehindWhenTheListCannotBeWritten) {
-    ASSERT_TRUE(store.saveAccount(flickr, QStringLiteral("ada"), credentialOf("ada")));
-    QFile file(path("accounts.json"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(R"({"accounts": "none"})");
-    file.close();
+    const QByteArray damaged = R"({"accounts": "none"})";
+    ASSERT_TRUE(add(flickr, "ada"));
+    home.file(accounts, damaged);
     std::optional<NSError> error;
-    EXPECT_EQ(store.saveAccount(flickr, QStringLiteral("eva"), credentialOf("eva"), &error), nullptr);
+    EXPECT_EQ(add(flickr, "eva", "eva", &error), nullptr);
     EXPECT_EQ(error->code(), ACErrorAccountListDamaged);
-    EXPECT_FALSE(contents("credentials.json").contains("eva-"));
-    EXPECT_EQ(contents("accounts.json"), R"({"accounts": "none"})");
+    EXPECT_FALSE(says(home.contents(credentials), "eva-"));
+    EXPECT_EQ(home.contents(accounts), damaged);
 }
 
 TEST_F(AccountStore, LosesNothingWhenProcessesAddAccountsAtOnce) {
-    const auto add = [this](const char *prefix) {
+    const auto addSome = [this](const QByteArray &own) {
         bool added = true;
-        for (int i = 0; i < 15; ++i) {
-            const QString username = QLatin1String(prefix) + QString::number(i);
-            added = store.saveAccount(flickr, username, credentialOf(username.toLatin1())) && added;
-            added = store.saveAccount(flickr, QStringLiteral("both%1").arg(i), credentialOf("both")) && added;
-        }
+        for (const QByteArray &name : {own, QByteArray("both")})
+            for (int i = 0; i < 15; ++i)
+                added = add(flickr, name + QByteArray::number(i)) && added;
         return added;
     };
     const pid_t child = ::fork();
-    if (child == 0) ::_exit(add("child") ? 0 : 1);
-    EXPECT_TRUE(add("parent"));
+    if (child == 0) ::_exit(addSome("child") ? 0 : 1);
+    EXPECT_TRUE(addSome("parent"));
     int status = -1;
     ASSERT_EQ(::waitpid(child, &status, 0), child);
     EXPECT_EQ(status, 0);
-    const auto accounts = store.accountsWithAccountType(flickr);
-    EXPECT_EQ(accounts.size(), 45U); // an account that both added is one account
     std::set<QString> identifiers;
-    for (const auto &account : accounts) {
-        identifiers.insert(account->identifier());
+    for (const auto &account : store.accountsWithAccountType(flickr)) {
+        EXPECT_TRUE(identifiers.insert(account->identifier()).second);
         EXPECT_TRUE(account->credential()) << account->username().toStdString();
     }
-    EXPECT_EQ(identifiers.size(), 45U);
+    EXPECT_EQ(identifiers.size(), 45U) << "an account that both added is one account";
 }
 
 } // namespace
-} // namespace korvane
+} // namespace korvane::test

@@ -2,48 +2,38 @@
 #pragma once
 
 #include "Platform/Accounts/ACAccountStore.h"
-#include "Platform/Foundation/NSLog.h"
+#include "Tests/Support/Testing.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
-#include <mutex>
-
-namespace korvane {
+namespace korvane::test {
 
 class AccountsFixture : public testing::Test {
 protected:
     AccountsFixture() {
-        for (const auto *variable : {"XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "XDG_DATA_HOME", "HOME"})
-            qputenv(variable, QFile::encodeName(folder.path()));
-        qunsetenv("DBUS_SESSION_BUS_ADDRESS");
-        qunsetenv("KORVANE_SECRETS");
-        setLogSink([this](const QString &line) {
-            const std::lock_guard lock(logMutex);
-            log.append(line);
-        });
+        home.setEnvironment("DBUS_SESSION_BUS_ADDRESS", {});
+        home.setEnvironment("KORVANE_SECRETS", {});
     }
-    ~AccountsFixture() override { setLogSink(nullptr); }
 
-    QString path(const char *name) const { return folder.path() + QStringLiteral("/korvane/") + QLatin1String(name); }
-    QByteArray contents(const char *name) const {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     static ACAccountCredential credentialOf(const char *owner) {
         const QString name = QLatin1String(owner);
         return {name + QStringLiteral("-key"), name + QStringLiteral("-hush1"), name + QStringLiteral("-hush2"),
                 name + QStringLiteral("-hush3")};
     }
+    // Stores an account with that credential, or one with the credential of its user's name.
+    std::shared_ptr<ACAccount> add(const ACAccountType &type, const char *username, const char *credential = nullptr,
+                                   std::optional<NSError> *error = nullptr) {
+        return store.saveAccount(type, QString::fromUtf8(username), credentialOf(credential ? credential : username),
+                                 error);
+    }
 
     const ACAccountType flickr{ACAccountTypeIdentifierFlickr};
     const ACAccountType vimeo{ACAccountTypeIdentifierVimeo};
-    QTemporaryDir folder;
-    std::mutex logMutex;
-    QStringList log;
+    const QString accounts = QStringLiteral("config/korvane/accounts.json"); // below the home folder
+    const QString credentials = QStringLiteral("config/korvane/credentials.json");
+    TemporaryHome home;
+    LogCapture log;
     ACAccountStore store;
 };
 
-} // namespace korvane
+} // namespace korvane::test

@@ -1,10 +1,9 @@
 // Credential files, good and bad.
 #include "Platform/Accounts/ACCredentialFile.h"
 #include "Platform/Accounts/ACError.h"
+#include "Tests/Support/Testing.h"
 
-#include <gtest/gtest.h>
-
-namespace korvane {
+namespace korvane::test {
 namespace {
 
 // The good file with one piece of its text replaced.
@@ -25,10 +24,7 @@ TEST(CredentialFile, GivesEveryPart) {
 }
 
 TEST(CredentialFile, NamesWhatIsWrongAndQuotesNothing) {
-    const struct {
-        QByteArray text;
-        const char *named;
-    } cases[] = {
+    const std::pair<QByteArray, const char *> cases[] = {
         {"", "empty"},
         {" \n", "empty"},
         {"hush", "not JSON"},
@@ -51,15 +47,14 @@ TEST(CredentialFile, NamesWhatIsWrongAndQuotesNothing) {
         {fileWith("[1]", '"' + QByteArray(64 * 1024, 'x') + '"'), "larger than 64 KB"},
     };
     for (const auto &[text, named] : cases) {
+        SCOPED_TRACE(text.left(80).constData());
         std::optional<NSError> error;
-        EXPECT_FALSE(ACCredentialFile::credentialFileWithData(NSData(text), &error)) << text.left(80).constData();
-        ASSERT_TRUE(error) << text.left(80).constData();
+        EXPECT_FALSE(ACCredentialFile::credentialFileWithData(NSData(text), &error));
+        ASSERT_TRUE(says(error, named));
         EXPECT_EQ(error->domain(), ACErrorDomain);
-        EXPECT_TRUE(error->localizedDescription().contains(QLatin1String(named)))
-            << named << " / " << error->localizedDescription().toStdString();
-        EXPECT_FALSE(error->description().contains(QStringLiteral("hush")));
+        EXPECT_FALSE(says(error->description(), "hush"));
     }
 }
 
 } // namespace
-} // namespace korvane
+} // namespace korvane::test

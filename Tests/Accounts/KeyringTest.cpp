@@ -1,35 +1,38 @@
 // Credentials in the keyring of a private session bus.
 #include "Tests/Accounts/AccountsFixture.h"
-#include "Tests/TestBus.h"
+#include "Tests/Support/ScriptedServer.h"
+#include "Tests/Support/TestBus.h"
 
-#include <QDir>
-#include <QElapsedTimer>
-#include <QProcess>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusReply>
 #include <QStandardPaths>
+#include <QUrl>
 
-namespace korvane {
+namespace korvane::test {
 namespace {
 
 class Keyring : public AccountsFixture {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(bus.start(QStringLiteral("session")));
-        qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address());
+        ASSERT_TRUE(bus.start());
+        home.setEnvironment("DBUS_SESSION_BUS_ADDRESS", bus.address());
     }
     void TearDown() override {
         daemon.terminate();
         daemon.waitForFinished();
     }
     void startKeyring() {
-        if (QStandardPaths::findExecutable(QStringLiteral("gnome-keyring-daemon")).isEmpty())
-            GTEST_SKIP() << "gnome-keyring-daemon is not installed";
-        daemon.start(
-            QStringLiteral("gnome-keyring-daemon"),
-            {QStringLiteral("--unlock"), QStringLiteral("--components=secrets"), QStringLiteral("--foreground")});
+        const QString program = QStringLiteral("gnome-keyring-daemon");
+        if (QStandardPaths::findExecutable(program).isEmpty()) GTEST_SKIP() << "gnome-keyring-daemon is not installed";
+        daemon.start(program, {QStringLiteral("--unlock"), QStringLiteral("--components=secrets"),
+                               QStringLiteral("--foreground")});
         daemon.write("password");
         daemon.closeWriteChannel();
         ASSERT_TRUE(daemon.waitForBytesWritten());
-        ASSERT_TRUE(bus.waitForName(QStringLiteral("org.freedesktop.secrets")));
+        ASSERT_TRUE(waitFor([this] {
+            return bus.connection().interface()->isServiceRegistered(QStringLiteral("org.freedesktop.secrets")).value();
+        }));
     }
 
     TestBus bus;
@@ -39,20 +42,20 @@ protected:
 TEST_F(Keyring, HoldsTheSecretsOfAccounts) {
     ASSERT_NO_FATAL_FAILURE(startKeyring());
     if (IsSkipped()) return;
-    const auto ada = store.saveAccount(flickr, QStringLiteral("ada"), credentialOf("old"));
-    ASSERT_TRUE(store.saveAccount(flickr, QStringLiteral("ada"), credentialOf("ada")));
-    const auto eva = store.saveAccount(vimeo, QStringLiteral("eva"), credentialOf("eva"));
+    const auto ada = add(flickr, "ada", "old");
+    ASSERT_TRUE(add(flickr, "ada"));
+    const auto eva = add(vimeo, "eva");
     EXPECT_EQ(ada->credential(), credentialOf("ada"));
     EXPECT_EQ(eva->credential(), credentialOf("eva"));
-    EXPECT_TRUE(contents("accounts.json").contains("\"keyring\""));
-    EXPECT_FALSE(contents("accounts.json").contains("hush"));
-    EXPECT_FALSE(QFile::exists(path("credentials.json")));
+    EXPECT_TRUE(says(home.contents(accounts), "\"keyring\""));
+    EXPECT_FALSE(says(home.contents(accounts), "hush"));
+    EXPECT_FALSE(QFile::exists(home.path(credentials)));
 
-    qputenv("KORVANE_SECRETS", "file");
+    home.setEnvironment("KORVANE_SECRETS", "file");
     EXPECT_EQ(store.accountWithIdentifier(eva->identifier())->credential(), std::nullopt);
-    ASSERT_TRUE(store.saveAccount(vimeo, QStringLiteral("eva"), credentialOf("file")));
+    ASSERT_TRUE(add(vimeo, "eva", "file"));
     EXPECT_EQ(store.accountWithIdentifier(eva->identifier())->credential(), credentialOf("file"));
-    qunsetenv("KORVANE_SECRETS");
+    home.setEnvironment("KORVANE_SECRETS", {});
 
     const auto again = store.accountWithIdentifier(ada->identifier());
     ASSERT_TRUE(store.removeAccount(ada->identifier()));
@@ -62,39 +65,38 @@ TEST_F(Keyring, HoldsTheSecretsOfAccounts) {
 TEST_F(Keyring, IsNotAskedForAPasswordWhileLocked) {
     ASSERT_NO_FATAL_FAILURE(startKeyring());
     if (IsSkipped()) return;
-    const auto ada = store.saveAccount(flickr, QStringLiteral("ada"), credentialOf("ada"));
+    const auto ada = add(flickr, "ada");
     ASSERT_TRUE(ada);
-    bus.call(
+    auto lock = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.secrets"), QStringLiteral("/org/freedesktop/secrets"),
-        QStringLiteral("org.freedesktop.Secret.Service"), QStringLiteral("Lock"),
-        {QVariant::fromValue(QList{QDBusObjectPath(QStringLiteral("/org/freedesktop/secrets/collection/login"))})});
+        QStringLiteral("org.freedesktop.Secret.Service"), QStringLiteral("Lock"));
+    lock << QVariant::fromValue(QList{QDBusObjectPath(QStringLiteral("/org/freedesktop/secrets/collection/login"))});
+    bus.connection().call(lock);
     EXPECT_EQ(ada->credential(), std::nullopt);
-    EXPECT_EQ(log.filter(QStringLiteral("locked")).size(), 1);
+    EXPECT_EQ(log.lines().filter(QStringLiteral("locked")).size(), 1);
     std::optional<NSError> error;
-    EXPECT_EQ(store.saveAccount(flickr, QStringLiteral("eva"), credentialOf("eva"), &error), nullptr);
-    EXPECT_TRUE(error && error->localizedDescription().contains(QStringLiteral("KORVANE_SECRETS=file")));
-    EXPECT_FALSE(QFile::exists(path("credentials.json")));
+    EXPECT_EQ(add(flickr, "eva", "eva", &error), nullptr);
+    EXPECT_TRUE(says(error, "KORVANE_SECRETS=file"));
+    EXPECT_FALSE(QFile::exists(home.path(credentials)));
 }
 
 TEST_F(Keyring, IsReplacedByTheFileWhereTheBusHasNone) {
-    const auto ada = store.saveAccount(flickr, QStringLiteral("ada"), credentialOf("ada"));
+    const auto ada = add(flickr, "ada");
     ASSERT_TRUE(ada);
     EXPECT_EQ(ada->credential(), credentialOf("ada"));
-    EXPECT_TRUE(contents("credentials.json").contains("ada-hush1"));
+    EXPECT_TRUE(says(home.contents(credentials), "ada-hush1"));
 }
 
 TEST_F(Keyring, IsReplacedByTheFileWhereItDoesNotAnswer) {
-    // A socket that nobody reads: connecting succeeds, the bus never greets.
-    const int silent = bus.silentSocket(folder.path() + QStringLiteral("/silent"));
-    ASSERT_GE(silent, 0);
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + QFile::encodeName(folder.path()) + "/silent");
+    const ScriptedServer silent([](ScriptedConnection &connection, int) { connection.waitForEnd(); });
+    const int port = QUrl(silent.url()).port();
+    home.setEnvironment("DBUS_SESSION_BUS_ADDRESS", "tcp:host=127.0.0.1,port=" + QByteArray::number(port));
     QElapsedTimer timer;
     timer.start();
-    EXPECT_TRUE(store.saveAccount(flickr, QStringLiteral("ada"), credentialOf("ada")));
+    EXPECT_TRUE(add(flickr, "eva"));
     EXPECT_LT(timer.elapsed(), 8000);
-    EXPECT_TRUE(contents("credentials.json").contains("ada-hush1"));
-    ::close(silent);
+    EXPECT_TRUE(says(home.contents(credentials), "eva-hush1"));
 }
 
 } // namespace
-} // namespace korvane
+} // namespace korvane::test

@@ -3,7 +3,7 @@
 #include "CommandLine/ExitStatus.h"
 #include "Tests/CommandLine/ScriptedStatus.h"
 #include "Tests/Support/TemporaryHome.h"
-#include "Tests/TestBus.h"
+#include "Tests/Support/TestBus.h"
 
 #include <QTimer>
 
@@ -37,7 +37,7 @@ private:
 class UploadsOnTheBus : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(bus.emplace().start(QStringLiteral("status")));
+        ASSERT_TRUE(bus.emplace().start());
         home.setEnvironment("DBUS_SESSION_BUS_ADDRESS", bus->address());
         service.emplace(bus->connection());
     }

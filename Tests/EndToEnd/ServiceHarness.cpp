@@ -1,48 +1,29 @@
 // The whole way: a client, the upload service on a bus of its own, and the stand-in.
 #include "Tests/EndToEnd/ServiceHarness.h"
 
+#include "Korvane/FlickrRemoteSessionProtocol.h"
 #include "Korvane/FlickrUploadSession.h"
 #include "Platform/Social/UploadsInterface.h"
+#include "Platform/Social/WireRecord.h"
 
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>
-#include <QDBusMessage>
-#include <QFile>
-
-#include <csignal>
+#include <QDBusReply>
+#include <QDBusUnixFileDescriptor>
 
 namespace korvane::test {
 
 ServiceHarness::ServiceHarness(const standin::StandInOptions &options) : flickr(home, options) {
-    home.setEnvironment("XDG_DATA_DIRS", KORVANE_BUILD_SHARE ":/usr/local/share:/usr/share");
+    WireRecord::registerTypes();
     home.setEnvironment("KORVANE_RETRY_DELAYS", "100,200,400");
-    bus.setStandardErrorFile(home.path(QStringLiteral("service.log")));
-    bus.start(QStringLiteral("dbus-daemon"),
-              {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
-               QStringLiteral("--address=unix:path=") + home.path(QStringLiteral("run/test-bus")),
-               QStringLiteral("--print-address")});
-    bus.waitForReadyRead(10'000);
-    busAddress = QString::fromLocal8Bit(bus.readLine()).trimmed();
-    home.setEnvironment("DBUS_SESSION_BUS_ADDRESS", busAddress.toLocal8Bit());
+    if (!bus.emplace().start(KORVANE_BUILD_SHARE "/dbus-1/services", home.path("service.log")))
+        qFatal("the message bus did not start");
+    busAddress = QString::fromLatin1(bus->address());
+    home.setEnvironment("DBUS_SESSION_BUS_ADDRESS", bus->address());
 }
 
 ServiceHarness::~ServiceHarness() {
-    killService(SIGTERM);
-    disconnect();
-    stopBus();
-}
-
-void ServiceHarness::stopBus() {
-    bus.terminate();
-    bus.waitForFinished(10'000);
-}
-
-void ServiceHarness::disconnect() const {
-    QDBusConnection::disconnectFromBus(home.path());
-}
-
-QDBusConnection ServiceHarness::connection() const {
-    return QDBusConnection::connectToBus(busAddress, home.path());
+    if (bus) killService(SIGTERM);
 }
 
 bool ServiceHarness::share(const std::vector<std::shared_ptr<FlickrPost>> &posts, std::optional<NSError> *error) {
@@ -56,25 +37,44 @@ std::shared_ptr<FlickrPost> ServiceHarness::post(const QByteArray &bytes, qint64
     return post;
 }
 
-QVariant ServiceHarness::ask(const QString &method, const QVariantList &arguments) {
-    auto call = QDBusMessage::createMethodCall(QStringLiteral("com.zorvex.flickr.xpc"), UploadsInterface::path(),
-                                               UploadsInterface::name(), method);
+QDBusMessage ServiceHarness::handOver(const QString &messageID, const QVariant &records, const QList<int> &files) {
+    auto call = QDBusMessage::createMethodCall(FlickrRemoteServiceName, QStringLiteral("/com/zorvex/flickr/xpc"),
+                                               QStringLiteral("com.zorvex.flickr.xpc"), QStringLiteral("uploadPosts"));
+    QList<QDBusUnixFileDescriptor> descriptors;
+    for (const int file : files)
+        descriptors.append(QDBusUnixFileDescriptor(file));
+    call << messageID << records << QVariant::fromValue(descriptors);
+    return bus->connection().call(call, QDBus::Block, 60'000);
+}
+
+QVariant ServiceHarness::ask(QAnyStringView method, const QVariantList &arguments) {
+    auto call = QDBusMessage::createMethodCall(FlickrRemoteServiceName, UploadsInterface::path(),
+                                               UploadsInterface::name(), method.toString());
     call.setArguments(arguments);
-    return connection().call(call, QDBus::Block, 30'000).arguments().value(0);
+    return bus->connection().call(call, QDBus::Block, 30'000).arguments().value(0);
 }
 
 QList<QVariantMap> ServiceHarness::uploads() {
-    return qdbus_cast<QList<QVariantMap>>(ask(QStringLiteral("List"), {qint64(0), quint32(1000)}));
+    return qdbus_cast<QList<QVariantMap>>(ask("List", {qint64(0), quint32(1000)}));
 }
 
-int ServiceHarness::countInState(const QString &state) {
-    int count = 0;
-    for (const QVariantMap &upload : uploads())
-        count += upload.value(QStringLiteral("state")) == state;
-    return count;
+QString ServiceHarness::valueOf(int upload, const char *key) {
+    return uploads().value(upload).value(QLatin1String(key)).toString();
 }
 
-bool ServiceHarness::waitForState(const QString &state, int count, int timeoutMilliseconds) {
+QString ServiceHarness::errorOf(int upload) {
+    const auto error = qdbus_cast<QVariantMap>(uploads().value(upload).value(QStringLiteral("error")));
+    return error.value(QStringLiteral("description")).toString();
+}
+
+int ServiceHarness::countInState(QAnyStringView state) {
+    const auto all = uploads();
+    return int(std::count_if(all.begin(), all.end(), [&](const QVariantMap &upload) {
+        return upload.value(QStringLiteral("state")).toString() == state.toString();
+    }));
+}
+
+bool ServiceHarness::waitForState(QAnyStringView state, int count, int timeoutMilliseconds) {
     // Looked at seldom enough not to be what keeps the service busy.
     QElapsedTimer sinceLook;
     return waitFor(
@@ -87,12 +87,12 @@ bool ServiceHarness::waitForState(const QString &state, int count, int timeoutMi
 }
 
 qint64 ServiceHarness::servicePid() {
-    const auto reply = connection().interface()->servicePid(QStringLiteral("com.zorvex.flickr.xpc"));
+    const auto reply = bus->connection().interface()->servicePid(FlickrRemoteServiceName);
     return reply.isValid() ? reply.value() : 0;
 }
 
 void ServiceHarness::startService() {
-    ask(QStringLiteral("Get"), {QStringList()});
+    ask("Get", {QStringList()});
 }
 
 void ServiceHarness::killService(int signal) {
@@ -100,11 +100,6 @@ void ServiceHarness::killService(int signal) {
     if (pid <= 0) return;
     ::kill(pid_t(pid), signal);
     waitFor([&] { return servicePid() != pid; });
-}
-
-QString ServiceHarness::log() const {
-    QFile file(home.path(QStringLiteral("service.log")));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 } // namespace korvane::test

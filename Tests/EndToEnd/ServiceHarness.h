@@ -3,11 +3,13 @@
 
 #include "Korvane/FlickrPost.h"
 #include "Tests/Support/StandInAccount.h"
-#include "Tests/Support/WaitFor.h"
+#include "Tests/Support/TestBus.h"
+#include "Tests/Support/Testing.h"
 
-#include <QDBusConnection>
-#include <QProcess>
+#include <QDBusMessage>
 #include <QVariantMap>
+
+#include <csignal>
 
 namespace korvane::test {
 
@@ -21,28 +23,39 @@ public:
     // Hands posts over as a front end does. Returns what the client returned.
     bool share(const std::vector<std::shared_ptr<FlickrPost>> &posts, std::optional<NSError> *error = nullptr);
     std::shared_ptr<FlickrPost> post(const QByteArray &bytes, qint64 album = 0) const;
+    // The message itself, records of any type and descriptors of any kind.
+    QDBusMessage handOver(const QString &messageID, const QVariant &records, const QList<int> &files = {});
 
     // Calls of the status interface.
-    QVariant ask(const QString &method, const QVariantList &arguments = {});
+    QVariant ask(QAnyStringView method, const QVariantList &arguments = {});
     QList<QVariantMap> uploads();
-    int countInState(const QString &state);
-    bool waitForState(const QString &state, int count, int timeoutMilliseconds = 60'000);
+    // Of the uploads, the first being 0. What people are told of its error; empty if there is none.
+    QString valueOf(int upload, const char *key);
+    QString errorOf(int upload);
+    int countInState(QAnyStringView state);
+    bool waitForState(QAnyStringView state, int count, int timeoutMilliseconds = 60'000);
 
     qint64 servicePid(); // 0 while none runs
     void startService();
     void killService(int signal);
-    void stopBus();
 
     // The service's log so far.
-    QString log() const;
+    QString log() const { return QString::fromUtf8(home.contents("service.log")); }
 
     TemporaryHome home;
     StandInAccount flickr;
-    QProcess bus;
+    std::optional<TestBus> bus;
     QString busAddress;
+};
 
-    QDBusConnection connection() const;
-    void disconnect() const;
+// A test on the whole way; shows the service's log where it fails.
+class ServiceTest : public ::testing::Test, public ServiceHarness {
+public:
+    void TearDown() override {
+        if (bus) killService(SIGTERM);
+        EXPECT_FALSE(log().contains(QStringLiteral("Sanitizer")));
+        if (HasFailure()) printf("service log:\n%s\n", qPrintable(log()));
+    }
 };
 
 } // namespace korvane::test

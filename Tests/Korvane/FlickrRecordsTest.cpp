@@ -3,13 +3,35 @@
 #include "Korvane/FlickrPost.h"
 #include "Korvane/FlickrResponse.h"
 #include "Korvane/KorvaneAdditions.h"
-#include "Tests/Support/Printing.h"
-#include "Tests/Support/TemporaryHome.h"
-
-#include <gtest/gtest.h>
+#include "Tests/Support/Testing.h"
 
 using namespace korvane;
 using namespace korvane::test;
+
+namespace {
+
+// Every key of a record, as it crosses between the programs.
+const QString address = QStringLiteral("assets-library://asset/asset.JPG?id=pictures%2Fa%7E&ext=JPG");
+const QVariantMap fullRecord{{QStringLiteral("assetURL"), address},
+                             {QStringLiteral("photoData"), QVariant::fromValue(NSData("bytes"))},
+                             {QStringLiteral("title"), QStringLiteral("Title")},
+                             {QStringLiteral("description"), QStringLiteral("Words")},
+                             {QStringLiteral("tags"), QStringList{QStringLiteral("a"), QStringLiteral("b c")}},
+                             {QStringLiteral("photoSetID"), Q_INT64_C(72157600000000001)},
+                             {QStringLiteral("visibility"), qint32(6)},
+                             {QStringLiteral("safetyLevel"), qint32(2)},
+                             {QStringLiteral("contentType"), qint32(3)},
+                             {QStringLiteral("hidden"), true}};
+
+void expectRecord(const QVariantMap &actual, const QVariantMap &expected) {
+    EXPECT_EQ(actual.keys(), expected.keys());
+    for (auto entry = expected.begin(); entry != expected.end(); ++entry) {
+        EXPECT_EQ(actual.value(entry.key()), *entry) << entry.key().toStdString();
+        EXPECT_EQ(actual.value(entry.key()).typeId(), entry->typeId()) << entry.key().toStdString();
+    }
+}
+
+} // namespace
 
 TEST(QueryEncoding, EscapesAllButUnreservedCharactersAndSortsByCode) {
     EXPECT_EQ(EncodedStringForParameterDictionary({}), QString());
@@ -26,39 +48,36 @@ TEST(QueryEncoding, EscapesAllButUnreservedCharactersAndSortsByCode) {
               QStringLiteral("%C3%BC-._~%21%2A%27%28%29%3B%3A%40%26%3D%2B%24%2C%2F%3F%25%23%5B%5D%22%3C%0A%2541"));
 }
 
-TEST(FlickrPostRecord, HoldsOnlyWhatIsSetAndTheFiveNumbers) {
+TEST(FlickrPostRecord, HoldsEveryPropertyUnderItsKey) {
     const auto post = FlickrPost::init();
+    post->assetURL = NSURL::URLWithString(address);
     post->photoData = NSData("bytes");
-    EXPECT_EQ(post->serializedDictionary().keys(),
-              (QStringList{QStringLiteral("contentType"), QStringLiteral("hidden"), QStringLiteral("photoData"),
-                           QStringLiteral("photoSetID"), QStringLiteral("safetyLevel"), QStringLiteral("visibility")}));
-    post->tags = QStringList();
-    post->title = QString();
-    EXPECT_TRUE(post->serializedDictionary().contains(QStringLiteral("tags")));
-    EXPECT_TRUE(post->serializedDictionary().contains(QStringLiteral("title")));
-}
-
-TEST(FlickrPostRecord, ComesBackEqualInEveryProperty) {
-    const auto post = FlickrPost::init();
-    post->assetURL =
-        NSURL::URLWithString(QStringLiteral("assets-library://asset/asset.JPG?id=pictures%2Fa%7E&ext=JPG"));
-    post->photoData = NSData(jpegOfSize(100));
     post->title = QStringLiteral("Title");
     post->postDescription = QStringLiteral("Words");
     post->tags = QStringList{QStringLiteral("a"), QStringLiteral("b c")};
     post->photoSetID = Q_INT64_C(72157600000000001);
-    post->visibility = 6;
+    post->visibility = FlickrVisibilityFriends | FlickrVisibilityFamily;
     post->safetyLevel = 2;
     post->contentType = 3;
     post->hidden = true;
-    const auto copy = FlickrPost::initWithDictionary(post->serializedDictionary());
-    EXPECT_EQ(copy->assetURL, post->assetURL);
-    EXPECT_EQ(copy->photoData, post->photoData);
-    QVariantMap expected = post->serializedDictionary();
-    QVariantMap actual = copy->serializedDictionary();
-    expected.remove(QStringLiteral("photoData"));
-    actual.remove(QStringLiteral("photoData"));
-    EXPECT_EQ(actual, expected);
+    expectRecord(post->serializedDictionary(), fullRecord);
+    expectRecord(FlickrPost::initWithDictionary(fullRecord)->serializedDictionary(), fullRecord);
+}
+
+TEST(FlickrPostRecord, HoldsOnlyWhatIsSetAndTheFiveNumbers) {
+    const auto post = FlickrPost::init();
+    QVariantMap expected{{QStringLiteral("photoSetID"), qint64(0)},
+                         {QStringLiteral("visibility"), qint32(0)},
+                         {QStringLiteral("safetyLevel"), qint32(0)},
+                         {QStringLiteral("contentType"), qint32(0)},
+                         {QStringLiteral("hidden"), false}};
+    expectRecord(post->serializedDictionary(), expected);
+    expectRecord(FlickrPost::initWithDictionary({})->serializedDictionary(), expected);
+    post->tags = QStringList();
+    post->title = QString();
+    expected.insert(QStringLiteral("tags"), QStringList());
+    expected.insert(QStringLiteral("title"), QString());
+    expectRecord(post->serializedDictionary(), expected);
 }
 
 TEST(FlickrPostRecord, TakesWhatItCanFromARecordOfAnyKind) {
@@ -79,14 +98,13 @@ TEST(FlickrPostRecord, TakesWhatItCanFromARecordOfAnyKind) {
 }
 
 TEST(FlickrResponse, ReadsTheAnswerAsItsEventsCome) {
-    struct Case {
+    const struct {
         const char *body;
         bool success;
         qint64 photoID;
         qint32 code;
         std::optional<QString> description;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"<rsp stat=\"ok\"><photoid>53000000001</photoid></rsp>", true, 53000000001, 0, {}},
         {"<rsp stat=\"ok\"><photoid> 12<![CDATA[34]]>x</photoid></rsp>", true, 1234, 0, {}},
         {"<rsp stat=\"fail\"><err code=\"5\" msg=\"Filetype &amp; more\"/></rsp>", false, 0, 5,
@@ -103,13 +121,13 @@ TEST(FlickrResponse, ReadsTheAnswerAsItsEventsCome) {
         {"\xff\xfe", false, 0, -1, {}},
         {"cut off in a character \xc3", false, 0, -1, {}},
     };
-    for (const Case &test : cases) {
-        SCOPED_TRACE(test.body);
-        const auto response = FlickrResponse::responseWithData(NSData(test.body));
-        EXPECT_EQ(response->isSuccess(), test.success);
-        EXPECT_EQ(response->photoID, test.photoID);
-        EXPECT_EQ(response->errorCode, test.code);
-        EXPECT_EQ(response->errorDescription, test.description);
+    for (const auto &[body, success, photoID, code, description] : cases) {
+        SCOPED_TRACE(body);
+        const auto response = FlickrResponse::responseWithData(NSData(body));
+        EXPECT_EQ(response->isSuccess(), success);
+        EXPECT_EQ(response->photoID, photoID);
+        EXPECT_EQ(response->errorCode, code);
+        EXPECT_EQ(response->errorDescription, description);
     }
 }
 
@@ -118,7 +136,10 @@ TEST(FlickrPhotoSetResponse, ListsTheSetsBehindTheNoSetEntry) {
                             "server=\"x\" secret=\"s\">"
                             "<title>A &amp; <![CDATA[B]]></title><description>d</description></photoset>"
                             "<photoset id=\"2\"><title/></photoset>";
-    const auto sets = FlickrPhotoSetResponse::responseWithData(NSData(body + "</photosets></rsp>"))->photoSets;
+    const auto setsIn = [](const std::optional<NSData> &data) {
+        return FlickrPhotoSetResponse::responseWithData(data)->photoSets;
+    };
+    const auto sets = setsIn(NSData(body + "</photosets></rsp>"));
     ASSERT_EQ(sets.size(), 3u);
     EXPECT_EQ(sets[0].identifier, 0);
     EXPECT_EQ(sets[0].title, QStringLiteral("No album"));
@@ -134,10 +155,7 @@ TEST(FlickrPhotoSetResponse, ListsTheSetsBehindTheNoSetEntry) {
     EXPECT_TRUE(sets[1].description().endsWith(
         QStringLiteral(" -- Title: A & B Description: d (id: 72157600000000001 primary photo: 9)")));
 
-    EXPECT_EQ(FlickrPhotoSetResponse::responseWithData(NSData(body))->photoSets.size(), 3u)
-        << "what came before a break stands";
-    EXPECT_EQ(FlickrPhotoSetResponse::responseWithData(NSData("<rsp stat=\"fail\"><err code=\"98\"/></rsp>"))
-                  ->photoSets.size(),
-              1u);
-    EXPECT_EQ(FlickrPhotoSetResponse::responseWithData(std::nullopt)->photoSets.size(), 1u);
+    EXPECT_EQ(setsIn(NSData(body)).size(), 3u) << "what came before a break stands";
+    EXPECT_EQ(setsIn(NSData("<rsp stat=\"fail\"><err code=\"98\"/></rsp>")).size(), 1u);
+    EXPECT_EQ(setsIn(std::nullopt).size(), 1u);
 }

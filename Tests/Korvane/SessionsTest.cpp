@@ -4,14 +4,10 @@
 #include "Korvane/KRLog.h"
 #include "Korvane/KRRemoteSession.h"
 #include "Platform/Accounts/ACAccountStore.h"
+#include "Platform/Power/PowerAssertion.h"
 #include "Platform/Preferences/CFPreferences.h"
-#include "Tests/Support/LogCapture.h"
-#include "Tests/Support/Printing.h"
-#include "Tests/Support/TemporaryHome.h"
-
-#include <QCoreApplication>
-
-#include <gtest/gtest.h>
+#include "Tests/Support/FakeLogind.h"
+#include "Tests/Support/Testing.h"
 
 #include <thread>
 
@@ -71,28 +67,33 @@ TEST(KRLogDeathTest, WritesItsLinesWhenSwitchedOnBeforeTheFirst) {
 }
 
 TEST(KRRemoteSession, HoldsOneAssertionForAllAndRenewsItWhenItIsOld) {
+    FakeLogind logind;
     double now = 1000;
-    int clockReadings = 0;
-    KRRemoteSession::setClock([&] {
-        ++clockReadings;
-        return now;
-    });
-    const auto renewed = [&](double at) {
-        now = at;
-        clockReadings = 0;
-        KRRemoteSession::refreshPowerAssertion();
-        return clockReadings > 1; // a renewal reads the clock once more for the new start
+    KRRemoteSession::setClock([&now] { return now; });
+    // How often logind is asked for a lock. The test's own call, which comes last, shows that no other is on its way.
+    const auto locksAskedFor = [&](const std::function<void()> &during) {
+        logind.calls.clear();
+        during();
+        const auto last = PowerAssertionCreate(QStringLiteral("last"), 600);
+        EXPECT_TRUE(waitFor([&] { return last->isHeld(); }));
+        return logind.calls.filter(QStringLiteral("block com.zorvex.korvane")).size();
     };
-    EXPECT_FALSE(renewed(1000)) << "idle";
-    KRRemoteSession::incrementPowerAssertion();
-    KRRemoteSession::incrementPowerAssertion();
-    EXPECT_FALSE(renewed(1300));
-    EXPECT_TRUE(renewed(1300.5));
-    EXPECT_FALSE(renewed(1600.5));
+    const auto renewals = [&](double at) {
+        now = at;
+        return locksAskedFor(KRRemoteSession::refreshPowerAssertion);
+    };
+    EXPECT_EQ(renewals(1000), 0) << "idle";
+    EXPECT_EQ(locksAskedFor(KRRemoteSession::incrementPowerAssertion), 1);
+    EXPECT_EQ(locksAskedFor(KRRemoteSession::incrementPowerAssertion), 1) << "each starts the time anew";
+    EXPECT_EQ(renewals(1300), 0);
+    EXPECT_EQ(renewals(1300.5), 1);
+    EXPECT_EQ(renewals(1600.5), 0);
+    EXPECT_EQ(locksAskedFor(KRRemoteSession::decrementPowerAssertion), 0);
+    EXPECT_EQ(renewals(1900), 1) << "one still holds it";
+    EXPECT_TRUE(waitFor([&] { return logind.held() == 1; }));
     KRRemoteSession::decrementPowerAssertion();
-    EXPECT_TRUE(renewed(1900)) << "one still holds it";
-    KRRemoteSession::decrementPowerAssertion();
-    EXPECT_FALSE(renewed(5000)) << "idle again";
+    EXPECT_TRUE(waitFor([&] { return logind.held() == 0; }));
+    EXPECT_EQ(renewals(5000), 0) << "idle again";
     KRRemoteSession::setClock({});
 }
 

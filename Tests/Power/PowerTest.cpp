@@ -1,62 +1,27 @@
 // Power assertions against a logind on a private bus, and the launcher's mark.
 #include "Platform/Foundation/NSData.h"
-#include "Platform/Foundation/NSLog.h"
 #include "Platform/Power/PowerAssertion.h"
 #include "Platform/Power/SystemProgressIndicator.h"
-#include "Tests/Power/FakeLogind.h"
-#include "Tests/TestBus.h"
+#include "Tests/Support/FakeLogind.h"
+#include "Tests/Support/Testing.h"
 
-#include <QCoreApplication>
+#include <QDBusConnectionInterface>
+#include <QDBusReply>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-
-namespace korvane {
+namespace korvane::test {
 namespace {
 
 const QString reason = QStringLiteral("com.zorvex.test");
 
-bool waitFor(const std::function<bool()> &predicate) {
-    for (const QDeadlineTimer deadline(5000); !deadline.hasExpired();) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-        if (predicate()) return true;
-    }
-    return false;
-}
-
-// QtDBus keeps its system and session bus for the life of the process: all tests share one daemon.
-TestBus &sharedBus() {
-    static TestBus bus;
-    return bus;
-}
-
 class Power : public testing::Test {
 protected:
-    static void SetUpTestSuite() {
-        ASSERT_TRUE(sharedBus().start(QStringLiteral("system")));
-        qputenv("DBUS_SYSTEM_BUS_ADDRESS", sharedBus().address());
-        qputenv("DBUS_SESSION_BUS_ADDRESS", sharedBus().address());
-    }
-    void SetUp() override {
-        setLogSink([this](const QString &line) { log.append(line); });
-        QDBusConnection bus = sharedBus().connection();
-        ASSERT_TRUE(
-            bus.registerObject(QStringLiteral("/org/freedesktop/login1"), &logind, QDBusConnection::ExportAllSlots));
-        ASSERT_TRUE(bus.registerService(QStringLiteral("org.freedesktop.login1")));
-    }
-    void TearDown() override {
-        sharedBus().connection().unregisterObject(QStringLiteral("/org/freedesktop/login1"));
-        setLogSink(nullptr);
-    }
-
     FakeLogind logind;
-    QStringList log;
+    LogCapture log;
 };
 
 TEST_F(Power, HoldsALockUntilTheAssertionGoes) {
     auto assertion = PowerAssertionCreate(reason, 600);
-    EXPECT_FALSE(assertion->isHeld()); // nothing waits for the answer
+    EXPECT_FALSE(assertion->isHeld()) << "nothing waits for the answer";
     ASSERT_TRUE(waitFor([&] { return assertion->isHeld(); }));
     EXPECT_EQ(logind.calls, QStringList{QStringLiteral("sleep:idle block com.zorvex.test")});
     EXPECT_TRUE(logind.isHeld(0));
@@ -69,31 +34,27 @@ TEST_F(Power, HoldsALockUntilTheAssertionGoes) {
         ++copies;
         EXPECT_TRUE(::fcntl(descriptor, F_GETFD) & FD_CLOEXEC) << descriptor;
     }
-    EXPECT_GE(copies, 2); // both ends
+    EXPECT_GE(copies, 2) << "both ends";
     assertion = nullptr;
     EXPECT_TRUE(waitFor([&] { return !logind.isHeld(0); }));
-    EXPECT_TRUE(log.isEmpty());
+    EXPECT_EQ(log.lines(), QStringList());
 }
 
 TEST_F(Power, LetsGoWhenTheTimeIsOver) {
     const auto assertion = PowerAssertionCreate(reason, 0.05);
     ASSERT_TRUE(waitFor([&] { return logind.locks.size() == 1 && !logind.isHeld(0); }));
     EXPECT_FALSE(assertion->isHeld());
-    logind.answersLate = true;
-    const auto late = PowerAssertionCreate(reason, 0);
-    ASSERT_TRUE(waitFor([&] { return logind.waiting.size() == 1; }));
-    logind.answerNow();
-    EXPECT_TRUE(waitFor([&] { return !logind.isHeld(1); }));
-    EXPECT_FALSE(late->isHeld());
 }
 
-TEST_F(Power, GivesBackALockThatArrivesAfterTheAssertionWent) {
+TEST_F(Power, GivesBackALockThatArrivesTooLate) {
     logind.answersLate = true;
-    auto assertion = PowerAssertionCreate(reason, 600);
-    ASSERT_TRUE(waitFor([&] { return logind.waiting.size() == 1; }));
-    assertion = nullptr;
+    auto gone = PowerAssertionCreate(reason, 600);
+    const auto timedOut = PowerAssertionCreate(reason, 0);
+    ASSERT_TRUE(waitFor([&] { return logind.waiting.size() == 2; }));
+    gone = nullptr;
     logind.answerNow();
-    EXPECT_TRUE(waitFor([&] { return !logind.isHeld(0); }));
+    EXPECT_TRUE(waitFor([&] { return logind.held() == 0; }));
+    EXPECT_FALSE(timedOut->isHeld());
 }
 
 TEST_F(Power, DelaysSleepWhereItMayNotBlockAndSaysOnceThatItMayDoNeither) {
@@ -101,19 +62,34 @@ TEST_F(Power, DelaysSleepWhereItMayNotBlockAndSaysOnceThatItMayDoNeither) {
     const auto delaying = PowerAssertionCreate(reason, 600);
     ASSERT_TRUE(waitFor([&] { return delaying->isHeld(); }));
     EXPECT_EQ(logind.calls.last(), QStringLiteral("sleep delay com.zorvex.test"));
-    EXPECT_TRUE(log.isEmpty());
+    EXPECT_EQ(log.lines(), QStringList());
 
     logind.refusedModes = {QStringLiteral("block"), QStringLiteral("delay")};
     const auto first = PowerAssertionCreate(reason, 600);
     const auto second = PowerAssertionCreate(reason, 600);
-    ASSERT_TRUE(waitFor([&] { return logind.calls.size() == 6 && !log.isEmpty(); }));
+    ASSERT_TRUE(waitFor([&] { return logind.calls.size() == 6 && !log.lines().isEmpty(); }));
     QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
     EXPECT_FALSE(first->isHeld() || second->isHeld());
-    EXPECT_EQ(log.size(), 1);
+    EXPECT_EQ(log.lines().size(), 1);
 }
 
+// Hears what launchers are told.
+class LauncherEar : public QObject {
+    Q_OBJECT
+
+public:
+    QString entry;
+    QList<bool> heard;
+
+public Q_SLOTS:
+    void update(const QString &application, const QVariantMap &properties) {
+        entry = application;
+        heard.append(properties.value(QStringLiteral("progress-visible")).toBool());
+    }
+};
+
 TEST_F(Power, TellsLaunchersWhatIsUnderWay) {
-    QDBusConnection bus = sharedBus().connection();
+    QDBusConnection bus = FakeLogind::bus();
     LauncherEar ear;
     ASSERT_TRUE(bus.connect(QString(), QString(), QStringLiteral("com.canonical.Unity.LauncherEntry"),
                             QStringLiteral("Update"), &ear, SLOT(update(QString, QVariantMap))));
@@ -146,10 +122,6 @@ TEST(PowerWithoutBus, ChangesNothing) {
 }
 
 } // namespace
-} // namespace korvane
+} // namespace korvane::test
 
-int main(int argc, char **argv) {
-    testing::InitGoogleTest(&argc, argv);
-    const QCoreApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}
+#include "PowerTest.moc"

@@ -1,50 +1,31 @@
 // A configuration folder of its own, and the log lines that a test causes.
 #pragma once
 
-#include "Platform/Foundation/NSLog.h"
+#include "Tests/Support/Testing.h"
 
-#include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
-#include <mutex>
-
-namespace korvane {
+namespace korvane::test {
 
 class PreferencesFixture : public testing::Test {
 protected:
     PreferencesFixture() {
-        qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.path()));
-        qunsetenv("KORVANE_FLICKR_URL");
-        qunsetenv("KORVANE_VIMEO_URL");
-        setLogSink([this](const QString &line) {
-            const std::lock_guard lock(logMutex);
-            log.append(line);
-        });
-    }
-    ~PreferencesFixture() override { setLogSink(nullptr); }
-
-    QString fileOf(const QString &domain) const {
-        return folder.path() + QStringLiteral("/korvane/preferences/") + domain + QStringLiteral(".json");
-    }
-    // Replaces the domain's file the way another program would.
-    void put(const QString &domain, const QByteArray &text) {
-        ASSERT_TRUE(QDir().mkpath(folder.path() + QStringLiteral("/korvane/preferences")));
-        QFile::remove(fileOf(domain));
-        QFile file(fileOf(domain));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
-    QByteArray contents(const QString &path) const {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        for (const auto *variable : {"KORVANE_FLICKR_URL", "KORVANE_VIMEO_URL"})
+            home.setEnvironment(variable, {});
     }
 
-    QTemporaryDir folder;
-    std::mutex logMutex;
-    QStringList log;
+    // The domain's file, below the home folder.
+    static QString fileOf(const QString &domain) {
+        return QStringLiteral("config/korvane/preferences/%1.json").arg(domain);
+    }
+    // Replaces it the way another program would.
+    void put(const QString &domain, const QByteArray &text) const {
+        QFile::remove(home.path(fileOf(domain)));
+        home.file(fileOf(domain), text);
+    }
+
+    TemporaryHome home;
+    LogCapture log;
 };
 
-} // namespace korvane
+} // namespace korvane::test

@@ -4,6 +4,7 @@
 #include "Tests/Preferences/PreferencesFixture.h"
 
 #include <QCoreApplication>
+#include <QDir>
 
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -11,46 +12,47 @@
 #include <limits>
 #include <thread>
 
-namespace korvane {
+namespace korvane::test {
 namespace {
 
 const QString domain = QStringLiteral("com.zorvex.test");
 
-class Preferences : public PreferencesFixture {};
-
-// Sets keys "<name>0"… one by one, synchronizing after each. False if one could not be saved.
-bool writeKeys(const QString &name, int count) {
-    bool saved = true;
-    for (int i = 0; i < count; ++i) {
-        CFPreferencesSetAppValue(name + QString::number(i), i, domain);
-        saved = CFPreferencesAppSynchronize(domain) && saved;
-    }
-    return saved;
+QVariant valueOf(const QString &key) {
+    return CFPreferencesCopyAppValue(key, domain);
+}
+QVariant valueOf(const char *key) {
+    return valueOf(QLatin1String(key));
+}
+void set(const QString &key, const QVariant &value) {
+    CFPreferencesSetAppValue(key, value, domain);
+}
+bool synchronize() {
+    return CFPreferencesAppSynchronize(domain);
 }
 
+class Preferences : public PreferencesFixture {};
+
 TEST_F(Preferences, LosesNothingWhenProcessesAndThreadsWriteAtOnce) {
-    constexpr int keys = 40;
-    std::vector<pid_t> children;
-    for (int process = 0; process < 2; ++process) {
-        const pid_t child = ::fork();
-        if (child == 0) ::_exit(writeKeys(QStringLiteral("process%1.").arg(process), keys) ? 0 : 1);
-        children.push_back(child);
-    }
-    std::vector<std::thread> threads;
-    for (int thread = 0; thread < 2; ++thread)
-        threads.emplace_back([thread] { writeKeys(QStringLiteral("thread%1.").arg(thread), keys); });
-    for (auto &thread : threads)
-        thread.join();
-    for (const pid_t child : children) {
-        int status = -1;
-        ASSERT_EQ(::waitpid(child, &status, 0), child);
-        EXPECT_EQ(status, 0);
-    }
-    ASSERT_TRUE(CFPreferencesAppSynchronize(domain));
-    for (const auto *name : {"process0.", "process1.", "thread0.", "thread1."})
-        for (int i = 0; i < keys; ++i)
-            EXPECT_EQ(CFPreferencesCopyAppValue(QLatin1String(name) + QString::number(i), domain), QVariant(i))
-                << name << i;
+    const auto writeKeys = [](const char *name) {
+        bool saved = true;
+        for (int i = 0; i < 40; ++i) {
+            set(QLatin1String(name) + QString::number(i), i);
+            saved = synchronize() && saved;
+        }
+        return saved;
+    };
+    const pid_t child = ::fork();
+    if (child == 0) ::_exit(writeKeys("child") ? 0 : 1);
+    std::thread thread([&] { EXPECT_TRUE(writeKeys("thread")); });
+    EXPECT_TRUE(writeKeys("main"));
+    thread.join();
+    int status = -1;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+    ASSERT_TRUE(synchronize());
+    for (const auto *name : {"child", "thread", "main"})
+        for (int i = 0; i < 40; ++i)
+            EXPECT_EQ(valueOf(QLatin1String(name) + QString::number(i)), QVariant(i)) << name << i;
 }
 
 TEST_F(Preferences, KeepsTypesAndExactNumbersThroughTheFile) {
@@ -65,72 +67,65 @@ TEST_F(Preferences, KeepsTypesAndExactNumbersThroughTheFile) {
         {QStringLiteral("list"), QVariantList{Q_INT64_C(1), QStringLiteral("b"), QVariantList{}}},
         {QStringLiteral("map"), QVariantMap{{QStringLiteral("k"), QVariantMap{{QString(), false}}}}},
     };
+    put(domain, R"({"flag": 1})"); // changes its type alone
     for (auto value = values.begin(); value != values.end(); ++value)
-        CFPreferencesSetAppValue(value.key(), *value, domain);
-    ASSERT_TRUE(CFPreferencesAppSynchronize(domain));
+        set(value.key(), *value);
+    ASSERT_TRUE(synchronize());
     for (auto value = values.begin(); value != values.end(); ++value) {
-        const QVariant read = CFPreferencesCopyAppValue(value.key(), domain);
-        EXPECT_EQ(read, *value) << value.key().toStdString();
-        EXPECT_EQ(read.typeId(), value->typeId()) << value.key().toStdString();
+        EXPECT_EQ(valueOf(value.key()), *value) << value.key().toStdString();
+        EXPECT_EQ(valueOf(value.key()).typeId(), value->typeId()) << value.key().toStdString();
     }
     struct stat status;
-    ASSERT_EQ(::stat(qPrintable(fileOf(domain)), &status), 0);
+    ASSERT_EQ(::stat(qPrintable(home.path(fileOf(domain))), &status), 0);
     EXPECT_EQ(status.st_mode & 0777, 0600U);
-}
-
-TEST_F(Preferences, SavesAValueThatOnlyChangesItsType) {
-    put(domain, R"({"on": 1})");
-    CFPreferencesSetAppValue(QStringLiteral("on"), true, domain);
-    ASSERT_TRUE(CFPreferencesAppSynchronize(domain));
-    EXPECT_EQ(CFPreferencesCopyAppValue(QStringLiteral("on"), domain).typeId(), QMetaType::Bool);
 }
 
 TEST_F(Preferences, ShowsOwnChangesAtOnceAndOthersAfterSynchronizing) {
     put(domain, R"({"a": 1, "b": 2})");
-    const QString a = QStringLiteral("a"), b = QStringLiteral("b"), absent = QStringLiteral("absent");
-    EXPECT_EQ(CFPreferencesCopyAppValue(a, domain), QVariant(1));
-    EXPECT_FALSE(CFPreferencesCopyAppValue(absent, domain).isValid());
-    CFPreferencesSetAppValue(a, {}, domain);
+    EXPECT_EQ(valueOf("a"), QVariant(1));
+    EXPECT_FALSE(valueOf("absent").isValid());
+    set(QStringLiteral("a"), {});
     put(domain, R"({"a": 1, "b": 3, "c": null})");
-    EXPECT_FALSE(CFPreferencesCopyAppValue(a, domain).isValid());
-    EXPECT_EQ(CFPreferencesCopyAppValue(b, domain), QVariant(2));
-    ASSERT_TRUE(CFPreferencesAppSynchronize(domain));
-    EXPECT_FALSE(CFPreferencesCopyAppValue(a, domain).isValid());
-    EXPECT_EQ(CFPreferencesCopyAppValue(b, domain), QVariant(3));
-    EXPECT_EQ(contents(fileOf(domain)).simplified(), R"({ "b": 3, "c": null })");
+    EXPECT_FALSE(valueOf("a").isValid());
+    EXPECT_EQ(valueOf("b"), QVariant(2));
+    ASSERT_TRUE(synchronize());
+    EXPECT_FALSE(valueOf("a").isValid());
+    EXPECT_EQ(valueOf("b"), QVariant(3));
+    EXPECT_EQ(home.contents(fileOf(domain)).simplified(), R"({ "b": 3, "c": null })");
 }
 
 TEST_F(Preferences, SetsDamagedFilesAsideAndGoesOn) {
     const QByteArray damaged[] = {"{\"a\": 1", "[1, 2]", "", QByteArray(100000, '['), "{\"a\": 1e999}", "\xff\xfe"};
     for (const QByteArray &text : damaged) {
         put(domain, text);
-        log.clear();
-        ASSERT_TRUE(CFPreferencesAppSynchronize(domain));
-        EXPECT_EQ(log.size(), 1) << text.left(20).constData();
-        EXPECT_FALSE(CFPreferencesCopyAppValue(QStringLiteral("a"), domain).isValid());
+        const LogCapture ofThis;
+        ASSERT_TRUE(synchronize());
+        EXPECT_EQ(ofThis.lines().size(), 1) << text.left(20).constData();
+        EXPECT_FALSE(valueOf("a").isValid());
     }
-    EXPECT_EQ(contents(fileOf(domain) + QStringLiteral(".damaged")), damaged[0]);
-    EXPECT_EQ(contents(fileOf(domain) + QStringLiteral(".damaged.2")), damaged[1]);
+    EXPECT_EQ(home.contents(fileOf(domain) + QStringLiteral(".damaged")), damaged[0]);
+    EXPECT_EQ(home.contents(fileOf(domain) + QStringLiteral(".damaged.2")), damaged[1]);
     put(domain, "not JSON");
-    CFPreferencesSetAppValue(QStringLiteral("a"), 7, domain);
-    ASSERT_TRUE(CFPreferencesAppSynchronize(domain));
-    EXPECT_EQ(CFPreferencesCopyAppValue(QStringLiteral("a"), domain), QVariant(7));
+    set(QStringLiteral("a"), 7);
+    ASSERT_TRUE(synchronize());
+    EXPECT_EQ(valueOf("a"), QVariant(7));
 }
 
 TEST_F(Preferences, RefusesWhatCannotBeStoredAndKeepsWhatCouldNotBeSaved) {
     const QString key = QStringLiteral("key");
     for (const QVariant &value : {QVariant(QByteArray("bytes")), QVariant(std::numeric_limits<double>::quiet_NaN()),
                                   QVariant(QVariantList{QByteArray("bytes")})}) {
-        CFPreferencesSetAppValue(key, value, domain);
-        EXPECT_FALSE(CFPreferencesCopyAppValue(key, domain).isValid()) << value.typeName();
+        set(key, value);
+        EXPECT_FALSE(valueOf(key).isValid()) << value.typeName();
     }
-    EXPECT_EQ(log.size(), 3);
-    ASSERT_TRUE(QDir().mkpath(fileOf(domain))); // a folder stands where the file belongs
-    CFPreferencesSetAppValue(key, 1, domain);
-    EXPECT_FALSE(CFPreferencesAppSynchronize(domain));
-    ASSERT_TRUE(QDir().rmdir(fileOf(domain)));
-    EXPECT_TRUE(CFPreferencesAppSynchronize(domain));
-    EXPECT_TRUE(contents(fileOf(domain)).contains("\"key\": 1"));
+    EXPECT_EQ(log.lines().size(), 3);
+    const QString inTheWay = home.path(fileOf(domain)); // a folder stands where the file belongs
+    ASSERT_TRUE(QDir().mkpath(inTheWay));
+    set(key, 1);
+    EXPECT_FALSE(synchronize());
+    ASSERT_TRUE(QDir().rmdir(inTheWay));
+    EXPECT_TRUE(synchronize());
+    EXPECT_TRUE(says(home.contents(fileOf(domain)), "\"key\": 1"));
 }
 
 TEST_F(Preferences, KeepsDomainsInTheirFolder) {
@@ -138,27 +133,28 @@ TEST_F(Preferences, KeepsDomainsInTheirFolder) {
     CFPreferencesSetAppValue(QStringLiteral("a"), 1, outside);
     ASSERT_TRUE(CFPreferencesAppSynchronize(outside));
     EXPECT_EQ(CFPreferencesCopyAppValue(QStringLiteral("a"), outside), QVariant(1));
-    EXPECT_TRUE(QDir(folder.path()).entryList({QStringLiteral("outside*")}).isEmpty());
+    EXPECT_TRUE(QDir(home.path("config")).entryList({QStringLiteral("outside*")}).isEmpty());
 }
 
 TEST_F(Preferences, UserDefaultsLookInTheProgramsDomainThenInGlobalAndSeeChangesAtOnce) {
-    QCoreApplication::setApplicationName(QStringLiteral("some-program"));
-    const NSUserDefaults &defaults = NSUserDefaults::standardUserDefaults();
+    const QString own = QStringLiteral("some-program"), global = QStringLiteral("global");
     const QString flag = QStringLiteral("flag"), number = QStringLiteral("number");
+    QCoreApplication::setApplicationName(own);
+    const NSUserDefaults &defaults = NSUserDefaults::standardUserDefaults();
     EXPECT_FALSE(defaults.boolForKey(flag));
-    put(QStringLiteral("global"), R"({"flag": "YES", "number": "12abc"})");
+    put(global, R"({"flag": "YES", "number": "12abc"})");
     EXPECT_TRUE(defaults.boolForKey(flag));
     EXPECT_EQ(defaults.integerForKey(number), 12);
-    put(QStringLiteral("some-program"), R"({"flag": "no"})");
+    put(own, R"({"flag": "no"})");
     EXPECT_FALSE(defaults.boolForKey(flag));
     EXPECT_EQ(defaults.integerForKey(number), 12);
-    put(QStringLiteral("some-program"), R"({"flag": "ye"})"); // same size, and perhaps the same moment
+    put(own, R"({"flag": "ye"})"); // same size, and perhaps the same moment
     EXPECT_TRUE(defaults.boolForKey(flag));
-    QFile::remove(fileOf(QStringLiteral("some-program")));
+    QFile::remove(home.path(fileOf(own)));
     EXPECT_EQ(defaults.objectForKey(flag), QVariant(QStringLiteral("YES")));
-    CFPreferencesSetAppValue(number, 5, QStringLiteral("global"));
+    CFPreferencesSetAppValue(number, 5, global);
     EXPECT_EQ(defaults.integerForKey(number), 5);
 }
 
 } // namespace
-} // namespace korvane
+} // namespace korvane::test

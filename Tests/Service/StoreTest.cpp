@@ -3,13 +3,10 @@
 #include "Service/RecordCodec.h"
 #include "Service/Spool.h"
 #include "Service/UploadStore.h"
-#include "Tests/Support/Printing.h"
-#include "Tests/Support/TemporaryHome.h"
+#include "Tests/Support/Testing.h"
 
 #include <QDir>
 #include <QFile>
-
-#include <gtest/gtest.h>
 
 #include <sys/stat.h>
 
@@ -18,19 +15,27 @@ using namespace korvane::test;
 
 namespace {
 
-NewUpload upload(const char *title, const QString &spool = {}) {
+NewUpload upload(const char *title) {
     NewUpload upload;
     upload.job.service = flickrServiceID;
     upload.job.title = QString::fromUtf8(title);
-    upload.job.spoolFile = spool;
     upload.record = title;
     return upload;
 }
 
+// All of them: does not compile once there is another.
+auto fieldsOf(const UploadJob &job) {
+    const auto &[id, service, state, waitReason, title, accountID, accountName, spoolFile, source, photoID, bytesTotal,
+                 attempts, failures, failingSince, deaths, createdAt, finishedAt, nextTryAt, error] = job;
+    return std::tie(id, service, state, waitReason, title, accountID, accountName, spoolFile, source, photoID,
+                    bytesTotal, attempts, failures, failingSince, deaths, createdAt, finishedAt, nextTryAt, error);
+}
+
 struct Store : ::testing::Test {
     TemporaryHome home;
+    const QString path = home.path("queue.sqlite");
     UploadStore store;
-    void SetUp() override { ASSERT_TRUE(store.open(home.path(QStringLiteral("queue.sqlite")), nullptr)); }
+    void SetUp() override { ASSERT_TRUE(store.open(path, nullptr)); }
 
     std::vector<UploadJob> running(int count) {
         std::vector<NewUpload> uploads(size_t(count), upload("t"));
@@ -49,7 +54,7 @@ struct Store : ::testing::Test {
 TEST(RecordCodec, KeepsEveryPropertyListValueAndDropsOthers) {
     const TemporaryHome home;
     const QByteArray bytes = jpegOfSize(9000);
-    const QByteArray path = home.file(QStringLiteral("bytes"), "head" + bytes);
+    const QByteArray path = home.file("bytes", "head" + bytes);
     const auto file = std::make_shared<const FileDescriptor>(::open(path.constData(), O_RDONLY | O_CLOEXEC));
     const QVariantMap record{
         {QStringLiteral("text"), QStringLiteral("日本")},
@@ -99,25 +104,37 @@ TEST_F(Store, CountsItsUploadsByState) {
 }
 
 TEST_F(Store, KeepsEveryFieldOverAReopening) {
-    ASSERT_TRUE(store.take(QStringLiteral("m"), {upload("t", QStringLiteral("spooled"))}, nullptr));
-    UploadJob job = store.jobsAfter(0, 1)[0];
-    job.state = UploadState::Waiting;
-    job.waitReason = WaitReason::SignIn;
-    job.accountID = QStringLiteral("account");
-    job.source = FileIdentity{1, 18446744073709551615ULL, 3, 4};
-    job.photoID = Q_INT64_C(53000000001);
-    job.nextTryAt = 5000;
-    job.error = NSError::errorWithDescription(QStringLiteral("D"), -7, QStringLiteral("text"));
+    NewUpload taken = upload("t");
+    taken.job.accountName = QStringLiteral("name");
+    taken.job.createdAt = 12;
+    ASSERT_TRUE(store.take(QStringLiteral("m"), {taken}, nullptr));
+    UploadJob job = store.jobsAfter(0, 1).at(0);
+    taken.job.id = 1;
+    EXPECT_EQ(fieldsOf(job), fieldsOf(taken.job));
+
+    job = {1,
+           vimeoServiceID,
+           UploadState::Waiting,
+           WaitReason::SignIn,
+           QStringLiteral("title"),
+           QStringLiteral("account"),
+           QStringLiteral("name"),
+           QStringLiteral("spooled"),
+           FileIdentity{1, 18446744073709551615ULL, 3, 4},
+           Q_INT64_C(53000000001),
+           5,
+           6,
+           7,
+           8,
+           9,
+           10,
+           11,
+           5000,
+           NSError::errorWithDescription(QStringLiteral("D"), -7, QStringLiteral("text"))};
     ASSERT_TRUE(store.update(job, true));
     UploadStore second;
-    ASSERT_TRUE(second.open(home.path(QStringLiteral("queue.sqlite")), nullptr));
-    const UploadJob read = *second.job(job.id);
-    EXPECT_EQ(read.state, job.state);
-    EXPECT_EQ(read.waitReason, job.waitReason);
-    EXPECT_EQ(read.accountID, job.accountID);
-    EXPECT_EQ(read.source, job.source);
-    EXPECT_EQ(read.photoID, job.photoID);
-    EXPECT_EQ(read.error, job.error);
+    ASSERT_TRUE(second.open(path, nullptr));
+    EXPECT_EQ(fieldsOf(*second.job(1)), fieldsOf(job));
     EXPECT_EQ(second.nextDue(), 5000);
     EXPECT_EQ(second.spoolFiles(), QSet<QString>{QStringLiteral("spooled")});
 }
@@ -160,38 +177,34 @@ TEST_F(Store, RefusesADatabaseThatIsDamagedAnywhere) {
     qint64 page = 0;
     {
         auto database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("damage"));
-        database.setDatabaseName(home.path(QStringLiteral("queue.sqlite")));
+        database.setDatabaseName(path);
         database.open();
         QSqlQuery(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"), database).next();
         QSqlQuery root(QStringLiteral("SELECT rootpage FROM sqlite_master WHERE name = 'uploads_spool'"), database);
         if (root.next()) page = root.value(0).toLongLong();
     }
     QSqlDatabase::removeDatabase(QStringLiteral("damage"));
-    QFile file(home.path(QStringLiteral("queue.sqlite")));
+    QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) && file.seek((page - 1) * 4096));
     file.write(QByteArray(64, '\xff'));
     std::optional<NSError> error;
-    EXPECT_FALSE(UploadStore().open(home.path(QStringLiteral("queue.sqlite")), &error));
-    ASSERT_TRUE(error);
-    EXPECT_TRUE(error->localizedDescription().contains(QStringLiteral("damaged")))
-        << error->localizedDescription().toStdString();
+    EXPECT_FALSE(UploadStore().open(path, &error));
+    EXPECT_TRUE(says(error, "damaged"));
     EXPECT_FALSE(store.spoolFiles()) << "what the database does not say is not taken for nothing";
 }
 
 TEST_F(Store, RefusesADatabaseThatIsNone) {
-    const QByteArray path = home.file(QStringLiteral("broken.sqlite"), QByteArray(8192, 'x'));
-    UploadStore broken;
+    home.file("broken.sqlite", QByteArray(8192, 'x'));
     std::optional<NSError> error;
-    EXPECT_FALSE(broken.open(QFile::decodeName(path), &error));
-    ASSERT_TRUE(error);
-    EXPECT_TRUE(error->localizedDescription().contains(QStringLiteral("broken.sqlite")));
+    EXPECT_FALSE(UploadStore().open(home.path("broken.sqlite"), &error));
+    EXPECT_TRUE(says(error, "broken.sqlite"));
 }
 
 TEST(Spool, LinksOrCopiesAndSweepsWhatNobodyKnows) {
     const TemporaryHome home;
-    const Spool spool(home.path(QStringLiteral("spool")));
+    const Spool spool(home.path("spool"));
     const QByteArray bytes = jpegOfSize(300'000);
-    const QByteArray named = home.file(QStringLiteral("named"), bytes);
+    const QByteArray named = home.file("named", bytes);
     const FileDescriptor unnamed(::open(QFile::encodeName(home.path()).constData(), O_TMPFILE | O_RDWR, 0600));
     ASSERT_EQ(::write(unnamed.get(), bytes.constData(), bytes.size()), bytes.size());
     const FileDescriptor unlinked(::open(named.constData(), O_RDONLY));
@@ -206,19 +219,19 @@ TEST(Spool, LinksOrCopiesAndSweepsWhatNobodyKnows) {
     }
     EXPECT_EQ(names.size(), 2);
     spool.sweep({*names.begin()});
-    EXPECT_EQ(QDir(home.path(QStringLiteral("spool"))).entryList(QDir::Files), QStringList{*names.begin()});
+    EXPECT_EQ(QDir(home.path("spool")).entryList(QDir::Files), QStringList{*names.begin()});
 
     std::optional<NSError> error;
     const FileDescriptor folder(::open(QFile::encodeName(home.path()).constData(), O_RDONLY));
     EXPECT_FALSE(spool.adopt(folder.get(), &error));
     EXPECT_TRUE(error);
-    EXPECT_EQ(QDir(home.path(QStringLiteral("spool"))).entryList(QDir::Files).size(), 1) << "nothing is left behind";
+    EXPECT_EQ(QDir(home.path("spool")).entryList(QDir::Files).size(), 1) << "nothing is left behind";
 }
 
 TEST(PostCheck, ObjectsToWhatTheUploadCodeWouldDieOf) {
     const TemporaryHome home;
-    const QByteArray photo = home.file(QStringLiteral("photo.jpg"), jpegOfSize(100));
-    const QByteArray empty = home.file(QStringLiteral("empty.jpg"), "");
+    const QByteArray photo = home.file("photo.jpg", jpegOfSize(100));
+    const QByteArray empty = home.file("empty.jpg", "");
     const auto withFile = [](const QByteArray &path) {
         const auto post = FlickrPost::init();
         post->assetURL = NSURL::fileURLWithPath(path);
@@ -231,30 +244,30 @@ TEST(PostCheck, ObjectsToWhatTheUploadCodeWouldDieOf) {
     EXPECT_FALSE(PostCheck::prepare(*usable, job));
     ::unlink(photo.constData());
     EXPECT_EQ(usable->photoData->bytes(), jpegOfSize(100)) << "the file that was looked at is the one that is sent";
-    home.file(QStringLiteral("photo.jpg"), jpegOfSize(100));
-    const QByteArray other = home.file(QStringLiteral("other.jpg"), jpegOfSize(100, 2));
+    home.file("photo.jpg", jpegOfSize(100));
+    const QByteArray other = home.file("other.jpg", jpegOfSize(100, 2));
     const auto objection = [&](const std::shared_ptr<FlickrPost> &post) {
         const auto reason = PostCheck::prepare(*post, job);
-        return reason ? reason->error.localizedDescription() : QString();
+        return reason ? std::optional(reason->error) : std::nullopt;
     };
-    EXPECT_TRUE(objection(withFile(other)).contains(QStringLiteral("has changed")));
-    EXPECT_TRUE(objection(withFile(empty)).contains(QStringLiteral("is empty")));
-    EXPECT_TRUE(objection(withFile(QFile::encodeName(home.path()))).contains(QStringLiteral("cannot be read")));
-    EXPECT_TRUE(objection(withFile("/nowhere/a.jpg")).contains(QStringLiteral("/nowhere/a.jpg")));
+    EXPECT_TRUE(says(objection(withFile(other)), "has changed"));
+    EXPECT_TRUE(says(objection(withFile(empty)), "is empty"));
+    EXPECT_TRUE(says(objection(withFile(QFile::encodeName(home.path()))), "cannot be read"));
+    EXPECT_TRUE(says(objection(withFile("/nowhere/a.jpg")), "/nowhere/a.jpg"));
 
     const auto post = FlickrPost::init();
-    EXPECT_TRUE(objection(post).contains(QStringLiteral("no photo")));
+    EXPECT_TRUE(says(objection(post), "no photo"));
     post->assetURL = NSURL::URLWithString(QStringLiteral("http://elsewhere/a.jpg"));
-    EXPECT_TRUE(objection(post).contains(QStringLiteral("no photo")));
+    EXPECT_TRUE(says(objection(post), "no photo"));
     post->photoData = NSData();
-    EXPECT_TRUE(objection(post).contains(QStringLiteral("empty")));
+    EXPECT_TRUE(says(objection(post), "empty"));
     const auto file = std::make_shared<const FileDescriptor>(::open(photo.constData(), O_RDONLY));
     post->photoData = NSData::dataWithFile(file, 50, 100);
-    EXPECT_TRUE(objection(post).contains(QStringLiteral("damaged")));
+    EXPECT_TRUE(says(objection(post), "damaged"));
 
-    home.file(QStringLiteral("library/clip.mp4"),
-              QByteArray::fromHex("00000020667479706d703432000000006d7034326d7034316973366d61766331") + "moov");
+    const QByteArray video = QByteArray::fromHex("00000020667479706d703432000000006d7034326d7034316973366d61766331");
+    home.file("library/clip.mp4", video + "moov");
     post->assetURL =
         NSURL::URLWithString(QStringLiteral("assets-library://asset/asset.MP4?id=pictures%2Fclip.mp4&ext=MP4"));
-    EXPECT_TRUE(objection(post).contains(QStringLiteral("is a video")));
+    EXPECT_TRUE(says(objection(post), "is a video"));
 }

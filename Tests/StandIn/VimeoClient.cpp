@@ -9,11 +9,11 @@
 namespace standin::test {
 
 QJsonValue VimeoClient::method(const QByteArray &name, const Parameters &parameters) {
-    const Reply reply = rest(Parameters{{"method", "vimeo.videos." + name}} + parameters);
+    const RawReply reply = rest(Parameters{{"method", "vimeo.videos." + name}} + parameters);
     return QJsonDocument::fromJson(reply.body).object();
 }
 
-Reply VimeoClient::rest(const Parameters &form, const QByteArray &query) {
+RawReply VimeoClient::rest(const Parameters &form, const QByteArray &query) {
     QByteArrayList pairs;
     for (const auto &[name, value] : form)
         pairs.append(percentEncoded(name) + '=' + percentEncoded(value));
@@ -28,12 +28,12 @@ QByteArray VimeoClient::ticket() {
     return endpoint.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority);
 }
 
-Reply VimeoClient::put(const QByteArray &target, const QByteArray &headers, const QByteArray &body) {
+RawReply VimeoClient::put(const QByteArray &target, const QByteArray &headers, const QByteArray &body) {
     return send("PUT " + target + " HTTP/1.1\r\nHost: " + host() + "\r\n" + signedAs("PUT", target) + headers +
                 "Content-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body);
 }
 
-Reply VimeoClient::chunk(const QByteArray &target, const QByteArray &bytes, const QByteArray &range) {
+RawReply VimeoClient::chunk(const QByteArray &target, const QByteArray &bytes, const QByteArray &range) {
     return put(target,
                "Content-Type: video/mp4\r\n" +
                    (range.isEmpty() ? QByteArray() : "Content-Range: bytes " + range + "\r\n"),
@@ -41,7 +41,7 @@ Reply VimeoClient::chunk(const QByteArray &target, const QByteArray &bytes, cons
 }
 
 qint64 VimeoClient::verify(const QByteArray &target) {
-    const Reply reply = put(target, "Content-Range: bytes */*\r\n", {});
+    const RawReply reply = put(target, "Content-Range: bytes */*\r\n", {});
     const QByteArray range = headerIn(reply, "Range");
     return reply.status == 308 && range.startsWith("bytes=0-") ? range.mid(8).toLongLong() : -1;
 }
@@ -69,7 +69,7 @@ QByteArray video(qsizetype size, quint32 seed) {
     return bytes;
 }
 
-QByteArray headerIn(const Reply &reply, const QByteArray &name) {
+QByteArray headerIn(const RawReply &reply, const QByteArray &name) {
     const qsizetype line = reply.head.indexOf("\r\n" + name + ": ");
     const qsizetype value = line + name.size() + 4;
     return line < 0 ? QByteArray() : reply.head.mid(value, reply.head.indexOf("\r\n", value) - value);

@@ -1,7 +1,7 @@
 // A client that uploads a video step by step, signed on its own, with every byte under the test's control.
 #pragma once
 
-#include "Tests/StandIn/Client.h"
+#include "Tests/StandIn/RawClient.h"
 
 #include <QJsonValue>
 
@@ -10,19 +10,19 @@
 
 namespace standin::test {
 
-class VimeoClient : public Client {
+class VimeoClient : public RawClient {
 public:
-    explicit VimeoClient(const StandIn &server) : Client(server) {}
+    explicit VimeoClient(const StandIn &server) : RawClient(server) {}
 
     // The answer's JSON.
     QJsonValue method(const QByteArray &name, const Parameters &parameters = {});
-    Reply rest(const Parameters &form, const QByteArray &query = "format=json");
+    RawReply rest(const Parameters &form, const QByteArray &query = "format=json");
 
     // The path and query of a fresh ticket's endpoint.
     QByteArray ticket();
     // Sends a PUT with these header lines besides Host, Authorization and Content-Length.
-    Reply put(const QByteArray &target, const QByteArray &headers, const QByteArray &body);
-    Reply chunk(const QByteArray &target, const QByteArray &bytes, const QByteArray &range = {});
+    RawReply put(const QByteArray &target, const QByteArray &headers, const QByteArray &body);
+    RawReply chunk(const QByteArray &target, const QByteArray &bytes, const QByteArray &range = {});
     // What the answer's Range header says; -1 without one.
     qint64 verify(const QByteArray &target);
     QJsonValue commit(const QByteArray &target) {
@@ -44,6 +44,6 @@ bool waitFor(Predicate predicate) {
 // Different bytes for each seed.
 QByteArray video(qsizetype size, quint32 seed = 1);
 // The value of the answer's header line; empty when there is none.
-QByteArray headerIn(const Reply &reply, const QByteArray &name);
+QByteArray headerIn(const RawReply &reply, const QByteArray &name);
 
 } // namespace standin::test

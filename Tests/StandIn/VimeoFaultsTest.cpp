@@ -79,7 +79,7 @@ TEST_F(FaultyVimeo, LiesAboutWhatIsStoredAndAboutTheQuota) {
     server.on("verify").reportRange("bytes 0-77\t").reportRange(std::nullopt).fail(500).delay(60);
     const auto ask = [&] { return client.put(target, "Content-Range: bytes */*\r\n", {}); };
     EXPECT_EQ(headerIn(ask(), "Range").trimmed(), "bytes 0-77");
-    const Reply silent = ask();
+    const RawReply silent = ask();
     EXPECT_EQ(silent.status, 308);
     EXPECT_FALSE(silent.head.contains("Range: "));
     EXPECT_EQ(ask().status, 500);
@@ -156,7 +156,7 @@ QByteArrayList uploadThrough(StandIn &server, const QByteArray &bytes, bool with
         const QByteArray range = i == 0 ? QByteArray() : QByteArray::number(stored) + end;
         const int status = client.chunk(target, bytes.mid(stored, 1000), range).status;
         if (withOtherRequests) client.method("upload.getQuota");
-        const Reply reply = VimeoClient(server).put(target, "Content-Range: bytes */*\r\n", {});
+        const RawReply reply = VimeoClient(server).put(target, "Content-Range: bytes */*\r\n", {});
         if (reply.status == 308) stored = headerIn(reply, "Range").mid(8).toLongLong();
         happenings.append(QByteArray::number(status) + ' ' + QByteArray::number(reply.status) + ' ' +
                           QByteArray::number(stored));

@@ -42,7 +42,7 @@ TEST_F(VimeoService, TakesAVideoFromTheQuotaToThePrivacy) {
     EXPECT_EQ(user[QLatin1String("upload_space")][QLatin1String("free")].toString(), QStringLiteral("1000000000000"));
 
     const QByteArray target = client.ticket();
-    const Reply first = client.chunk(target, bytes.first(Largest));
+    const RawReply first = client.chunk(target, bytes.first(Largest));
     EXPECT_EQ(first.status, 200);
     EXPECT_EQ(first.body, "");
     EXPECT_EQ(client.verify(target), Largest);
@@ -123,7 +123,7 @@ TEST_F(VimeoService, ReadsChunksStrictly) {
         const QByteArray target = client.ticket();
         client.chunk(target, video(100));
         ASSERT_EQ(client.chunk(target, video(100), "100-999/1000").status, 200);
-        const Reply reply = client.put(target, test.headers, video(test.bodyBytes, 2));
+        const RawReply reply = client.put(target, test.headers, video(test.bodyBytes, 2));
         EXPECT_EQ(reply.status, test.stored < 0 ? 400 : 200) << test.headers.toStdString() << test.bodyBytes;
         EXPECT_EQ(VimeoClient(server).verify(target), test.stored < 0 ? 200 : test.stored)
             << test.headers.toStdString();
@@ -196,7 +196,7 @@ TEST_F(VimeoService, ChecksSignaturesOfFormAndEndpoint) {
     const QByteArray good = client.signedAs("POST", rest, {{"method", "vimeo.videos.upload.getQuota"}});
     EXPECT_EQ(signedBy(good).status, 200);
     for (const QByteArray &bad : {good, client.signedAs("POST", rest), QByteArray()}) {
-        const Reply reply = signedBy(bad);
+        const RawReply reply = signedBy(bad);
         EXPECT_EQ(reply.status, 401);
         EXPECT_EQ(codeIn(QJsonDocument::fromJson(reply.body).object()), "401");
     }
@@ -238,7 +238,7 @@ TEST_F(VimeoService, PlaysVideosOnThePageAndEscapesTheirTexts) {
                                        {"addTags", "tags"}})
         client.method(method, {{"video_id", id}, {name, attack}});
     client.method("setPrivacy", {{"video_id", id}, {"privacy", "nobody"}});
-    const Reply page = client.get("/");
+    const RawReply page = client.get("/");
     EXPECT_FALSE(page.body.contains("<script>alert"));
     EXPECT_EQ(page.body.count("&quot;&gt;&lt;script&gt;alert('x')&lt;/script&gt;&amp;amp;"), 3);
     EXPECT_TRUE(page.body.contains("<video controls preload=\"metadata\" src=\"/videos/" + id + "\">"));
@@ -249,12 +249,12 @@ TEST_F(VimeoService, PlaysVideosOnThePageAndEscapesTheirTexts) {
     const auto get = [&](const QByteArray &range) {
         return client.send("GET /videos/" + id + " HTTP/1.1\r\nHost: " + client.host() + "\r\n" + range + "\r\n");
     };
-    const Reply whole = get({});
+    const RawReply whole = get({});
     EXPECT_TRUE(whole.body == video(100'000));
     EXPECT_EQ(headerIn(whole, "Content-Type"), "video/mp4");
     for (const auto &[range, first, last] :
          {std::tuple<QByteArray, int, int>{"50000-", 50'000, 99'999}, {"10-19", 10, 19}, {"-5", 99'995, 99'999}}) {
-        const Reply part = get("Range: bytes=" + range + "\r\n");
+        const RawReply part = get("Range: bytes=" + range + "\r\n");
         EXPECT_EQ(part.status, 206);
         EXPECT_EQ(headerIn(part, "Content-Range"),
                   "bytes " + QByteArray::number(first) + '-' + QByteArray::number(last) + "/100000");

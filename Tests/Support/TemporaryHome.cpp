@@ -1,11 +1,27 @@
-// A home folder of a test's own, with the environment pointing at it.
+// A home folder of a test's own, and files to put into it.
 #include "Tests/Support/TemporaryHome.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
 
 namespace korvane::test {
+namespace {
+
+void set(const QByteArray &name, const QByteArray &value) {
+    if (value.isNull())
+        qunsetenv(name.constData());
+    else
+        qputenv(name.constData(), value);
+}
+
+QByteArray contentsOf(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
 
 TemporaryHome::TemporaryHome() {
     setEnvironment("HOME", QFile::encodeName(path()));
@@ -13,33 +29,32 @@ TemporaryHome::TemporaryHome() {
     for (const auto &[name, folder] : {std::pair{"XDG_CONFIG_HOME", "config"}, std::pair{"XDG_STATE_HOME", "state"},
                                        std::pair{"XDG_DATA_HOME", "data"}, std::pair{"XDG_RUNTIME_DIR", "run"},
                                        std::pair{"KORVANE_PHOTO_LIBRARY", "library"}}) {
-        const QString place = path(QLatin1String(folder));
-        QDir().mkpath(place);
-        QFile::setPermissions(place, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        setEnvironment(name, QFile::encodeName(place));
+        QDir().mkpath(path(folder));
+        QFile::setPermissions(path(folder), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        setEnvironment(name, QFile::encodeName(path(folder)));
     }
 }
 
 TemporaryHome::~TemporaryHome() {
-    for (const auto &[name, value] : _before) {
-        if (value.isNull())
-            qunsetenv(name.constData());
-        else
-            qputenv(name.constData(), value);
-    }
+    for (const auto &[name, value] : _before)
+        set(name, value);
 }
 
 void TemporaryHome::setEnvironment(const QByteArray &name, const QByteArray &value) {
     _before.try_emplace(name, qEnvironmentVariableIsSet(name.constData()) ? qgetenv(name.constData()) : QByteArray());
-    qputenv(name.constData(), value);
+    set(name, value);
 }
 
-QByteArray TemporaryHome::file(const QString &name, const QByteArray &contents) const {
+QByteArray TemporaryHome::file(QAnyStringView name, const QByteArray &contents) const {
     QDir().mkpath(QFileInfo(path(name)).path());
     QFile file(path(name));
     file.open(QIODevice::WriteOnly);
     file.write(contents);
     return QFile::encodeName(file.fileName());
+}
+
+QByteArray TemporaryHome::contents(QAnyStringView name) const {
+    return contentsOf(path(name));
 }
 
 QByteArray jpegOfSize(qint64 length, quint32 seed) {
@@ -51,6 +66,18 @@ QByteArray jpegOfSize(qint64 length, quint32 seed) {
     }
     bytes.truncate(length);
     return bytes;
+}
+
+QByteArray dataPath(const char *name) {
+    return QByteArray(KORVANE_TEST_DATA "/") + name;
+}
+
+QByteArray dataBytes(const char *name) {
+    return contentsOf(QFile::decodeName(dataPath(name)));
+}
+
+QByteArray sha256Of(const QByteArray &bytes) {
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
 }
 
 } // namespace korvane::test

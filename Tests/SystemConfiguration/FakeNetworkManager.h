@@ -8,7 +8,7 @@
 #include <QThread>
 #include <QVariantMap>
 
-namespace korvane {
+namespace korvane::test {
 
 class FakeNetworkManager : public QObject {
     Q_OBJECT
@@ -88,4 +88,4 @@ private:
     FakeDevice _devices[2];
 };
 
-} // namespace korvane
+} // namespace korvane::test

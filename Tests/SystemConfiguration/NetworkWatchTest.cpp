@@ -1,20 +1,13 @@
 // Changes of the kernel's routes, in a network namespace of the test's own.
 #include "Platform/SystemConfiguration/NetworkWatch.h"
 #include "Platform/SystemConfiguration/NetworkRoute.h"
+#include "Tests/Support/Testing.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <QDir>
 #include <QProcess>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <sched.h>
 
-#include <functional>
-
-namespace korvane {
+namespace korvane::test {
 namespace {
 
 constexpr int quietMilliseconds = 100;
@@ -23,36 +16,27 @@ bool ip(const char *arguments) {
     return QProcess::execute(QStringLiteral("ip"), QString::fromLatin1(arguments).split(u' ')) == 0;
 }
 
-void runLoop(
-    int milliseconds, const std::function<bool()> &until = [] { return false; }) {
-    for (const QDeadlineTimer deadline(milliseconds); !deadline.hasExpired() && !until();)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-}
-
 TEST(NetworkWatch, TellsOnceOfEachWayOutThatIsGained) {
     if (::unshare(CLONE_NEWNET) != 0 && ::unshare(CLONE_NEWUSER | CLONE_NEWNET) != 0)
         GTEST_SKIP() << "no network namespace can be made here";
     if (!ip("link set lo up")) GTEST_SKIP() << "the ip program is missing or may not change the namespace";
     int regained = 0;
     const NetworkWatch watch([&regained] { ++regained; }, quietMilliseconds, NetworkWatch::Source::KernelRoutes);
+    const auto regainsMore = [&](int count, int milliseconds) {
+        return waitFor([&] { return regained > count; }, milliseconds);
+    };
 
-    ASSERT_TRUE(ip("addr add 192.0.2.1/24 dev lo")); // an address alone is no way out
-    runLoop(3 * quietMilliseconds);
-    EXPECT_EQ(regained, 0);
-
+    ASSERT_TRUE(ip("addr add 192.0.2.1/24 dev lo"));
+    EXPECT_FALSE(regainsMore(0, 3 * quietMilliseconds)) << "an address alone is no way out";
     ASSERT_TRUE(ip("route add default dev lo"));
     ASSERT_TRUE(ip("route add 198.51.100.0/24 dev lo"));
-    runLoop(5000, [&] { return regained > 0; });
-    runLoop(3 * quietMilliseconds);
-    EXPECT_EQ(regained, 1);
-
-    ASSERT_TRUE(ip("route del 198.51.100.0/24 dev lo")); // still online: nothing to tell
-    runLoop(3 * quietMilliseconds);
-    EXPECT_EQ(regained, 1);
-
+    EXPECT_TRUE(regainsMore(0, 5000));
+    EXPECT_FALSE(regainsMore(1, 3 * quietMilliseconds)) << "one way out, although there are two routes";
+    ASSERT_TRUE(ip("route del 198.51.100.0/24 dev lo"));
+    EXPECT_FALSE(regainsMore(1, 3 * quietMilliseconds)) << "still online: nothing to tell";
     ASSERT_TRUE(ip("route del default dev lo")); // away and back before anybody looks
     ASSERT_TRUE(ip("route add default dev lo"));
-    runLoop(5000, [&] { return regained > 1; });
+    EXPECT_TRUE(regainsMore(1, 5000));
     EXPECT_EQ(regained, 2);
 }
 
@@ -77,24 +61,13 @@ TEST(NetworkRoute, ReadsTheKernelsTables) {
         {head4, route6(other, "40", "00000001", "eth0"), false},
         {"eth0", "garbage\n\n", false},
     };
+    const TemporaryHome root;
     for (const auto &[ipv4, ipv6, wayOut] : cases) {
-        const QTemporaryDir root;
-        QDir(root.path()).mkdir(QStringLiteral("net"));
-        for (const auto &[name, text] :
-             {std::pair(QStringLiteral("/net/route"), ipv4), {QStringLiteral("/net/ipv6_route"), ipv6}}) {
-            QFile table(root.path() + name);
-            ASSERT_TRUE(table.open(QIODevice::WriteOnly));
-            table.write(text);
-        }
+        root.file("net/route", ipv4);
+        root.file("net/ipv6_route", ipv6);
         EXPECT_EQ(NetworkRoute::hasDefaultRoute(root.path()), wayOut) << ipv4.constData() << ipv6.constData();
     }
 }
 
 } // namespace
-} // namespace korvane
-
-int main(int argc, char **argv) {
-    testing::InitGoogleTest(&argc, argv);
-    const QCoreApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}
+} // namespace korvane::test

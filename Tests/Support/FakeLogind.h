@@ -1,7 +1,8 @@
-// The part of logind that hands out inhibitor locks, on a private bus.
+// The part of logind that hands out inhibitor locks, on a bus that takes the place of this process's buses.
 #pragma once
 
 #include "Platform/Foundation/FileDescriptor.h"
+#include "Tests/Support/TestBus.h"
 
 #include <QDBusConnection>
 #include <QDBusContext>
@@ -13,10 +14,9 @@
 #include <poll.h>
 
 #include <array>
-#include <memory>
 #include <vector>
 
-namespace korvane {
+namespace korvane::test {
 
 // A lock is a pipe whose writing end the caller gets: it is held as long as that end is open anywhere.
 class FakeLogind : public QObject, protected QDBusContext {
@@ -24,14 +24,37 @@ class FakeLogind : public QObject, protected QDBusContext {
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.login1.Manager")
 
 public:
+    FakeLogind() {
+        const bool answers =
+            bus().registerObject(QStringLiteral("/org/freedesktop/login1"), this, QDBusConnection::ExportAllSlots) &&
+            bus().registerService(QStringLiteral("org.freedesktop.login1"));
+        if (!answers) qFatal("there is no logind to ask");
+    }
+    ~FakeLogind() override { bus().unregisterObject(QStringLiteral("/org/freedesktop/login1")); }
+
+    // QtDBus keeps its system and session bus for the life of the process: all tests share one daemon.
+    static QDBusConnection bus() {
+        static TestBus shared;
+        if (shared.address().isEmpty() && shared.start()) {
+            qputenv("DBUS_SYSTEM_BUS_ADDRESS", shared.address());
+            qputenv("DBUS_SESSION_BUS_ADDRESS", shared.address());
+        }
+        return shared.connection();
+    }
+
     bool isHeld(size_t lock) const {
         pollfd end{locks[lock].get(), 0, 0};
         return ::poll(&end, 1, 0) == 0;
     }
+    int held() const {
+        int count = 0;
+        for (size_t lock = 0; lock < locks.size(); ++lock)
+            count += isHeld(lock);
+        return count;
+    }
     void answerNow() {
-        QDBusConnection bus = waitingOn;
         for (const QDBusMessage &message : waiting)
-            bus.send(message.createReply(makeLock()));
+            bus().send(message.createReply(makeLock()));
         waiting.clear();
     }
 
@@ -50,7 +73,6 @@ public Q_SLOTS:
         }
         if (!answersLate) return makeLock().value<QDBusUnixFileDescriptor>();
         setDelayedReply(true);
-        waitingOn = connection();
         waiting.append(message());
         return {};
     }
@@ -63,22 +85,6 @@ private:
         const FileDescriptor given(ends[1]);
         return QVariant::fromValue(QDBusUnixFileDescriptor(given.get()));
     }
-    QDBusConnection waitingOn{QString()};
 };
 
-// Hears what launchers are told.
-class LauncherEar : public QObject {
-    Q_OBJECT
-
-public:
-    QString entry;
-    QList<bool> heard;
-
-public Q_SLOTS:
-    void update(const QString &application, const QVariantMap &properties) {
-        entry = application;
-        heard.append(properties.value(QStringLiteral("progress-visible")).toBool());
-    }
-};
-
-} // namespace korvane
+} // namespace korvane::test

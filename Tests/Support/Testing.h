@@ -1,0 +1,9 @@
+// What every test of the library uses.
+#pragma once
+
+#include "Tests/Support/LogCapture.h"
+#include "Tests/Support/Printing.h"
+#include "Tests/Support/TemporaryHome.h"
+#include "Tests/Support/WaitFor.h"
+
+#include <gtest/gtest.h>
