@@ -1,44 +1,14 @@
-// What becomes of an upload after a run.
+// What becomes of a Flickr upload after a run.
 #include "Service/FailureClassifier.h"
 
 #include "Korvane/FlickrPost.h"
 #include "Korvane/FlickrResponse.h"
-#include "Platform/Foundation/NSLog.h"
 
 #include <QHash>
 #include <QUrlQuery>
 
 namespace korvane {
 namespace {
-
-constexpr qsizetype longestShownAnswer = 200;
-
-Verdict waiting(WaitReason reason, const NSError &error, const QString &text) {
-    return {UploadState::Waiting, reason, NSError::errorWithDescription(error.domain(), error.code(), text)};
-}
-
-Verdict failed(const NSError &error, const QString &text) {
-    return {UploadState::Failed, WaitReason::None, NSError::errorWithDescription(error.domain(), error.code(), text)};
-}
-
-bool isServerTrouble(int status) {
-    return status >= 500 || status == 408 || status == 429;
-}
-
-Verdict verdictOnTransport(const NSError &error) {
-    switch (error.code()) {
-    case NSURLErrorCannotFindHost:
-    case NSURLErrorCannotConnectToHost:
-    case NSURLErrorNotConnectedToInternet:
-    case NSURLErrorNetworkConnectionLost:
-    case NSURLErrorTimedOut:
-        return waiting(WaitReason::Network, error,
-                       QStringLiteral("Flickr cannot be reached: %1").arg(error.localizedDescription()));
-    default:
-        return waiting(WaitReason::NextTry, error,
-                       QStringLiteral("The connection to Flickr failed: %1").arg(error.localizedDescription()));
-    }
-}
 
 // Codes of flickr.com/services/api/upload.api.html; those not listed here are final and have only Flickr's own words.
 QString adviceOnCode(qint64 code) {
@@ -62,30 +32,32 @@ std::optional<Verdict> verdictOnOAuthProblem(const NSError &error) {
     if (!answer.startsWith(QLatin1String("oauth_problem="))) return std::nullopt;
     const QString problem = QUrlQuery(answer).queryItemValue(QStringLiteral("oauth_problem"));
     if (problem == QLatin1String("nonce_used"))
-        return waiting(WaitReason::NextTry, error, QStringLiteral("Flickr asks to send the request again."));
+        return Verdict::waiting(WaitReason::NextTry, error, QStringLiteral("Flickr asks to send the request again."));
     if (problem == QLatin1String("timestamp_refused"))
-        return failed(error, QStringLiteral("Flickr refused the request's time. Set this device's clock, then retry."));
-    return failed(
+        return Verdict::failed(
+            error, QStringLiteral("Flickr refused the request's time. Set this device's clock, then retry."));
+    return Verdict::failed(
         error, QStringLiteral("Flickr does not accept the sign-in (%1). Sign in again (korvane accounts), then retry.")
-                   .arg(redacted(problem.left(longestShownAnswer))));
+                   .arg(shownAnswer(problem)));
 }
 
 Verdict verdictOnAnswer(const NSError &error, int status) {
     if (const auto verdict = error.code() == -1 ? verdictOnOAuthProblem(error) : std::nullopt) return *verdict;
     if (isServerTrouble(status))
-        return waiting(WaitReason::NextTry, error,
-                       QStringLiteral("Flickr is in trouble (HTTP status %1).").arg(status));
-    const QString message = redacted(error.localizedDescription().simplified().left(longestShownAnswer));
+        return Verdict::waiting(WaitReason::NextTry, error,
+                                QStringLiteral("Flickr is in trouble (HTTP status %1).").arg(status));
+    const QString message = shownAnswer(error.localizedDescription());
     if (error.code() == 105 || error.code() == 106)
-        return waiting(WaitReason::NextTry, error, QStringLiteral("Flickr is not available just now: %1").arg(message));
+        return Verdict::waiting(WaitReason::NextTry, error,
+                                QStringLiteral("Flickr is not available just now: %1").arg(message));
     const bool saysNothing = error.code() == 0 && !error.userInfo().contains(NSLocalizedDescriptionKey);
     if (error.code() == -1 || saysNothing)
-        return failed(error,
-                      QStringLiteral("Flickr's answer was not understood (HTTP status %1). Retry later.").arg(status));
-    return failed(error, QStringLiteral("Flickr refused the photo: %1 (code %2). %3")
-                             .arg(message)
-                             .arg(error.code())
-                             .arg(adviceOnCode(error.code())));
+        return Verdict::failed(
+            error, QStringLiteral("Flickr's answer was not understood (HTTP status %1). Retry later.").arg(status));
+    return Verdict::failed(error, QStringLiteral("Flickr refused the photo: %1 (code %2). %3")
+                                      .arg(message)
+                                      .arg(error.code())
+                                      .arg(adviceOnCode(error.code())));
 }
 
 // The upload code reports success once the photo is on Flickr, whatever became of its place in the photo set; a set
@@ -96,28 +68,27 @@ Verdict verdictOnPhotoSet(const RunOutcome &outcome) {
         return {}; // an "ok" without an id: nothing could be asked for without sending the photo again
     const QString text = QStringLiteral("The photo is on Flickr; adding it to its album is still to be done. %1");
     if (request.transportError)
-        return waiting(WaitReason::Network, *request.transportError,
-                       text.arg(request.transportError->localizedDescription()));
+        return Verdict::waiting(WaitReason::Network, *request.transportError,
+                                text.arg(request.transportError->localizedDescription()));
     if (isServerTrouble(request.httpStatus))
-        return waiting(WaitReason::NextTry, NSError(FlickrResponseErrorDomain, -1),
-                       text.arg(QStringLiteral("Flickr is in trouble (HTTP status %1).").arg(request.httpStatus)));
+        return Verdict::waiting(
+            WaitReason::NextTry, NSError(FlickrResponseErrorDomain, -1),
+            text.arg(QStringLiteral("Flickr is in trouble (HTTP status %1).").arg(request.httpStatus)));
     return {};
 }
 
 } // namespace
 
 Verdict FailureClassifier::verdictOnFlickrRun(const RunOutcome &outcome, bool wantsPhotoSet) {
-    if (outcome.end == RunOutcome::Unusable) return {UploadState::Failed, WaitReason::None, outcome.error};
-    if (outcome.end == RunOutcome::Hindered) return {UploadState::Waiting, WaitReason::NextTry, outcome.error};
-    if (outcome.end == RunOutcome::NoAccount) return {UploadState::Waiting, WaitReason::SignIn, outcome.error};
+    if (const auto verdict = Verdict::onUnbegunRun(outcome)) return *verdict;
     if (!outcome.error) return wantsPhotoSet ? verdictOnPhotoSet(outcome) : Verdict{};
     const NSError &error = *outcome.error;
-    if (error.domain() == NSURLErrorDomain) return verdictOnTransport(error);
+    if (error.domain() == NSURLErrorDomain) return Verdict::onTransport(error, QStringLiteral("Flickr"));
     if (error.domain() == FlickrResponseErrorDomain) return verdictOnAnswer(error, outcome.lastRequest.httpStatus);
     if (error.domain() == FlickrPostErrorDomain)
-        return failed(
+        return Verdict::failed(
             error, QStringLiteral("The photo is no longer in the photo library. Share it again from where it is now."));
-    return failed(error, error.localizedDescription());
+    return Verdict::failed(error, error.localizedDescription());
 }
 
 } // namespace korvane

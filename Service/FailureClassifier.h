@@ -1,21 +1,26 @@
 // What becomes of an upload after a run: the one place that tells passing failures from final ones.
 #pragma once
 
-#include "Service/RunOutcome.h"
-#include "Service/UploadJob.h"
+#include "Service/Verdict.h"
 
 namespace korvane {
-
-struct Verdict {
-    UploadState state = UploadState::Done;    // Done, Waiting or Failed
-    WaitReason waitReason = WaitReason::None; // with Waiting
-    std::optional<NSError> error;             // for people: what happened and what to do
-};
 
 namespace FailureClassifier {
 
 // wantsPhotoSet: the post is to be added to a photo set after its upload.
 Verdict verdictOnFlickrRun(const RunOutcome &outcome, bool wantsPhotoSet);
+
+Verdict verdictOnVimeoRun(const RunOutcome &outcome);
+
+// What is known of a commit that did not end with a video id.
+enum class CommitFate {
+    NotDone, // it did not reach Vimeo, or Vimeo was too busy for it
+    Refused, // Vimeo has said no
+    Unknown  // the video may be there
+};
+CommitFate fateOfCommit(const UploadContext::Snapshot &request);
+// A commit that nobody knows the answer of is not sent again without a person having looked.
+Verdict verdictOnUnansweredCommit();
 
 } // namespace FailureClassifier
 

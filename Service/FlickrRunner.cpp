@@ -19,14 +19,6 @@ void end(const std::shared_ptr<UploadRun> &run, const FlickrPost &post, const Ru
     });
 }
 
-RunOutcome withoutAccount(const QString &name) {
-    const QString text =
-        QStringLiteral("There is no usable sign-in for the Flickr account of %1, from which this was shared. "
-                       "Add it with: korvane accounts add flickr")
-            .arg(name);
-    return {RunOutcome::NoAccount, NSError::errorWithDescription(PostCheck::ErrorDomain, 10, text), {}, 0};
-}
-
 // From the start of the upload on, the run's job is changed on the main thread alone.
 void upload(const std::shared_ptr<UploadRun> &run) {
     const auto post = FlickrPost::initWithDictionary(run->record);
@@ -35,11 +27,11 @@ void upload(const std::shared_ptr<UploadRun> &run) {
         return end(run, *post,
                    {objection->mayPass ? RunOutcome::Hindered : RunOutcome::Unusable, objection->error, {}, 0});
     const auto account = accountOfJob(run->job, *run->accounts);
-    if (!account || !account->credential()) return end(run, *post, withoutAccount(run->job.accountName));
+    if (!account || !account->credential()) return end(run, *post, withoutAccount(run->job));
     account->setUploadContext(run->context);
     post->checkpoint = [run, wantsPhotoSet = post->photoSetID != 0](qint64 photoID) {
         run->job.photoID = photoID;
-        run->reached(run->job, wantsPhotoSet); // without a set the outcome follows at once and is kept durably
+        run->reached(run->job, wantsPhotoSet, {}); // without a set the outcome follows at once and is kept durably
     };
     post->uploadToAccount(account, [run, post](const std::optional<NSError> &error) {
         if (post->photoData) run->job.bytesTotal = post->photoData->length();

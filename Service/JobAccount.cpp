@@ -2,6 +2,7 @@
 #include "Service/JobAccount.h"
 
 #include "Platform/Accounts/ACAccountStore.h"
+#include "Service/PostCheck.h"
 
 #include <algorithm>
 
@@ -17,6 +18,13 @@ std::shared_ptr<ACAccount> accountOfJob(const UploadJob &job, const ACAccountSto
     const auto all = accounts.accountsWithAccountType(type);
     const auto found = std::ranges::find(all, job.accountName, [](const auto &account) { return account->username(); });
     return found == all.end() ? nullptr : *found;
+}
+
+RunOutcome withoutAccount(const UploadJob &job) {
+    const QString text = QStringLiteral("There is no usable sign-in for the %1 account of %2, from which this was "
+                                        "shared. Add it with: korvane accounts add %3")
+                             .arg(nameOfService(job.service), job.accountName, job.service);
+    return {RunOutcome::NoAccount, NSError::errorWithDescription(PostCheck::ErrorDomain, 10, text), {}, 0};
 }
 
 } // namespace korvane

@@ -25,28 +25,33 @@ enum Reason {
     FileChanged = 4,
     DataLost = 5,
     NoPicture = 6,
-    NoRoom = 7
+    NoRoom = 7,
+    NoTitle = 8
 };
 
 PostCheck::Objection objectionWithText(Reason code, const QString &text) {
     return {NSError::errorWithDescription(PostCheck::ErrorDomain, code, text), code == NoRoom};
 }
 
-std::optional<PostCheck::Objection> objectionToFile(FlickrPost &post, const UploadJob &job) {
-    const NSURL url = *post.assetURL;
+NSError changedError(const QString &name) {
+    return objectionWithText(FileChanged,
+                             QStringLiteral("The file %1 has changed since it was shared. Share it again.").arg(name))
+        .error;
+}
+
+// data: the file, opened.
+std::optional<PostCheck::Objection> objectionToFile(const NSURL &url, const UploadJob &job,
+                                                    std::optional<NSData> *data = nullptr) {
     const QString name = QFile::decodeName(url.fileSystemRepresentation());
     std::optional<NSError> error;
-    const auto data = NSData::dataWithContentsOfURL(url, &error);
-    if (!data)
+    const auto contents = NSData::dataWithContentsOfURL(url, &error);
+    if (!contents)
         return objectionWithText(FileUnreadable,
                                  QStringLiteral("The file cannot be read (%1). Bring it back, then retry.")
                                      .arg(error->localizedDescription()));
-    if (data->length() == 0) return objectionWithText(FileEmpty, QStringLiteral("The file %1 is empty.").arg(name));
-    if (!job.source || FileIdentity::ofDescriptor(data->file()->get()) != job.source)
-        return objectionWithText(
-            FileChanged, QStringLiteral("The file %1 has changed since it was shared. Share it again.").arg(name));
-    post.photoData = data;
-    post.assetURL.reset();
+    if (contents->length() == 0) return objectionWithText(FileEmpty, QStringLiteral("The file %1 is empty.").arg(name));
+    if (!job.source || contents->identity() != *job.source) return PostCheck::Objection{changedError(name)};
+    if (data) *data = contents;
     return std::nullopt;
 }
 
@@ -74,12 +79,20 @@ std::optional<PostCheck::Objection> objectionToAsset(const NSURL &url) {
         NoPicture, QStringLiteral("%1 is a video. Share it to Vimeo.").arg(QFile::decodeName(location->path)));
 }
 
-std::optional<PostCheck::Objection> objectionToData(const NSData &data) {
-    if (data.length() == 0) return objectionWithText(FileEmpty, QStringLiteral("The photo is empty."));
-    const auto file = data.file() ? FileIdentity::ofDescriptor(data.file()->get()) : std::nullopt;
-    if (file && file->size < data.fileOffset() + data.length())
+// what: "photo" or "video".
+std::optional<PostCheck::Objection> objectionToData(const std::optional<NSData> &data, const UploadJob &job,
+                                                    const QString &what) {
+    if (!data && job.spoolFile.isEmpty())
+        return objectionWithText(NothingToUpload,
+                                 QStringLiteral("The post holds no %1. Share the %1 again.").arg(what));
+    if (!data)
         return objectionWithText(DataLost,
-                                 QStringLiteral("The photo's data was damaged on this device. Share it again."));
+                                 QStringLiteral("The %1's data is gone from this device. Share it again.").arg(what));
+    if (data->length() == 0) return objectionWithText(FileEmpty, QStringLiteral("The %1 is empty.").arg(what));
+    const auto file = data->file() ? FileIdentity::ofDescriptor(data->file()->get()) : std::nullopt;
+    if (file && file->size < data->fileOffset() + data->length())
+        return objectionWithText(DataLost,
+                                 QStringLiteral("The %1's data was damaged on this device. Share it again.").arg(what));
     return std::nullopt;
 }
 
@@ -89,12 +102,26 @@ std::optional<PostCheck::Objection> PostCheck::prepare(FlickrPost &post, const U
     const QString scheme = post.assetURL ? post.assetURL->scheme() : QString();
     if (post.photoID != 0) return std::nullopt;
     if (scheme == QLatin1String("assets-library")) return objectionToAsset(*post.assetURL);
-    if (scheme == QLatin1String("file")) return objectionToFile(post, job);
-    if (post.photoData) return objectionToData(*post.photoData);
-    if (!job.spoolFile.isEmpty())
-        return objectionWithText(DataLost,
-                                 QStringLiteral("The photo's data is gone from this device. Share it again."));
-    return objectionWithText(NothingToUpload, QStringLiteral("The post holds no photo. Share the photo again."));
+    if (scheme != QLatin1String("file")) return objectionToData(post.photoData, job, QStringLiteral("photo"));
+    if (const auto objection = objectionToFile(*post.assetURL, job, &post.photoData)) return objection;
+    post.assetURL.reset();
+    return std::nullopt;
+}
+
+std::optional<PostCheck::Objection> PostCheck::prepare(const VimeoPost &post, const UploadJob &job) {
+    const QString scheme = post.assetURL ? post.assetURL->scheme() : QString();
+    if (!post.title || post.title->isEmpty())
+        return objectionWithText(NoTitle, QStringLiteral("A video on Vimeo needs a title. Share it again with one."));
+    if (job.video && job.video->videoID.isValid()) return std::nullopt; // its bytes are there
+    if (scheme == QLatin1String("assets-library")) return std::nullopt; // the export says what is wrong with it
+    if (scheme == QLatin1String("file")) return objectionToFile(*post.assetURL, job);
+    return objectionToData(post.assetData, job, QStringLiteral("video"));
+}
+
+std::optional<NSError> PostCheck::objectionToChange(const VimeoPost &post, const UploadJob &job) {
+    if (!job.source || !post.dataReader) return std::nullopt;
+    if (FileIdentity::ofDescriptor(post.dataReader->readHandle->file()->get()) == job.source) return std::nullopt;
+    return changedError(QFile::decodeName(post.assetURL->fileSystemRepresentation()));
 }
 
 } // namespace korvane

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Korvane/FlickrPost.h"
+#include "Korvane/VimeoPost.h"
 #include "Service/UploadJob.h"
 
 #include <optional>
@@ -20,6 +21,11 @@ struct Objection {
 // Makes the post ready: a file is opened here, compared with the one that was shared, and stays the one that is sent,
 // whatever happens to its name. Null if the post can be uploaded. May block on a slow disk.
 std::optional<Objection> prepare(FlickrPost &post, const UploadJob &job);
+
+// Looks whether the video can be uploaded; its file is opened by the upload itself.
+std::optional<Objection> prepare(const VimeoPost &post, const UploadJob &job);
+// Whether the file that a video is being read from is still the one that was shared. Null where nothing has changed.
+std::optional<NSError> objectionToChange(const VimeoPost &post, const UploadJob &job);
 
 } // namespace PostCheck
 

@@ -56,6 +56,10 @@ std::shared_ptr<const FileDescriptor> Spool::open(const QString &name) const {
     return *file ? file : nullptr;
 }
 
+NSURL Spool::urlOf(const QString &name) const {
+    return NSURL::fileURLWithPath(_pathOf(name));
+}
+
 void Spool::remove(const QString &name) const {
     ::unlink(_pathOf(name).constData());
 }

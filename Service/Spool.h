@@ -3,6 +3,7 @@
 
 #include "Platform/Foundation/FileDescriptor.h"
 #include "Platform/Foundation/NSError.h"
+#include "Platform/Foundation/NSURL.h"
 
 #include <QSet>
 #include <QString>
@@ -18,12 +19,13 @@ public:
     // Makes the folder.
     explicit Spool(QString folder);
 
-    // Gives an unnamed file a name in the spool, or copies it where that cannot be, and returns the name once file and
-    // name are on disk. Null, with the error placed and nothing left behind, if it cannot be kept.
+    // Gives a file a name in the spool, or copies it where that cannot be, and returns the name once file and name are
+    // on disk. Null, with the error placed and nothing left behind, if it cannot be kept.
     std::optional<QString> adopt(int file, std::optional<NSError> *error) const;
 
     // The file, open for reading; null if it is gone.
     std::shared_ptr<const FileDescriptor> open(const QString &name) const;
+    NSURL urlOf(const QString &name) const;
     void remove(const QString &name) const;
     // Removes every file that is not among the known ones.
     void sweep(const QSet<QString> &known) const;

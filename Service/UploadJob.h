@@ -1,6 +1,7 @@
 // One upload as the queue knows it.
 #pragma once
 
+#include "Korvane/VimeoCheckpoint.h"
 #include "Platform/Foundation/NSData.h"
 #include "Platform/Foundation/NSError.h"
 
@@ -29,16 +30,18 @@ struct UploadJob {
     UploadState state = UploadState::Queued;
     WaitReason waitReason = WaitReason::None;
     QString title;
-    QString accountID;                  // empty until an account of the service exists
-    QString accountName;                // its user's name, by which it is found when it was removed and added again
-    QString spoolFile;                  // name in the spool; empty if the record holds all its data
-    std::optional<FileIdentity> source; // of the file that a "file" URL named when the post was taken over
-    qint64 photoID = 0;                 // what Flickr answered with, once it has
-    qint64 bytesTotal = 0;              // 0 while unknown
-    qint64 attempts = 0;                // runs begun
-    qint64 failures = 0;                // transient failures in a row, and
-    qint64 failingSince = 0;            // when the first of them was
-    qint64 deaths = 0;                  // fatal ends of the service during a run of this job
+    QString accountID;                    // empty until an account of the service exists
+    QString accountName;                  // its user's name, by which it is found when it was removed and added again
+    QString spoolFile;                    // name in the spool; empty if the record holds all its data
+    std::optional<FileIdentity> source;   // of the file that a "file" URL named when the post was taken over
+    QString exportFile;                   // name in the spool of a library video's export, once there is one
+    qint64 photoID = 0;                   // what Flickr answered with, once it has
+    std::optional<VimeoCheckpoint> video; // how far it has come on its way to Vimeo, once it has
+    qint64 bytesTotal = 0;                // 0 while unknown
+    qint64 attempts = 0;                  // runs begun
+    qint64 failures = 0;                  // transient failures in a row, and
+    qint64 failingSince = 0;              // when the first of them was
+    qint64 deaths = 0;                    // fatal ends of the service during a run of this job
     qint64 createdAt = 0;
     qint64 finishedAt = 0;
     qint64 nextTryAt = 0;

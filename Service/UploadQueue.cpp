@@ -8,6 +8,7 @@
 #include "Service/FlickrRunner.h"
 #include "Service/JobAccount.h"
 #include "Service/RecordCodec.h"
+#include "Service/VimeoRunner.h"
 
 #include <QDateTime>
 
@@ -96,6 +97,7 @@ void UploadQueue::_schedule() {
         return;
     }
     _scheduleService(flickrServiceID, KorvaneSettings::flickrParallelUploads());
+    _scheduleService(vimeoServiceID, KorvaneSettings::vimeoParallelUploads());
 }
 
 void UploadQueue::_scheduleService(const QString &service, int limit) {
@@ -120,16 +122,21 @@ bool UploadQueue::_start(UploadJob job) {
     const auto context = std::make_shared<UploadContext>();
     {
         const std::lock_guard lock(_runningMutex);
-        _running[job.id] = {job, context, StopReason::None};
+        _running[job.id] = {job, context};
     }
     _announce(job);
     const auto data = job.spoolFile.isEmpty() ? nullptr : _spool.open(job.spoolFile);
-    FlickrRunner::start(
-        {job, RecordCodec::decode(_store->record(job.id), data), context, _accounts,
-         [this](const UploadJob &reached, bool durably) { _queue.async([=, this] { _reached(reached, durably); }); },
-         [this](const Verdict &verdict, const UploadJob &reached) {
-             _queue.async([=, this] { _ended(verdict, reached); });
-         }});
+    UploadRun run{job, RecordCodec::decode(_store->record(job.id), data), context, _accounts, &_spool, {}, {}};
+    run.reached = [this](const UploadJob &reached, bool durably, const std::function<void(bool)> &recorded) {
+        _queue.async([=, this] {
+            const bool isRecorded = _reached(reached, durably);
+            if (recorded) recorded(isRecorded);
+        });
+    };
+    run.ended = [this](const Verdict &verdict, const UploadJob &reached) {
+        _queue.async([=, this] { _ended(verdict, reached); });
+    };
+    job.service == flickrServiceID ? FlickrRunner::start(std::move(run)) : VimeoRunner::start(std::move(run));
     return true;
 }
 
@@ -156,31 +163,29 @@ void UploadQueue::_waitForSignIn(UploadJob &job) {
     _announce(job);
 }
 
-void UploadQueue::_reached(const UploadJob &reached, bool durably) {
+bool UploadQueue::_reached(const UploadJob &reached, bool durably) {
     const auto found = _running.find(reached.id);
-    if (found == _running.end()) return;
+    if (found == _running.end()) return false;
     {
         const std::lock_guard lock(_runningMutex);
-        found->second.job.photoID = reached.photoID;
+        found->second.job = reached;
     }
-    _store->update(found->second.job, durably);
+    return _store->update(reached, durably);
 }
 
 void UploadQueue::_ended(const Verdict &verdict, const UploadJob &reached) {
     const auto found = _running.find(reached.id);
     if (found == _running.end()) return;
-    UploadJob job = found->second.job;
     const StopReason stopReason = found->second.stopReason;
     {
         const std::lock_guard lock(_runningMutex);
         _running.erase(found);
     }
     _suspectRuns = false;
-    job.photoID = reached.photoID;
-    job.bytesTotal = reached.bytesTotal;
+    UploadJob job = reached;
     job.deaths = 0;
     if (stopReason == StopReason::Remove) {
-        _dropSpoolFile(job.spoolFile);
+        _dropSpoolFiles(job);
     } else if (stopReason == StopReason::Pause && verdict.state == UploadState::Waiting) {
         job.state = UploadState::Queued;
         _record(job);
@@ -195,13 +200,14 @@ void UploadQueue::_ended(const Verdict &verdict, const UploadJob &reached) {
 
 void UploadQueue::_conclude(const Verdict &verdict, UploadJob job) {
     _apply(verdict, job);
-    const QString spoolFile = job.spoolFile;
+    const UploadJob before = job;
     if (job.state == UploadState::Done) {
         job.spoolFile.clear();
+        job.exportFile.clear();
         _holds.erase(job.service);
         _schedule(); // what was reached is recorded: the next run need not wait until the outcome is on the disk
     }
-    if (_record(job) && job.state == UploadState::Done) _dropSpoolFile(spoolFile);
+    if (_record(job) && job.state == UploadState::Done) _dropSpoolFiles(before);
     _announce(job);
     if (job.finishedAt != 0 && _observer.finished) _observer.finished(job);
 }
@@ -254,14 +260,15 @@ void UploadQueue::_wait(UploadJob &job, const Verdict &verdict) {
 void UploadQueue::_forget(const std::vector<UploadJob> &jobs) {
     _store->remove(jobs);
     for (const UploadJob &job : jobs) {
-        if (!_running.contains(job.id)) _dropSpoolFile(job.spoolFile);
+        if (!_running.contains(job.id)) _dropSpoolFiles(job);
         if (_observer.removed) _observer.removed(QString::number(job.id));
     }
 }
 
 // A spool file holds the data of all posts of a message; the last of them takes it along.
-void UploadQueue::_dropSpoolFile(const QString &name) {
-    if (!name.isEmpty() && !_store->spoolFileIsNeeded(name)) _spool.remove(name);
+void UploadQueue::_dropSpoolFiles(const UploadJob &job) {
+    if (!job.exportFile.isEmpty()) _spool.remove(job.exportFile);
+    if (!job.spoolFile.isEmpty() && !_store->spoolFileIsNeeded(job.spoolFile)) _spool.remove(job.spoolFile);
 }
 
 void UploadQueue::_requeue(std::vector<UploadJob> jobs) {

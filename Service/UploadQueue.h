@@ -79,6 +79,7 @@ private:
         UploadJob job;
         std::shared_ptr<UploadContext> context;
         StopReason stopReason = StopReason::None;
+        mutable qint64 mostSent = 0; // bytes; the bar does not go back while a chunk is verified
     };
 
     // While a service cannot be reached, its queued uploads need not all find that out by themselves.
@@ -93,7 +94,7 @@ private:
     bool _start(UploadJob job);
     bool _pinAccount(UploadJob &job);
     void _waitForSignIn(UploadJob &job);
-    void _reached(const UploadJob &reached, bool durably);
+    bool _reached(const UploadJob &reached, bool durably);
     void _ended(const Verdict &verdict, const UploadJob &reached);
     void _conclude(const Verdict &verdict, UploadJob job);
     void _apply(const Verdict &verdict, UploadJob &job);
@@ -102,7 +103,7 @@ private:
     void _recordAgain();
     void _forget(const std::vector<UploadJob> &jobs);
     void _endIfStopped();
-    void _dropSpoolFile(const QString &name);
+    void _dropSpoolFiles(const UploadJob &job);
     void _requeue(std::vector<UploadJob> jobs);
     void _stopRunning(StopReason reason);
     void _armWake();

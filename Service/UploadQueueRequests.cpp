@@ -15,6 +15,10 @@ constexpr quint32 largestPage = 1000;
 UploadProgress progressOf(const UploadJob &job, const UploadContext::Snapshot &request) {
     const qint64 total = job.bytesTotal != 0 ? job.bytesTotal : request.bytesTotal;
     if (job.photoID != 0) return {QString::number(job.id), total, total, total};
+    if (job.video) {
+        const qint64 stored = job.video->videoID.isValid() ? total : std::min(qint64(job.video->bytesStored), total);
+        return {QString::number(job.id), std::min(stored + request.bytesSent, total), stored, total};
+    }
     return {QString::number(job.id), std::min(request.bytesSent, total), 0, total};
 }
 
@@ -78,6 +82,7 @@ void UploadQueue::retry(const QStringList &ids, const Answer &answer) {
                 job->failingSince = 0;
                 // One that was set aside is tried alone again: one more fatal end sets it aside at once.
                 job->deaths = std::min<qint64>(job->deaths, 1);
+                if (job->video) job->video->commitSent = false; // whoever asks has looked whether the video is there
                 jobs.push_back(*job);
             }
             _holds.clear();
@@ -168,15 +173,18 @@ void UploadQueue::stop(const std::function<void()> &stopped) {
 void UploadQueue::_stopRunning(StopReason reason) {
     for (auto &[id, running] : _running) {
         if (running.stopReason == StopReason::None) running.stopReason = reason;
-        running.context->cancel();
+        // Nobody could tell any more whether a commit that is broken off has been obeyed.
+        if (!running.job.video || !running.job.video->commitSent) running.context->cancel();
     }
 }
 
 std::vector<UploadProgress> UploadQueue::progress() const {
     const std::lock_guard lock(_runningMutex);
     std::vector<UploadProgress> all;
-    for (const auto &[id, running] : _running)
+    for (const auto &[id, running] : _running) {
         all.push_back(progressOf(running.job, running.context->snapshot()));
+        running.mostSent = all.back().bytesSent = std::max(all.back().bytesSent, running.mostSent);
+    }
     return all;
 }
 

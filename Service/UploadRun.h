@@ -13,15 +13,19 @@
 namespace korvane {
 
 class ACAccountStore;
+class Spool;
 
 struct UploadRun {
     UploadJob job;
     QVariantMap record;
     std::shared_ptr<UploadContext> context;
     std::shared_ptr<ACAccountStore> accounts;
-    // The web service has answered with something that a later run goes on from; the job carries it. durably: the step
-    // that follows must not be taken twice, so this has to outlive a power cut too. Main thread.
-    std::function<void(const UploadJob &job, bool durably)> reached;
+    const Spool *spool = nullptr; // lives longer than the run
+    // Something was reached that a later run goes on from; the job carries it. durably: the step that follows must not
+    // be taken twice, so this has to outlive a power cut too. recorded (may be empty) hears whether it is on the disk,
+    // on a thread of the queue's. Thread: any, one call at a time.
+    std::function<void(const UploadJob &job, bool durably, const std::function<void(bool isRecorded)> &recorded)>
+        reached;
     // Exactly once; the job carries what was reached and the size, if it became known. Main thread.
     std::function<void(const Verdict &verdict, const UploadJob &job)> ended;
 };

@@ -3,16 +3,19 @@
 
 #include "Platform/Foundation/NSLog.h"
 #include "Platform/Social/RemoteServiceError.h"
+#include "Service/RecordCodec.h"
 
 #include <QDateTime>
 #include <QSqlError>
 #include <QUuid>
 #include <QVariant>
 
+#include <algorithm>
+
 namespace korvane {
 namespace {
 
-constexpr int schemaVersion = 1;
+constexpr int schemaVersion = 2;
 
 // "state" is an UploadState; the partial index keeps the look for suspects free of cost while there are none.
 const char *const schema[] = {
@@ -22,7 +25,7 @@ const char *const schema[] = {
     "photo INTEGER NOT NULL, bytes INTEGER NOT NULL, attempts INTEGER NOT NULL, failures INTEGER NOT NULL, "
     "failing_since INTEGER NOT NULL, deaths INTEGER NOT NULL, created INTEGER NOT NULL, finished INTEGER NOT NULL, "
     "next_try INTEGER NOT NULL, error_domain TEXT, error_code INTEGER, error_text TEXT, message TEXT NOT NULL, "
-    "record BLOB NOT NULL)",
+    "record BLOB NOT NULL, export TEXT NOT NULL DEFAULT '', video BLOB)",
     "CREATE INDEX uploads_queued ON uploads (state, service, id)",
     "CREATE INDEX uploads_due ON uploads (state, next_try)",
     "CREATE INDEX uploads_message ON uploads (message)",
@@ -41,10 +44,16 @@ const char *const schema[] = {
     "CREATE TABLE settings (name TEXT PRIMARY KEY, value INTEGER NOT NULL)",
 };
 
-const QString columns =
-    QStringLiteral("id, service, state, wait_reason, title, account, account_name, spool, source, photo, bytes, "
-                   "attempts, failures, failing_since, deaths, created, finished, next_try, error_domain, "
-                   "error_code, error_text");
+// From the version before.
+const char *const migration[] = {
+    "ALTER TABLE uploads ADD COLUMN export TEXT NOT NULL DEFAULT ''",
+    "ALTER TABLE uploads ADD COLUMN video BLOB",
+};
+
+const QString columns = QStringLiteral(
+    "id, service, state, wait_reason, title, account, account_name, spool, source, photo, bytes, "
+    "attempts, failures, failing_since, deaths, created, finished, next_try, export, video, error_domain, "
+    "error_code, error_text");
 
 QString identityText(const std::optional<FileIdentity> &identity) {
     if (!identity) return QStringLiteral("");
@@ -85,6 +94,9 @@ UploadJob jobOfRow(const QSqlQuery &row) {
     job.createdAt = number();
     job.finishedAt = number();
     job.nextTryAt = number();
+    job.exportFile = text();
+    if (const QVariant video = row.value(column++); !video.isNull())
+        job.video = VimeoCheckpoint::withDictionary(RecordCodec::decode(video.toByteArray(), nullptr));
     if (!row.value(column).isNull())
         job.error = NSError::errorWithDescription(row.value(column).toString(), row.value(column + 1).toLongLong(),
                                                   row.value(column + 2).toString());
@@ -98,11 +110,13 @@ QString bound(const QString &text) {
 
 // Binds everything from "service" to "error_text", in the order of the columns.
 void bindJob(QSqlQuery &query, const UploadJob &job) {
-    for (const QVariant &value : QVariantList{
-             bound(job.service), int(job.state), int(job.waitReason), bound(job.title), bound(job.accountID),
-             bound(job.accountName), bound(job.spoolFile), identityText(job.source), job.photoID, job.bytesTotal,
-             job.attempts, job.failures, job.failingSince, job.deaths, job.createdAt, job.finishedAt, job.nextTryAt})
+    for (const QVariant &value :
+         QVariantList{bound(job.service), int(job.state), int(job.waitReason), bound(job.title), bound(job.accountID),
+                      bound(job.accountName), bound(job.spoolFile), identityText(job.source), job.photoID,
+                      job.bytesTotal, job.attempts, job.failures, job.failingSince, job.deaths, job.createdAt,
+                      job.finishedAt, job.nextTryAt, bound(job.exportFile)})
         query.addBindValue(value);
+    query.addBindValue(job.video ? QVariant(RecordCodec::encode(job.video->dictionary(), nullptr)) : QVariant());
     query.addBindValue(job.error ? QVariant(job.error->domain()) : QVariant());
     query.addBindValue(job.error ? QVariant(job.error->code()) : QVariant());
     query.addBindValue(job.error ? QVariant(job.error->localizedDescription()) : QVariant());
@@ -138,12 +152,16 @@ bool UploadStore::open(const QString &path, std::optional<NSError> *error) {
         return fail(QStringLiteral(
             "it is damaged. Move it away to begin a new queue; the data of its posts stands in the spool beside it"));
     }
-    if (found != 0) return fail(QStringLiteral("it was written by another version of Korvane"));
+    if (found != 0 && found != schemaVersion - 1)
+        return fail(QStringLiteral("it was written by another version of Korvane"));
+    return _bringUpToDate(found) || fail(_errorText);
+}
+
+bool UploadStore::_bringUpToDate(int version) {
     _database.transaction();
-    for (const char *statement : schema)
-        if (!_exec(QLatin1String(statement))) return fail(_errorText);
-    _exec(QStringLiteral("PRAGMA user_version=%1").arg(schemaVersion));
-    return _database.commit() || fail(_database.lastError().text());
+    const auto run = [this](const char *statement) { return _exec(QLatin1String(statement)); };
+    const bool done = version == 0 ? std::ranges::all_of(schema, run) : std::ranges::all_of(migration, run);
+    return done && _exec(QStringLiteral("PRAGMA user_version=%1").arg(schemaVersion)) && _database.commit();
 }
 
 bool UploadStore::_isSound() {
@@ -162,9 +180,9 @@ bool UploadStore::take(const QString &messageID, const std::vector<NewUpload> &u
     QSqlQuery query(_database);
     query.prepare(QStringLiteral(
         "INSERT INTO uploads (service, state, wait_reason, title, account, account_name, spool, source, photo, bytes, "
-        "attempts, failures, failing_since, deaths, created, finished, next_try, error_domain, "
+        "attempts, failures, failing_since, deaths, created, finished, next_try, export, video, error_domain, "
         "error_code, error_text, message, record) "
-        "VALUES (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)"));
+        "VALUES (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)"));
     for (const NewUpload &upload : uploads) {
         if (!taken) break;
         bindJob(query, upload.job);
@@ -260,7 +278,7 @@ bool UploadStore::update(const UploadJob &job, bool durable) {
     query.prepare(QStringLiteral("UPDATE uploads SET service = ?, state = ?, wait_reason = ?, title = ?, account = ?, "
                                  "account_name = ?, spool = ?, source = ?, photo = ?, "
                                  "bytes = ?, attempts = ?, failures = ?, failing_since = ?, deaths = ?, created = ?, "
-                                 "finished = ?, next_try = ?, "
+                                 "finished = ?, next_try = ?, export = ?, video = ?, "
                                  "error_domain = ?, error_code = ?, error_text = ? WHERE id = ?"));
     bindJob(query, job);
     query.addBindValue(job.id);
@@ -293,7 +311,7 @@ bool UploadStore::spoolFileIsNeeded(const QString &name) {
 std::optional<QSet<QString>> UploadStore::spoolFiles() {
     QSet<QString> names;
     QSqlQuery query(_database);
-    query.prepare(QStringLiteral("SELECT DISTINCT spool FROM uploads"));
+    query.prepare(QStringLiteral("SELECT spool FROM uploads UNION SELECT export FROM uploads"));
     if (!_run(query)) return std::nullopt;
     while (query.next())
         names.insert(query.value(0).toString());

@@ -1,0 +1,58 @@
+// What becomes of an upload after a run, and what is judged alike for all web services.
+#include "Service/Verdict.h"
+
+#include "Platform/Foundation/NSLog.h"
+
+namespace korvane {
+namespace {
+
+constexpr qsizetype longestShownAnswer = 200;
+
+}
+
+Verdict Verdict::waiting(WaitReason reason, const NSError &error, const QString &text) {
+    return {UploadState::Waiting, reason, NSError::errorWithDescription(error.domain(), error.code(), text)};
+}
+
+Verdict Verdict::failed(const NSError &error, const QString &text) {
+    return {UploadState::Failed, WaitReason::None, NSError::errorWithDescription(error.domain(), error.code(), text)};
+}
+
+std::optional<Verdict> Verdict::onUnbegunRun(const RunOutcome &outcome) {
+    switch (outcome.end) {
+    case RunOutcome::Unusable:
+        return Verdict{UploadState::Failed, WaitReason::None, outcome.error};
+    case RunOutcome::Hindered:
+        return Verdict{UploadState::Waiting, WaitReason::NextTry, outcome.error};
+    case RunOutcome::NoAccount:
+        return Verdict{UploadState::Waiting, WaitReason::SignIn, outcome.error};
+    case RunOutcome::Finished:
+        break;
+    }
+    return std::nullopt;
+}
+
+Verdict Verdict::onTransport(const NSError &error, const QString &service) {
+    switch (error.code()) {
+    case NSURLErrorCannotFindHost:
+    case NSURLErrorCannotConnectToHost:
+    case NSURLErrorNotConnectedToInternet:
+    case NSURLErrorNetworkConnectionLost:
+    case NSURLErrorTimedOut:
+        return waiting(WaitReason::Network, error,
+                       QStringLiteral("%1 cannot be reached: %2").arg(service, error.localizedDescription()));
+    default:
+        return waiting(WaitReason::NextTry, error,
+                       QStringLiteral("The connection to %1 failed: %2").arg(service, error.localizedDescription()));
+    }
+}
+
+bool isServerTrouble(int status) {
+    return status >= 500 || status == 408 || status == 429;
+}
+
+QString shownAnswer(const QString &text) {
+    return redacted(text.simplified().left(longestShownAnswer));
+}
+
+} // namespace korvane

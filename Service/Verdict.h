@@ -1,0 +1,28 @@
+// What becomes of an upload after a run, and what is judged alike for all web services.
+#pragma once
+
+#include "Service/RunOutcome.h"
+#include "Service/UploadJob.h"
+
+namespace korvane {
+
+struct Verdict {
+    UploadState state = UploadState::Done;    // Done, Waiting or Failed
+    WaitReason waitReason = WaitReason::None; // with Waiting
+    std::optional<NSError> error;             // for people: what happened and what to do
+
+    // With the error's domain and code and a text for people.
+    static Verdict waiting(WaitReason reason, const NSError &error, const QString &text);
+    static Verdict failed(const NSError &error, const QString &text);
+    // Of a run that did not get to the web service; null for one that did.
+    static std::optional<Verdict> onUnbegunRun(const RunOutcome &outcome);
+    // Of an error of NSURLErrorDomain. service: its name for people.
+    static Verdict onTransport(const NSError &error, const QString &service);
+};
+
+// Whether the HTTP status speaks of a trouble of the service's own that will pass.
+bool isServerTrouble(int status);
+// What the service said, as far as it is fit to be shown: short, on one line, without secrets.
+QString shownAnswer(const QString &text);
+
+} // namespace korvane

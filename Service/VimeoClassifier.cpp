@@ -1,0 +1,102 @@
+// What becomes of a Vimeo upload after a run.
+#include "Service/FailureClassifier.h"
+
+#include "Korvane/VimeoPost.h"
+#include "Platform/AVFoundation/AVError.h"
+#include "Platform/Foundation/NSJSONSerialization.h"
+
+namespace korvane {
+namespace {
+
+const QString serviceName = QStringLiteral("Vimeo");
+
+// The "err" object of the last answer; empty where it has none.
+QVariantMap refusalIn(const UploadContext::Snapshot &request) {
+    const auto answer = NSJSONSerialization::JSONObjectWithData(request.answer);
+    return answer ? answer->toMap().value(QStringLiteral("err")).toMap() : QVariantMap();
+}
+
+QString wordsOf(const QVariantMap &refusal) {
+    const QString message = refusal.value(QStringLiteral("msg")).toString();
+    const QString explanation = refusal.value(QStringLiteral("expl")).toString();
+    return shownAnswer(explanation.isEmpty() ? message : message + QStringLiteral(": ") + explanation);
+}
+
+// The person can only act on what Vimeo itself has said, if it has said anything.
+Verdict verdictOnBadAnswer(const NSError &error, const UploadContext::Snapshot &request) {
+    const QVariantMap refusal = refusalIn(request);
+    if (refusal.isEmpty())
+        return Verdict::failed(
+            error,
+            QStringLiteral("Vimeo's answer was not understood (HTTP status %1). Retry later.").arg(request.httpStatus));
+    return Verdict::failed(error, QStringLiteral("Vimeo refused the video: %1 (code %2). Retry, or share it again.")
+                                      .arg(wordsOf(refusal), refusal.value(QStringLiteral("code")).toString()));
+}
+
+Verdict verdictOnPostError(const NSError &error, const UploadContext::Snapshot &request) {
+    switch (error.code()) {
+    case VimeoPostErrorServiceCode401:
+        return Verdict::failed(error, QStringLiteral("Vimeo does not accept the sign-in (%1). Sign in again (korvane "
+                                                     "accounts), check this device's clock, then retry.")
+                                          .arg(wordsOf(refusalIn(request))));
+    case VimeoPostErrorServiceCode708:
+        return Verdict::waiting(WaitReason::NextTry, error, QStringLiteral("Vimeo asks to send the video again."));
+    case VimeoPostErrorQuotaExceeded:
+        return Verdict::failed(error, QStringLiteral("The video is larger than the space that is free on Vimeo. Free "
+                                                     "space there, or share a smaller one."));
+    case VimeoPostErrorNoSDQuota:
+        return Verdict::failed(error, QStringLiteral("The Vimeo account can take no more videos just now. Retry when "
+                                                     "its quota is renewed."));
+    case VimeoPostErrorUnsupportedAsset:
+        return Verdict::failed(error, QStringLiteral("The post names no video that can be read. Share it again."));
+    case VimeoPostErrorMissingAccountOrTitle:
+        return Verdict::failed(error, QStringLiteral("A video on Vimeo needs a title. Share it again with one."));
+    default:
+        return verdictOnBadAnswer(error, request);
+    }
+}
+
+Verdict verdictOnExport(const NSError &error) {
+    const bool mayPass = error.code() == AVErrorDiskFull || error.code() == AVErrorExportFailed;
+    return mayPass ? Verdict::waiting(WaitReason::NextTry, error, error.localizedDescription())
+                   : Verdict::failed(error, error.localizedDescription());
+}
+
+} // namespace
+
+Verdict FailureClassifier::verdictOnVimeoRun(const RunOutcome &outcome) {
+    if (const auto verdict = Verdict::onUnbegunRun(outcome)) return *verdict;
+    if (!outcome.error) return {};
+    const NSError &error = *outcome.error;
+    const auto &request = outcome.lastRequest;
+    if (error.domain() == AVFoundationErrorDomain) return verdictOnExport(error);
+    if (error.domain() == NSURLErrorDomain) return Verdict::onTransport(error, serviceName);
+    if (error.domain() != VimeoPublishPostErrorDomain) return Verdict::failed(error, error.localizedDescription());
+    // The upload's own codes for an answer that did not come say nothing of why.
+    if (request.transportError) return Verdict::onTransport(*request.transportError, serviceName);
+    if (isServerTrouble(request.httpStatus))
+        return Verdict::waiting(WaitReason::NextTry, error,
+                                QStringLiteral("Vimeo is in trouble (HTTP status %1).").arg(request.httpStatus));
+    return verdictOnPostError(error, request);
+}
+
+FailureClassifier::CommitFate FailureClassifier::fateOfCommit(const UploadContext::Snapshot &request) {
+    if (const auto &error = request.transportError) {
+        // A job is only cancelled before its commit is sent.
+        const bool neverSent =
+            error->code() == NSURLErrorCannotFindHost || error->code() == NSURLErrorCannotConnectToHost ||
+            error->code() == NSURLErrorNotConnectedToInternet || error->code() == NSURLErrorCancelled ||
+            (error->code() <= NSURLErrorSecureConnectionFailed && error->code() >= NSURLErrorClientCertificateRequired);
+        return neverSent ? CommitFate::NotDone : CommitFate::Unknown;
+    }
+    if (!refusalIn(request).isEmpty()) return CommitFate::Refused;
+    return request.httpStatus == 503 || request.httpStatus == 429 ? CommitFate::NotDone : CommitFate::Unknown;
+}
+
+Verdict FailureClassifier::verdictOnUnansweredCommit() {
+    return Verdict::failed(NSError(VimeoPublishPostErrorDomain, VimeoPostErrorEmptyResponse),
+                           QStringLiteral("Vimeo did not say whether it has the whole video: the video may be on "
+                                          "Vimeo; look there, then retry or remove."));
+}
+
+} // namespace korvane

@@ -1,0 +1,162 @@
+// Runs one Vimeo upload.
+#include "Service/VimeoRunner.h"
+
+#include "Korvane/KRRemoteSession.h"
+#include "Korvane/VimeoPost.h"
+#include "Platform/Accounts/ACAccountStore.h"
+#include "Platform/Foundation/Dispatch.h"
+#include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/NSLog.h"
+#include "Service/JobAccount.h"
+#include "Service/PostCheck.h"
+#include "Service/Spool.h"
+#include "Service/TicketCheck.h"
+#include "Service/VerifyWatch.h"
+
+#include <QDir>
+
+namespace korvane {
+namespace {
+
+// One step follows another, each handed over from thread to thread, so nothing here needs a lock.
+class VimeoRun : public VimeoPostDelegate, public std::enable_shared_from_this<VimeoRun> {
+public:
+    explicit VimeoRun(UploadRun run)
+        : _run(std::move(run)), _watch(_run.job.video ? _run.job.video->bytesStored : 0),
+          _temporaryFolder(NSTemporaryDirectory() + QStringLiteral("/video-%1").arg(_run.job.id)) {}
+
+    void begin();
+
+    void vimeoPostWarningDuringUpload(const std::shared_ptr<VimeoPost> &, qint64) override {
+        dispatchMain([id = _run.job.id] {
+            NSLog("Upload %lli: the Vimeo account has no quota for high definition left; the video goes on.", id);
+        });
+    }
+    void vimeoPostUploadFailedWithError(const std::shared_ptr<VimeoPost> &, const NSError &error) override {
+        dispatchMain([self = shared_from_this(), error] { self->_finished(error); });
+    }
+    void vimeoPostUploadSucceeded(const std::shared_ptr<VimeoPost> &) override {
+        dispatchMain([self = shared_from_this()] { self->_finished(std::nullopt); });
+    }
+
+private:
+    void _reached(const VimeoCheckpoint &checkpoint, const std::function<void()> &proceed);
+    void _keepExport();
+    std::optional<NSError> _objection(const VimeoCheckpoint &checkpoint);
+    void _finished(const std::optional<NSError> &error);
+    void _end(const Verdict &verdict);
+    void _endWithOutcome(const RunOutcome &outcome);
+
+    UploadRun _run;
+    std::shared_ptr<VimeoPost> _post;
+    VerifyWatch _watch;
+    const QString _temporaryFolder;
+    std::optional<NSError> _objected; // why the run was broken off from here
+    bool _commitWasHeldBack = false;
+};
+
+void VimeoRun::begin() {
+    _post = VimeoPost::initWithDictionary(_run.record);
+    if (_run.job.video && _run.job.video->commitSent) return _end(FailureClassifier::verdictOnUnansweredCommit());
+    if (const auto objection = PostCheck::prepare(*_post, _run.job))
+        return _endWithOutcome(
+            {objection->mayPass ? RunOutcome::Hindered : RunOutcome::Unusable, objection->error, {}, 0});
+    const auto account = accountOfJob(_run.job, *_run.accounts);
+    if (!account || !account->credential()) return _endWithOutcome(withoutAccount(_run.job));
+    account->setUploadContext(_run.context);
+    makePrivateFolder(_temporaryFolder);
+    _post->temporaryDirectory = _temporaryFolder;
+    if (!_run.job.exportFile.isEmpty())
+        _post->dataReader = KRDataReader::dataReaderWithURL(_run.spool->urlOf(_run.job.exportFile));
+    _post->checkpointChanged = [self = shared_from_this()](const VimeoCheckpoint &checkpoint,
+                                                           const std::function<void()> &proceed) {
+        dispatchGlobal([=] { self->_reached(checkpoint, proceed); });
+    };
+    _post->setDelegate(weak_from_this());
+    std::optional<NSError> error;
+    if (!_post->resumeUploadToAccount(account, _run.job.video.value_or(VimeoCheckpoint()), &error))
+        dispatchMain([self = shared_from_this(), error] { self->_finished(error); });
+}
+
+// On a pool thread. Whatever stands against going on, the upload ends through its own failure path.
+void VimeoRun::_reached(const VimeoCheckpoint &checkpoint, const std::function<void()> &proceed) {
+    _keepExport();
+    _objected = _objection(checkpoint);
+    if (_objected) {
+        _commitWasHeldBack = checkpoint.commitSent;
+        _run.context->cancel();
+        return dispatchMain(proceed);
+    }
+    _run.job.video = checkpoint;
+    _run.job.bytesTotal = _post->postSize();
+    const bool mustNotComeTwice = checkpoint.commitSent || checkpoint.videoID.isValid();
+    _run.reached(_run.job, mustNotComeTwice, [self = shared_from_this(), checkpoint, proceed](bool isRecorded) {
+        if (!isRecorded && checkpoint.commitSent) {
+            self->_commitWasHeldBack = true;
+            self->_run.context->cancel();
+        }
+        dispatchMain(proceed);
+    });
+}
+
+// The post removes its export when the run ends; the next run would have to make it again.
+void VimeoRun::_keepExport() {
+    if (!_post->exportedVideoURL || !_post->dataReader || !_run.job.exportFile.isEmpty()) return;
+    std::optional<NSError> error;
+    if (const auto name = _run.spool->adopt(_post->dataReader->readHandle->file()->get(), &error))
+        _run.job.exportFile = *name;
+    else
+        NSLog("The export of upload %lli is not kept: %@", _run.job.id, error);
+}
+
+std::optional<NSError> VimeoRun::_objection(const VimeoCheckpoint &checkpoint) {
+    if (const auto changed = PostCheck::objectionToChange(*_post, _run.job)) return changed;
+    if (_post->uploadState() == VimeoUploadStateGettingTicket) return TicketCheck::objection(checkpoint);
+    if (_post->uploadState() == VimeoUploadStateVerifyingChunk && !_watch.heard(checkpoint.bytesStored))
+        return TicketCheck::stuckError();
+    return std::nullopt;
+}
+
+void VimeoRun::_finished(const std::optional<NSError> &error) {
+    const auto request = _run.context->snapshot();
+    auto &video = _run.job.video;
+    if (_objected) return _end({UploadState::Failed, WaitReason::None, _objected});
+    if (video && video->commitSent && _commitWasHeldBack) video->commitSent = false;
+    if (error && video && video->commitSent) {
+        switch (FailureClassifier::fateOfCommit(request)) {
+        case FailureClassifier::CommitFate::Unknown:
+            return _end(FailureClassifier::verdictOnUnansweredCommit());
+        case FailureClassifier::CommitFate::NotDone:
+            video->commitSent = false;
+            break;
+        case FailureClassifier::CommitFate::Refused:
+            video.reset(); // a later try begins with a new ticket
+            break;
+        }
+    }
+    _endWithOutcome({RunOutcome::Finished, error, request, 0});
+}
+
+void VimeoRun::_endWithOutcome(const RunOutcome &outcome) {
+    _end(FailureClassifier::verdictOnVimeoRun(outcome));
+}
+
+void VimeoRun::_end(const Verdict &verdict) {
+    dispatchMain([self = shared_from_this(), verdict] {
+        self->_post->checkpointChanged = nullptr;
+        QDir(self->_temporaryFolder).removeRecursively();
+        KRRemoteSession::decrementPowerAssertion();
+        self->_run.ended(verdict, self->_run.job);
+    });
+}
+
+} // namespace
+
+void VimeoRunner::start(UploadRun run) {
+    dispatchMain([shared = std::make_shared<VimeoRun>(std::move(run))] {
+        KRRemoteSession::incrementPowerAssertion();
+        dispatchGlobal([shared] { shared->begin(); });
+    });
+}
+
+} // namespace korvane
