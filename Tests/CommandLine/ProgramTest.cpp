@@ -1,15 +1,12 @@
 // The program korvane as it is run: what it refuses, what it says, and its exit status.
-#include "Tests/Support/TemporaryHome.h"
+#include "Tests/EndToEnd/ServiceHarness.h"
 
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QProcess>
 
-#include <gtest/gtest.h>
-
-#include <sys/stat.h>
+using namespace korvane::test;
 
 namespace {
 
@@ -19,137 +16,134 @@ struct Ending {
     QByteArray errors;
 };
 
+Ending run(const QByteArrayList &arguments, const QByteArray &input = {}) {
+    QStringList texts;
+    for (const QByteArray &argument : arguments)
+        texts.append(QString::fromUtf8(argument));
+    QProcess program;
+    program.start(QStringLiteral(KORVANE_PROGRAM), texts);
+    program.write(input);
+    program.closeWriteChannel();
+    EXPECT_TRUE(program.waitForFinished(60'000));
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit) << program.readAllStandardError().constData();
+    return {program.exitCode(), program.readAllStandardOutput(), program.readAllStandardError()};
+}
+
 // On a home folder of its own and without a bus.
 class KorvaneProgram : public ::testing::Test {
 protected:
     KorvaneProgram() { home.setEnvironment("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus"); }
 
-    Ending run(const QStringList &arguments, const QByteArray &input = {}) const {
-        QProcess program;
-        program.start(QStringLiteral(KORVANE_PROGRAM), arguments);
-        program.write(input);
-        program.closeWriteChannel();
-        EXPECT_TRUE(program.waitForFinished(60'000));
-        EXPECT_EQ(program.exitStatus(), QProcess::NormalExit) << program.readAllStandardError().constData();
-        return {program.exitCode(), program.readAllStandardOutput(), program.readAllStandardError()};
-    }
-
-    static QByteArray credentials(const char *name) {
-        return R"({"username":")" + QByteArray(name) +
+    static QByteArray credentials(const QByteArray &name) {
+        return R"({"username":")" + name +
                R"(","consumerKey":"key","consumerSecret":"hush1","token":"token","tokenSecret":"hush2"})";
     }
+    static Ending addAccount(const QByteArray &input) {
+        return run({"accounts", "add", "flickr", "--credential-file", "-"}, input);
+    }
 
-    korvane::test::TemporaryHome home;
+    TemporaryHome home;
+    const QByteArray photo = home.file("good.jpg", jpegOfSize(2000));
 };
 
 } // namespace
 
 TEST_F(KorvaneProgram, BadUsageIsStatusTwoAndSaysWhat) {
-    const QString photo = QFile::decodeName(home.file(QStringLiteral("a.jpg"), korvane::test::jpegOfSize(2000)));
-    const QStringList share{QStringLiteral("share"), QStringLiteral("flickr")};
-    const std::pair<QStringList, const char *> cases[] = {
+    const std::pair<QByteArrayList, const char *> cases[] = {
         {{}, "subcommand"},
-        {{QStringLiteral("dance")}, "dance"},
-        {share, "FILE"},
-        {{QStringLiteral("share"), QStringLiteral("vimeo"), photo}, "vimeo"},
-        {share + QStringList{photo, QStringLiteral("--audience"), QStringLiteral("everybody")}, "everybody"},
-        {share + QStringList{photo, QStringLiteral("--album"), QStringLiteral("Summer")}, "not a number"},
-        {share + QStringList{photo, QStringLiteral("--album"), QStringLiteral("0")}, "not a number"},
-        {{QStringLiteral("uploads"), QStringLiteral("retry")}, "ID"},
-        {{QStringLiteral("uploads"), QStringLiteral("remove"), QStringLiteral("all")}, "not a number"},
-        {{QStringLiteral("accounts"), QStringLiteral("add"), QStringLiteral("flickr")}, "\"consumerKey\""},
-        {{QStringLiteral("accounts"), QStringLiteral("remove"), QStringLiteral("nobody")}, "nobody"},
-        {{QStringLiteral("standin"), QStringLiteral("--port"), QStringLiteral("70000")}, "70000"},
+        {{"dance"}, "dance"},
+        {{"share", "flickr"}, "FILE"},
+        {{"share", "vimeo", photo}, "vimeo"},
+        {{"share", "flickr", photo, "--audience", "everybody"}, "everybody"},
+        {{"share", "flickr", photo, "--album", "Summer"}, "not a number"},
+        {{"uploads", "retry"}, "ID"},
+        {{"uploads", "remove", "all"}, "not a number"},
+        {{"accounts", "add", "flickr"}, "\"consumerKey\""},
+        {{"accounts", "remove", "nobody"}, "nobody"},
+        {{"standin", "--port", "70000"}, "70000"},
     };
     for (const auto &[arguments, text] : cases) {
         const Ending ending = run(arguments);
-        EXPECT_EQ(ending.status, 2) << arguments.join(u' ').toStdString();
-        EXPECT_TRUE(ending.errors.contains(text))
-            << arguments.join(u' ').toStdString() << ": " << ending.errors.constData();
+        EXPECT_EQ(ending.status, 2) << arguments.join(' ').constData();
+        EXPECT_TRUE(says(ending.errors, text)) << arguments.join(' ').constData();
         EXPECT_EQ(ending.output, "");
     }
 }
 
 TEST_F(KorvaneProgram, AnswersHelpAndVersionAlsoInTheCLocale) {
     home.setEnvironment("LC_ALL", "C");
-    EXPECT_EQ(run({QStringLiteral("--version")}).output, "korvane " KORVANE_VERSION "\n");
-    for (const QStringList &command : {QStringList{},
-                                       {QStringLiteral("share"), QStringLiteral("flickr")},
-                                       {QStringLiteral("uploads")},
-                                       {QStringLiteral("accounts")},
-                                       {QStringLiteral("standin")}}) {
-        const Ending ending = run(command + QStringList{QStringLiteral("--help")});
+    EXPECT_EQ(run({"--version"}).output, "korvane " KORVANE_VERSION "\n");
+    for (const QByteArrayList &command :
+         {QByteArrayList{}, {"share", "flickr"}, {"uploads"}, {"accounts"}, {"standin"}}) {
+        const Ending ending = run(command + QByteArrayList{"--help"});
         EXPECT_EQ(ending.status, 0);
-        EXPECT_EQ(ending.errors, "") << command.join(u' ').toStdString();
-        EXPECT_TRUE(ending.output.contains("Usage")) << ending.output.constData();
+        EXPECT_EQ(ending.errors, "") << command.join(' ').constData();
+        EXPECT_TRUE(says(ending.output, "Usage"));
     }
 }
 
 TEST_F(KorvaneProgram, EveryUnusableFileIsNamedAndNoneIsShared) {
-    const QString photo = QFile::decodeName(home.file(QStringLiteral("good.jpg"), korvane::test::jpegOfSize(2000)));
-    const QString empty = QFile::decodeName(home.file(QStringLiteral("empty.jpg"), {}));
-    const QString text = QFile::decodeName(home.file(QStringLiteral("text.jpg"), "hello"));
-    const QString huge = QFile::decodeName(home.file(QStringLiteral("huge.jpg"), korvane::test::jpegOfSize(2000)));
-    ASSERT_TRUE(QFile::resize(huge, 2LL * 1024 * 1024 * 1024));
-    const QString missing = home.path(QStringLiteral("missing.jpg"));
-    const Ending ending =
-        run({QStringLiteral("share"), QStringLiteral("flickr"), photo, empty, text, huge, missing, home.path()});
+    const QByteArray empty = home.file("empty.jpg", {});
+    const QByteArray text = home.file("text.jpg", "hello");
+    const QByteArray huge = home.file("huge.jpg", jpegOfSize(2000));
+    ASSERT_TRUE(QFile::resize(QFile::decodeName(huge), 2LL * 1024 * 1024 * 1024));
+    const QByteArray folder = QFile::encodeName(home.path());
+    const Ending ending = run({"share", "flickr", photo, empty, text, huge, folder + "/missing.jpg", folder});
     EXPECT_EQ(ending.status, 2);
     EXPECT_EQ(ending.output, "");
     for (const char *said :
          {"empty.jpg: the file is empty", "text.jpg: the file is not a picture", "huge.jpg: the file has 2.15 GB",
           "missing.jpg: No such file", ": Is a directory", "Nothing was shared."})
-        EXPECT_TRUE(ending.errors.contains(said)) << said << " in " << ending.errors.constData();
-    EXPECT_FALSE(ending.errors.contains("good.jpg"));
+        EXPECT_TRUE(says(ending.errors, said));
+    EXPECT_FALSE(says(ending.errors, "good.jpg"));
 }
 
 TEST_F(KorvaneProgram, TellsAMissingAccountFromAnUnreachableService) {
-    const QString photo = QFile::decodeName(home.file(QStringLiteral("a.jpg"), korvane::test::jpegOfSize(2000)));
-    const QStringList share{QStringLiteral("share"), QStringLiteral("flickr"), photo};
-    const Ending without = run(share);
+    const Ending without = run({"share", "flickr", photo});
     EXPECT_EQ(without.status, 3);
-    EXPECT_TRUE(without.errors.contains("korvane accounts add flickr")) << without.errors.constData();
+    EXPECT_TRUE(says(without.errors, "korvane accounts add flickr"));
 
-    const QStringList add{QStringLiteral("accounts"), QStringLiteral("add"), QStringLiteral("flickr"),
-                          QStringLiteral("--credential-file"), QStringLiteral("-")};
     for (const char *name : {"first", "second"})
-        ASSERT_EQ(run(add, credentials(name)).status, 0);
-    const Ending with = run(share);
-    EXPECT_EQ(with.status, 4) << with.errors.constData();
-    EXPECT_TRUE(with.errors.contains("Sharing as second, the last added of 2")) << with.errors.constData();
-    EXPECT_TRUE(with.errors.contains("Nothing was shared.")) << with.errors.constData();
-    for (const QStringList &arguments : {QStringList{QStringLiteral("uploads")},
-                                         {QStringLiteral("uploads"), QStringLiteral("watch")},
-                                         {QStringLiteral("uploads"), QStringLiteral("retry"), QStringLiteral("all")}})
-        EXPECT_EQ(run(arguments).status, 4) << arguments.join(u' ').toStdString();
+        ASSERT_EQ(addAccount(credentials(name)).status, 0);
+    const Ending with = run({"share", "flickr", photo});
+    EXPECT_EQ(with.status, 4);
+    EXPECT_TRUE(says(with.errors, "Sharing as second, the last added of 2"));
+    EXPECT_TRUE(says(with.errors, "Nothing was shared."));
+    for (const QByteArrayList &arguments :
+         {QByteArrayList{"uploads"}, {"uploads", "watch"}, {"uploads", "retry", "all"}})
+        EXPECT_EQ(run(arguments).status, 4) << arguments.join(' ').constData();
 }
 
 TEST_F(KorvaneProgram, AccountsComeAndGoWithoutShowingSecrets) {
-    const QString file = QFile::decodeName(home.file(QStringLiteral("me.json"), credentials("Zoë")));
-    const Ending added = run({QStringLiteral("accounts"), QStringLiteral("add"), QStringLiteral("flickr"),
-                              QStringLiteral("--credential-file"), file});
+    const Ending refused = addAccount("{\"username\":\"a\",\"token\":\"hush\"}");
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_TRUE(says(refused.errors, "consumerKey"));
+    const QByteArray file = home.file("me.json", credentials("Zoë"));
+    const Ending added = run({"accounts", "add", "flickr", "--credential-file", file});
     EXPECT_EQ(added.status, 0) << added.errors.constData();
-    const Ending list = run({QStringLiteral("accounts"), QStringLiteral("--json")});
-    const QJsonArray accounts = QJsonDocument::fromJson(list.output).array();
-    ASSERT_EQ(accounts.size(), 1);
-    EXPECT_EQ(accounts[0].toObject().value(QStringLiteral("username")).toString(), QStringLiteral("Zoë"));
-    EXPECT_EQ(accounts[0].toObject().value(QStringLiteral("service")).toString(), QStringLiteral("flickr"));
-    EXPECT_FALSE(
-        (added.output + added.errors + list.output + run({QStringLiteral("accounts")}).output).contains("hush"));
-    const QString id = accounts[0].toObject().value(QStringLiteral("id")).toString();
-    EXPECT_EQ(run({QStringLiteral("accounts"), QStringLiteral("remove"), id}).status, 0);
-    EXPECT_TRUE(run({QStringLiteral("accounts")}).output.startsWith("No accounts."));
+    const Ending list = run({"accounts", "--json"});
+    const auto accounts = QJsonDocument::fromJson(list.output);
+    ASSERT_EQ(accounts.array().size(), 1);
+    EXPECT_EQ(accounts[0][QStringLiteral("username")].toString(), QStringLiteral("Zoë"));
+    EXPECT_EQ(accounts[0][QStringLiteral("service")].toString(), QStringLiteral("flickr"));
+    const QByteArray said = refused.errors + added.output + added.errors + list.output + run({"accounts"}).output;
+    EXPECT_FALSE(says(said, "hush"));
+    EXPECT_EQ(run({"accounts", "remove", accounts[0][QStringLiteral("id")].toString().toUtf8()}).status, 0);
+    EXPECT_TRUE(run({"accounts"}).output.startsWith("No accounts."));
+}
 
-    const std::pair<QByteArray, const char *> wrong[] = {{"", "empty"},
-                                                         {"{\"username\":\"a\",\"token\":\"hush\"}", "consumerKey"},
-                                                         {"hush{", "credential file"},
-                                                         {QByteArray(200'000, 'S'), "larger"}};
-    for (const auto &[input, said] : wrong) {
-        const Ending refused = run({QStringLiteral("accounts"), QStringLiteral("add"), QStringLiteral("flickr"),
-                                    QStringLiteral("--credential-file"), QStringLiteral("-")},
-                                   input);
-        EXPECT_EQ(refused.status, 2);
-        EXPECT_TRUE(refused.errors.contains(said)) << refused.errors.constData();
-        EXPECT_FALSE(refused.errors.contains("hush"));
-    }
+using KorvaneProgramWithService = ServiceTest;
+
+TEST_F(KorvaneProgramWithService, SharesWaitsAndTellsWhatBecameOfEachPhoto) {
+    flickr.server.on("upload").thenOk().answer(401, "text/plain", "oauth_problem=token_rejected");
+    home.file("config/korvane/preferences/com.zorvex.korvane.json", R"({"FlickrParallelUploads": 1})");
+    const Ending ending = run({"share", "flickr", "--title", "Sommer 夏", "--wait", "--json",
+                               home.file("a.jpg", jpegOfSize(2000)), home.file("b.jpg", jpegOfSize(3000))});
+    EXPECT_EQ(ending.status, 1) << ending.errors.constData();
+    const auto uploads = QJsonDocument::fromJson(ending.output);
+    ASSERT_EQ(uploads.array().size(), 2) << ending.output.constData();
+    EXPECT_EQ(uploads[0][QStringLiteral("state")].toString(), QStringLiteral("done"));
+    EXPECT_EQ(uploads[1][QStringLiteral("state")].toString(), QStringLiteral("failed"));
+    EXPECT_EQ(uploads[0][QStringLiteral("title")].toString(), QStringLiteral("Sommer 夏"));
+    EXPECT_EQ(flickr.server.photos().at(0).sha256, sha256Of(jpegOfSize(2000)));
 }

@@ -2,13 +2,12 @@
 #include "CommandLine/TerminalView.h"
 
 #include "CommandLine/UploadText.h"
-#include "Tests/Support/TemporaryHome.h"
+#include "Tests/Support/Testing.h"
 
 #include <QFile>
 
-#include <gtest/gtest.h>
-
 using namespace korvane;
+using namespace korvane::test;
 
 namespace {
 
@@ -23,15 +22,6 @@ ProgressTally tallyOf(size_t running) {
     tally.bytesSent = 12'300'000;
     tally.bytesTotal = 45'600'000;
     return tally;
-}
-
-// What a stream got until now.
-QByteArray contentsOf(FILE *stream) {
-    std::fflush(stream);
-    std::rewind(stream);
-    QFile file;
-    file.open(stream, QIODevice::ReadOnly);
-    return file.readAll();
 }
 
 } // namespace
@@ -55,11 +45,10 @@ TEST(TerminalView, LinesFitEveryTerminal) {
 TEST(TerminalView, LinesTellTheShareOfTheBytes) {
     const auto lines = TerminalView::lines(tallyOf(3), 100, 24);
     ASSERT_EQ(lines.size(), 5u);
-    EXPECT_TRUE(lines[2].text.contains(QStringLiteral("[#########-----------]   48%  2.0 MB of 4.1 MB")))
-        << lines[2].text.toStdString();
-    EXPECT_TRUE(lines[3].text.startsWith(QStringLiteral("Total"))) << lines[3].text.toStdString();
-    EXPECT_TRUE(lines[3].text.contains(QStringLiteral(" 26%  12.3 MB of 45.6 MB"))) << lines[3].text.toStdString();
-    EXPECT_TRUE(lines[4].text.startsWith(QStringLiteral("3 running, 7 queued, 1 waiting - waiting for the network:")));
+    EXPECT_TRUE(says(lines[2].text, "[#########-----------]   48%  2.0 MB of 4.1 MB"));
+    EXPECT_TRUE(says(lines[3].text, "Total"));
+    EXPECT_TRUE(says(lines[3].text, " 26%  12.3 MB of 45.6 MB"));
+    EXPECT_TRUE(says(lines[4].text, "3 running, 7 queued, 1 waiting - waiting for the network:"));
 
     EXPECT_EQ(TerminalView::bar(0, 0, 12), QStringLiteral("[----------]"));
     EXPECT_EQ(TerminalView::bar(9, 10, 12), QStringLiteral("[#########-]"));
@@ -67,21 +56,20 @@ TEST(TerminalView, LinesTellTheShareOfTheBytes) {
 }
 
 TEST(TerminalView, ColoursAreLeftOutWhereTheyAreNotWanted) {
-    test::TemporaryHome home; // puts the environment back
+    TemporaryHome home; // puts the environment back
     for (const bool plain : {false, true}) {
         home.setEnvironment("NO_COLOR", plain ? "1" : "");
-        FILE *stream = std::tmpfile();
+        FILE *stream = std::fopen(qPrintable(home.path("written")), "w");
         TerminalView view(stream);
-        Upload upload;
-        upload.id = QStringLiteral("3");
+        Upload upload = Upload::fromDictionary({{QStringLiteral("id"), QStringLiteral("3")}});
         upload.state = QStringLiteral("failed");
         upload.error = NSError::errorWithDescription(NSPOSIXErrorDomain, 5, QStringLiteral("bad \x1b[2Jtext"));
         view.progress(tallyOf(2));
         view.stateChanged(upload, QStringLiteral("x.jpg"));
         view.progress(tallyOf(1));
         view.finish();
-        const QByteArray written = contentsOf(stream);
         std::fclose(stream);
+        const QByteArray written = home.contents("written");
         EXPECT_EQ(written.contains("\x1b[31m"), !plain);
         EXPECT_EQ(written.contains("\x1b[32m"), !plain);
         EXPECT_FALSE(written.contains("\x1b[2J"));

@@ -2,13 +2,13 @@
 #include "CommandLine/UploadText.h"
 #include "CommandLine/Arguments.h"
 #include "Platform/Social/RemoteServiceError.h"
+#include "Tests/Support/Testing.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <gtest/gtest.h>
-
 using namespace korvane;
+using namespace korvane::test;
 
 namespace {
 
@@ -93,9 +93,8 @@ TEST(UploadText, JSONHasTheDocumentedMembersWithExactNumbers) {
 
 TEST(UploadText, RowsTellTheReasonSafelyAndFitTheTerminal) {
     const QString row = UploadText::tableRow(failedUpload(), 0);
-    EXPECT_TRUE(row.contains(QStringLiteral("(no\uFFFD\uFFFD!)"))) << row.toStdString();
-    EXPECT_FALSE(row.contains(QChar(0x1B)));
-    EXPECT_FALSE(row.contains(u'\n'));
+    EXPECT_TRUE(says(row, "(no\uFFFD\uFFFD!)"));
+    EXPECT_EQ(UploadText::printable(row), row);
     for (const int columns : {1, 20, 47, 48, 60, 200})
         EXPECT_LE(UploadText::width(UploadText::tableRow(failedUpload(), columns)), columns);
 

@@ -1,68 +1,55 @@
-// Following uploads over the bus.
+// Following uploads of a real service.
 #include "CommandLine/UploadsWatch.h"
 #include "CommandLine/ExitStatus.h"
-#include "Tests/CommandLine/ScriptedStatus.h"
-#include "Tests/Support/TemporaryHome.h"
-#include "Tests/Support/TestBus.h"
+#include "Service/UploadStore.h"
+#include "Tests/EndToEnd/ServiceHarness.h"
 
 #include <QTimer>
 
-#include <gtest/gtest.h>
-
-#include <csignal>
-#include <optional>
-
 using namespace korvane;
+using namespace korvane::test;
 
 namespace {
+
+using Heard = std::function<void(const QString &line)>;
 
 // Gathers what it is told, and lets the test go on when it has heard a line.
 class RecordingView : public ProgressView {
 public:
-    explicit RecordingView(QStringList &lines, std::function<void(const QString &)> heard = {})
-        : _lines(lines), _heard(std::move(heard)) {}
+    RecordingView(QStringList &lines, Heard heard) : _lines(lines), _heard(std::move(heard)) {}
     void stateChanged(const Upload &upload, const QString &label) override { _add(label + u' ' + upload.state); }
     void removed(const QString &, const QString &label) override { _add(label + QStringLiteral(" removed")); }
-    void note(const QString &text) override { _add(text); }
+    void note(const QString &) override { _add(QStringLiteral("paused")); }
 
 private:
     void _add(const QString &line) {
         _lines.append(line);
-        if (_heard) _heard(line);
+        _heard(line);
     }
     QStringList &_lines;
-    std::function<void(const QString &)> _heard;
+    Heard _heard;
 };
 
-class UploadsOnTheBus : public ::testing::Test {
+class UploadsOnTheBus : public ServiceTest {
 protected:
-    void SetUp() override {
-        ASSERT_TRUE(bus.emplace().start());
-        home.setEnvironment("DBUS_SESSION_BUS_ADDRESS", bus->address());
-        service.emplace(bus->connection());
+    UploadsOnTheBus() {
+        home.file("config/korvane/preferences/com.zorvex.korvane.json", R"({"FlickrParallelUploads": 1})");
+        ask("Pause");
     }
-    void TearDown() override { service.reset(); }
 
-    // Follows the uploads 1 to 3, "a" to "c".
-    int watch(std::function<void(const QString &)> heard, std::optional<NSError> *error = nullptr) {
-        UploadsWatch watch(client, std::make_unique<RecordingView>(lines, std::move(heard)));
-        watch.follow({QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")},
-                     {{QStringLiteral("1"), QStringLiteral("a")},
-                      {QStringLiteral("2"), QStringLiteral("b")},
-                      {QStringLiteral("3"), QStringLiteral("c")}});
+    // Takes four uploads over: 1, of somebody else, and "c", which has the last bytes, are empty if these are; 2 to 4,
+    // "a" to "c", are followed. heard: hears "paused" first.
+    int watch(const QByteArray &lastBytes, const Heard &heard, std::optional<NSError> *error = nullptr) {
+        EXPECT_TRUE(share({post({}), post(jpegOfSize(100, 1)), post(jpegOfSize(100, 2)), post(lastBytes)}));
+        UploadsWatch watch(client, std::make_unique<RecordingView>(lines, heard));
+        watch.follow({QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4")},
+                     {{QStringLiteral("2"), QStringLiteral("a")},
+                      {QStringLiteral("3"), QStringLiteral("b")},
+                      {QStringLiteral("4"), QStringLiteral("c")}});
         QTimer::singleShot(20'000, &watch, [] { std::raise(SIGTERM); }); // a watch that does not end fails with 143
         return watch.run(error);
     }
-    void setAll(const QString &state) {
-        for (const qint64 id : {1, 2, 3})
-            service->set(id, state);
-    }
 
-    const QString running = QStringLiteral("running");
-    const QString done = QStringLiteral("done");
-    test::TemporaryHome home;
-    std::optional<TestBus> bus;
-    std::optional<ScriptedStatus> service;
     UploadsClient client;
     QStringList lines;
 };
@@ -70,76 +57,69 @@ protected:
 } // namespace
 
 TEST_F(UploadsOnTheBus, AllAreVisitedOnceInPages) {
-    for (qint64 id = 1; id <= 2500; ++id)
-        service->set(id * 3, done);
+    const QList<QVariantMap> records(2500, {{QStringLiteral("title"), QStringLiteral("t")}});
+    handOver(QStringLiteral("many"), QVariant::fromValue(records));
     qint64 last = 0;
     int visited = 0;
     EXPECT_TRUE(client.forEach(
         [&](const Upload &upload) {
-            EXPECT_GT(upload.id.toLongLong(), last);
-            last = upload.id.toLongLong();
+            EXPECT_GT(upload.id.toLongLong(), std::exchange(last, upload.id.toLongLong()));
             ++visited;
         },
         nullptr));
     EXPECT_EQ(visited, 2500);
-    EXPECT_EQ(service->pages(), 4);
     QStringList ids;
-    for (int id = 1; id <= 1500; ++id)
+    for (int id = 1001; id <= 4000; ++id)
         ids.append(QString::number(id));
-    EXPECT_EQ(client.get(ids, nullptr)->size(), 500u);
+    EXPECT_EQ(client.get(ids, nullptr)->size(), 1500u);
 }
 
 TEST_F(UploadsOnTheBus, AWatchEndsWhenEachIsDoneFailedOrRemoved) {
-    setAll(running);
-    const int status = watch([this](const QString &line) {
-        if (line == QLatin1String("c running")) service->setAndTell(1, done);
-        if (line == QLatin1String("a done")) service->setAndTell(9, QStringLiteral("failed")); // of somebody else
-        if (line == QLatin1String("a done")) service->setAndTell(1, running); // what is done stays done
-        if (line == QLatin1String("a done")) service->forgetAndTell(2);
-        if (line == QLatin1String("b removed")) service->setAndTell(3, QStringLiteral("failed"));
+    flickr.server.on("upload").thenOk().hang();
+    const Upload late = Upload::fromDictionary(
+        {{QStringLiteral("id"), QStringLiteral("2")}, {QStringLiteral("state"), QStringLiteral("running")}});
+    const int status = watch({}, [&](const QString &line) {
+        if (line == QLatin1String("paused")) ask("Resume");
+        if (line == QLatin1String("a done")) Q_EMIT client.changed(late); // what is done stays done
+        if (line == QLatin1String("b running")) ask("Remove", {QStringList{QStringLiteral("3")}});
     });
     EXPECT_EQ(status, ExitUploadFailed);
-    EXPECT_EQ(lines.join(u','), QStringLiteral("a running,b running,c running,a done,b removed,c failed"));
+    lines.sort();
+    EXPECT_EQ(lines.join(u','), QStringLiteral("a done,a running,b removed,b running,c failed,c running,paused"));
 }
 
 TEST_F(UploadsOnTheBus, ARestartOfTheServiceIsOutlivedAndMissedChangesAreCaughtUpWith) {
-    setAll(running);
-    const int status = watch([this](const QString &line) {
-        if (line != QLatin1String("c running")) return;
-        service->end();
-        service->set(1, done);
-        service->forget(2);
-        service->set(3, done);
-        service->begin();
+    flickr.server.delay(std::chrono::milliseconds(100)); // "c" is not reached before the service ends
+    const int status = watch(jpegOfSize(100, 3), [this](const QString &line) {
+        if (line == QLatin1String("paused")) ask("Resume");
+        if (lines.count(line) > 1 || line != QLatin1String("a running")) return;
+        const qint64 pid = servicePid();
+        ::kill(pid_t(pid), SIGKILL);
+        while (servicePid() == pid) // no event loop: the watch must not hear of it yet
+            QThread::yieldCurrentThread();
+        UploadStore store;
+        EXPECT_TRUE(store.open(home.path("state/korvane/queue.sqlite"), nullptr));
+        store.remove({*store.job(4)});
     });
-    EXPECT_EQ(status, ExitUploadFailed); // b was not uploaded as far as anybody can tell
-    EXPECT_EQ(lines.mid(3).join(u','), QStringLiteral("a done,c done,b removed"));
+    EXPECT_EQ(status, ExitDone) << "the failure of somebody else's upload does not count";
+    for (const auto *line : {"a done", "b done", "c removed"})
+        EXPECT_EQ(lines.count(QLatin1String(line)), 1) << line;
 }
 
 TEST_F(UploadsOnTheBus, TheEndOfTheBusIsAClearError) {
-    setAll(running);
     std::optional<NSError> error;
-    const int status = watch(
-        [this](const QString &line) {
-            if (line != QLatin1String("c running")) return;
-            service.reset();
-            bus.reset();
-        },
-        &error);
-    EXPECT_EQ(status, ExitUnreachable);
-    ASSERT_TRUE(error);
-    EXPECT_TRUE(error->localizedDescription().contains(QStringLiteral("bus")))
-        << error->localizedDescription().toStdString();
+    EXPECT_EQ(watch(
+                  jpegOfSize(100), [this](const QString &) { bus.reset(); }, &error),
+              ExitUnreachable);
+    EXPECT_TRUE(says(error, "bus"));
 }
 
 TEST_F(UploadsOnTheBus, ASignalEndsTheWaitAndNothingElse) {
 #ifdef __SANITIZE_THREAD__
     GTEST_SKIP() << "the thread sanitizer holds signals back while Qt's event loop waits";
 #endif
-    setAll(running);
-    const int status = watch([](const QString &line) {
-        if (line == QLatin1String("c running")) QTimer::singleShot(50, [] { std::raise(SIGINT); });
-    });
+    const int status =
+        watch(jpegOfSize(100), [](const QString &) { QTimer::singleShot(50, [] { std::raise(SIGINT); }); });
     EXPECT_EQ(status, 128 + SIGINT);
-    EXPECT_EQ(lines.size(), 3);
+    EXPECT_EQ(countInState("queued"), 4);
 }
