@@ -1,24 +1,10 @@
-// korvane share: hands photos over to the upload service.
+// korvane share: hands photos or a video over to the upload service.
 #pragma once
 
-#include "CommandLine/UploadsClient.h"
-#include "Platform/Social/SLAttachment.h"
-
-#include <QByteArrayList>
-
-#include <memory>
-#include <optional>
-#include <string>
-#include <vector>
-
-namespace CLI {
-class App;
-}
+#include "CommandLine/ShareFlickrCommand.h"
+#include "CommandLine/ShareVimeoCommand.h"
 
 namespace korvane {
-
-class ACAccount;
-class FlickrPost;
 
 class ShareCommand {
 public:
@@ -29,22 +15,9 @@ public:
     int run();
 
 private:
-    void _addOptions(CLI::App &flickr);
-    // Null, after naming every file that cannot be shared.
-    std::optional<std::vector<SLAttachment>> _attachments() const;
-    std::shared_ptr<FlickrPost> _post(const SLAttachment &attachment) const;
-    std::shared_ptr<ACAccount> _account() const;
-    int _report(UploadsClient &client, const QString &messageID) const;
-    int _wait(UploadsClient &client, const QStringList &ids, std::optional<NSError> *error) const;
-
-    CLI::App *_share = nullptr;
-    std::vector<std::string> _files;
-    std::optional<std::string> _title;
-    std::string _audience = "public";
-    std::string _album;
-    bool _withoutMetadata = false;
-    bool _waits = false;
-    bool _json = false;
+    CLI::App *_share;
+    ShareFlickrCommand _flickr;
+    ShareVimeoCommand _vimeo;
 };
 
 } // namespace korvane

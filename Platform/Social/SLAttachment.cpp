@@ -1,6 +1,7 @@
 // What the person attached to a share.
 #include "Platform/Social/SLAttachment.h"
 
+#include "Platform/AVFoundation/MediaInfo.h"
 #include "Platform/AssetsLibrary/ALAssetsLibrary.h"
 #include "Platform/ImageIO/CGImageSource.h"
 #include "Platform/ImageIO/PictureProgram.h"
@@ -14,6 +15,9 @@ namespace korvane {
 const QString SLAttachmentErrorDomain = QStringLiteral("SLAttachmentErrorDomain");
 
 namespace {
+
+constexpr qint64 typeProbe = 4096; // bytes that tell what a file holds
+constexpr std::chrono::seconds probeLimit(20);
 
 // A file that is a picture by its contents.
 struct PhotoFile {
@@ -50,6 +54,12 @@ std::optional<NSData> displayCopy(const QByteArray &path, const PhotoFile &photo
     return copy;
 }
 
+NSURL absoluteURL(const QByteArray &path) {
+    std::error_code failure; // a current folder that is gone; the bytes are at hand all the same
+    return NSURL::fileURLWithPath(
+        QByteArray::fromStdString(std::filesystem::absolute(path.toStdString(), failure).string()));
+}
+
 bool travelsAsItIs(const QString &type) {
     return UTTypeConformsTo(type, kUTTypeJPEG) || UTTypeConformsTo(type, kUTTypePNG) ||
            UTTypeConformsTo(type, kUTTypeGIF);
@@ -61,18 +71,34 @@ std::optional<SLAttachment> SLAttachment::photoAttachment(const QByteArray &path
                                                           std::optional<NSError> *error) {
     const auto photo = openPhoto(path, error);
     if (!photo) return std::nullopt;
-    if (!withoutMetadata && travelsAsItIs(photo->type)) {
-        std::error_code failure; // a current folder that is gone; the bytes are at hand all the same
-        const std::string absolute = std::filesystem::absolute(path.toStdString(), failure).string();
-        return SLAttachment{SLAttachmentTypeData, photo->data,
-                            NSURL::fileURLWithPath(QByteArray::fromStdString(absolute))};
-    }
+    if (!withoutMetadata && travelsAsItIs(photo->type))
+        return SLAttachment{SLAttachmentTypeData, photo->data, absoluteURL(path)};
     if (!withoutMetadata)
         if (const auto asset = ALAssetsLibrary::assetURLForFile(path))
             return SLAttachment{SLAttachmentTypeAssetURL, *asset, std::nullopt};
     const auto copy = displayCopy(path, *photo, UTTypeConformsTo(photo->type, kUTTypePNG), error);
     if (!copy) return std::nullopt;
     return SLAttachment{SLAttachmentTypeData, *copy, std::nullopt};
+}
+
+std::optional<SLAttachment> SLAttachment::videoAttachment(const QByteArray &path, std::optional<NSError> *error) {
+    const auto data = NSData::dataWithContentsOfFile(path, error);
+    if (!data) return std::nullopt;
+    std::optional<NSError> reason;
+    if (data->length() == 0)
+        reason = unusable(path, QStringLiteral("the file is empty"));
+    else if (UTTypeConformsTo(typeIdentifierForData(data->subdata(0, typeProbe)), kUTTypeImage))
+        reason = unusable(path, QStringLiteral("the file is a picture; share it to Flickr"));
+    else
+        MediaInfo::ofAsset({QString::fromUtf8(path), data, std::nullopt}, probeLimit, {}, &reason);
+    if (reason) {
+        setError(error, reason);
+        return std::nullopt;
+    }
+    if (const auto asset = ALAssetsLibrary::assetURLForFile(path))
+        return SLAttachment{SLAttachmentTypeVideo, *asset, std::nullopt};
+    const NSURL url = absoluteURL(path);
+    return SLAttachment{SLAttachmentTypeVideo, url, url};
 }
 
 std::optional<NSError> SLAttachment::photoProblem(const QByteArray &path) {

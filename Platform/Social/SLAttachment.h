@@ -19,6 +19,7 @@ enum SLAttachmentErrorCode : qint64 {
 enum SLAttachmentType : qint64 {
     SLAttachmentTypeData = 0,     // the payload is the encoded photo
     SLAttachmentTypeAssetURL = 2, // the payload is the URL of an asset in the photo library
+    SLAttachmentTypeVideo = 8,    // the payload is the URL of a video, or its data
 };
 
 struct SLAttachment {
@@ -36,6 +37,11 @@ struct SLAttachment {
     // What makes the file unusable as a photo, as far as it can be told without decoding it; null if nothing does.
     // NSPOSIXErrorDomain where it cannot be read.
     static std::optional<NSError> photoProblem(const QByteArray &path);
+
+    // The video in a file: its URL in the photo library if it is there, else the file's. Its streams are looked at,
+    // which blocks for about a tenth of a second. Null, with an error placed that names the file, for what is no video
+    // that could be played.
+    static std::optional<SLAttachment> videoAttachment(const QByteArray &path, std::optional<NSError> *error = nullptr);
 };
 
 } // namespace korvane

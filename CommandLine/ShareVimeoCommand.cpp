@@ -1,0 +1,101 @@
+// korvane share vimeo: hands a video over to the upload service.
+#include "CommandLine/ShareVimeoCommand.h"
+
+#include "CommandLine/Arguments.h"
+#include "CommandLine/Output.h"
+#include "Korvane/VimeoPost.h"
+#include "Korvane/VimeoUploadSession.h"
+#include "Platform/Social/SLAttachment.h"
+
+#include <CLI/CLI.hpp>
+
+#include <map>
+
+namespace korvane {
+namespace {
+
+constexpr size_t longestTitle = 128; // bytes
+
+const std::map<std::string, qint64> sizes{
+    {"small", VimeoVideoSizeSmall}, {"medium", VimeoVideoSizeMedium}, {"large", VimeoVideoSizeLarge}};
+const std::map<std::string, qint64> privacies{{"public", VimeoPrivacyPublic}, {"private", VimeoPrivacyPrivate}};
+
+const char *const examples = R"(Examples:
+  korvane share vimeo --title "Summer" summer.mp4
+  korvane share vimeo --title "Summer" --tag sea --tag sun --privacy private --wait ~/Videos/IMG_2.MOV
+
+A video in the photo library (the Videos and Pictures folders) is made into an MP4 file of the size that --size asks
+for, never larger than it is. A video elsewhere is sent as it is, from where it is: leave the file alone until it is
+uploaded.
+
+Sharing takes a moment; the upload service uploads in the background, also after this command has ended and after a
+restart, and goes on where it was. --wait stays until the video is there; Ctrl-C ends the waiting, not the upload.
+
+Exit status: 0 all well, 1 an upload failed, 2 bad usage or a file that cannot be used, 3 no account,
+4 the upload service cannot be reached; with --wait 130 after Ctrl-C.)";
+
+std::string problemWithTitle(const std::string &title) {
+    if (title.empty()) return "a video on Vimeo needs a title";
+    if (title.size() > longestTitle)
+        return "the title has " + std::to_string(title.size()) + " bytes; a video's title has at most " +
+               std::to_string(longestTitle) + " (in UTF-8)";
+    return Arguments::problemWithText(title);
+}
+
+} // namespace
+
+ShareVimeoCommand::ShareVimeoCommand(CLI::App &share) {
+    _app = share.add_subcommand("vimeo", "Share a video to Vimeo");
+    _app->add_option("FILE", _file, "The video file")->required()->type_name("");
+    _app->add_option("--title", _title, "Title of the video, at most 128 bytes")
+        ->required()
+        ->type_name("TEXT")
+        ->check(problemWithTitle);
+    _app->add_option("--description", _description, "What the video is about")
+        ->type_name("TEXT")
+        ->check(Arguments::problemWithText);
+    _app->add_option("--tag", _tags, "A tag; give the option once for each")
+        ->type_name("TEXT")
+        ->take_all()
+        ->allow_extra_args(false)
+        ->check(Arguments::problemWithText);
+    _app->add_option("--size", _size, "small, medium or large (as usual)")
+        ->type_name("SIZE")
+        ->check(CLI::IsMember(sizes));
+    _app->add_option("--privacy", _privacy, "Who sees the video: public (as usual) or private")
+        ->type_name("WHO")
+        ->check(CLI::IsMember(privacies));
+    _report.addOptions(*_app);
+    _app->footer(examples);
+}
+
+bool ShareVimeoCommand::isChosen() const {
+    return _app->parsed();
+}
+
+int ShareVimeoCommand::run() {
+    std::optional<NSError> error;
+    const auto attachment = SLAttachment::videoAttachment(QByteArray::fromStdString(_file), &error);
+    if (!attachment) {
+        Output::problem(error->localizedDescription());
+        Output::problem(QStringLiteral("Nothing was shared."));
+        return ExitUsage;
+    }
+    if (!ShareReport::hasAccount(QStringLiteral("vimeo"))) return ExitNoAccount;
+    const auto session = VimeoUploadSession::init();
+    if (!session->uploadPost(_post(std::get<NSURL>(attachment->payload)), &error)) return ShareReport::failed(error);
+    return _report.succeeded({QByteArray::fromStdString(_file)}, session->lastMessageID());
+}
+
+std::shared_ptr<VimeoPost> ShareVimeoCommand::_post(const NSURL &url) const {
+    const auto post = VimeoPost::init();
+    post->assetURL = url;
+    post->title = QString::fromStdString(_title);
+    if (_description) post->postDescription = QString::fromStdString(*_description);
+    if (!_tags.empty()) post->tags = Arguments::texts(_tags);
+    post->videoSize = sizes.at(_size);
+    post->privacySettings = privacies.at(_privacy);
+    return post;
+}
+
+} // namespace korvane
