@@ -153,7 +153,7 @@ QByteArray VideoStore::sha256(const QByteArray &ticketId) {
             return entry ? entry->video.sha256 : QByteArray();
         path = entry->video.path;
     }
-    const QByteArray hash = path.isEmpty() ? QByteArray() : sha256OfFile(path);
+    QByteArray hash = path.isEmpty() ? QByteArray() : sha256OfFile(path);
     const std::lock_guard lock(_mutex);
     _withTicket(ticketId)->video.sha256 = hash;
     return hash;
