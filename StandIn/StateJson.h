@@ -2,9 +2,10 @@
 //   {"revision", "photos": […], "albums": […], "videos": […], "protocolErrors": [TEXT…]}
 // A video is there from its ticket on:
 //   {"ticketId", "videoId" ("" before the commit), "filename", "title", "description", "tags": […], "privacy" ("" until
-//    set), "bytesStored", "totalBytes" (0 until a Content-Range told it), "bytesReceived", "sha256" ("" before the
-//    commit and when bodies are not kept), "createdAt", "committedAt" (null before), "endpointHits", "commits" (both
-//    count refused requests, too), "operations": ["chunk", "verify", "complete", …] in the order of arrival, "chunks":
+//    set), "bytesStored", "totalBytes" (0 until a Content-Range told it), "bytesAnnounced" (to where the chunks reach
+//    by their heads), "bytesReceived" (in all chunks together), "sha256" ("" before the commit and when bodies are not
+//    kept), "createdAt", "committedAt" (null before), "endpointHits", "commits" (both count refused requests, too),
+//    "operations": ["chunk", "verify", "complete", …] in the order of arrival, "chunks":
 //    [{"start", "length", "received", "stored", "contentRange" (as it came, null without)}…]}
 // A protocol error is a request that no correct client sends, and what is wrong with it.
 #pragma once

@@ -22,6 +22,7 @@ void applyFacts(const QJsonObject &facts, Video *video) {
     video->id = text("videoId").toLongLong();
     video->bytesStored = number("bytesStored");
     video->totalBytes = number("totalBytes");
+    video->bytesAnnounced = number("bytesAnnounced");
     video->bytesReceived = number("bytesReceived");
     video->filename = text("filename");
     video->title = text("title");
@@ -39,6 +40,7 @@ QJsonObject factsOf(const Video &video) {
             {QStringLiteral("videoId"), video.id ? QString::number(video.id) : QString()},
             {QStringLiteral("bytesStored"), video.bytesStored},
             {QStringLiteral("totalBytes"), video.totalBytes},
+            {QStringLiteral("bytesAnnounced"), video.bytesAnnounced},
             {QStringLiteral("bytesReceived"), video.bytesReceived},
             {QStringLiteral("filename"), video.filename},
             {QStringLiteral("title"), video.title},

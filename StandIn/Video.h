@@ -21,10 +21,11 @@ struct VideoChunk {
 
 struct Video {
     QByteArray ticketId;
-    qint64 id = 0;            // given at the commit; 0 before
-    qint64 bytesStored = 0;   // now
-    qint64 totalBytes = 0;    // as the chunks after a first one say; 0 when there were none
-    qint64 bytesReceived = 0; // in all chunks together
+    qint64 id = 0;             // given at the commit; 0 before
+    qint64 bytesStored = 0;    // now
+    qint64 totalBytes = 0;     // as the chunks after a first one say; 0 when there were none
+    qint64 bytesAnnounced = 0; // to where the chunks reach by what their heads say, also of those under way
+    qint64 bytesReceived = 0;  // in all chunks together
     std::vector<VideoChunk> chunks;
     QList<QByteArray> operations; // that named the ticket or the video, refused ones and failed ones, too
     QString filename;

@@ -31,12 +31,6 @@ void VideoFile::stopWriting(quint64 writer) {
     if (writer == _writer) _file.close();
 }
 
-void VideoFile::forgetWriter() {
-    const std::lock_guard lock(_mutex);
-    ++_writer;
-    _file.close();
-}
-
 bool VideoFile::_openAt(qint64 start) {
     const bool open = _file.isOpen() || _file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
     return open && (start == _size || _file.resize(start)) && _file.seek(start);

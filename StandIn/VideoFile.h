@@ -20,8 +20,6 @@ public:
     // How many bytes were stored: 0 for a forgotten writer, -1 when the disk refuses.
     qint64 append(quint64 writer, const char *data, qsizetype size);
     void stopWriting(quint64 writer);
-    // Nobody may write any more until somebody starts again.
-    void forgetWriter();
 
 private:
     bool _openAt(qint64 start);

@@ -20,14 +20,6 @@ QByteArray freshTicketId() {
     return QByteArray(reinterpret_cast<const char *>(words), sizeof words).toHex();
 }
 
-// What the chunks that came announced, lost tails included.
-qint64 bytesExpected(const Video &video) {
-    qint64 end = video.totalBytes;
-    for (const VideoChunk &chunk : video.chunks)
-        end = std::max(end, chunk.start + chunk.length);
-    return end;
-}
-
 QByteArray problemOf(const Video &video, const PutHead &head) {
     if (video.id != 0) return "its ticket was committed";
     if (head.start > video.bytesStored)
@@ -87,7 +79,7 @@ std::unique_ptr<IncomingChunk> VideoStore::beginChunk(const QByteArray &ticketId
     entry->video.bytesStored = entry->file->size();
     *problem = problemOf(entry->video, head);
     if (!problem->isEmpty()) return nullptr;
-    if (head.total != 0) entry->video.totalBytes = head.total;
+    _announce(*entry, head);
     const quint64 writer = entry->file->startWriting(head.start);
     const VideoChunk chunk{.start = head.start, .length = head.length, .contentRange = head.contentRange};
     return std::make_unique<IncomingChunk>(*this, ticketId, entry->file, writer, chunk, storeLimit);
@@ -116,8 +108,7 @@ VideoStore::Commit VideoStore::commit(const QByteArray &ticketId, const QString 
     Video &video = entry->video;
     if (video.id != 0) return Commit::AlreadyDone;
     video.bytesStored = entry->file->size();
-    if (video.bytesStored == 0 || video.bytesStored < bytesExpected(video)) return Commit::Incomplete;
-    entry->file->forgetWriter();
+    if (video.bytesStored == 0 || video.bytesStored < video.bytesAnnounced) return Commit::Incomplete;
     video.id = *videoId = ++_lastId;
     video.filename = filename;
     video.committedAt = QDateTime::currentMSecsSinceEpoch();
@@ -162,7 +153,7 @@ QByteArray VideoStore::sha256(const QByteArray &ticketId) {
             return entry ? entry->video.sha256 : QByteArray();
         path = entry->video.path;
     }
-    const QByteArray hash = path.isEmpty() ? QByteArray() : sha256OfFile(path);
+    QByteArray hash = path.isEmpty() ? QByteArray() : sha256OfFile(path);
     const std::lock_guard lock(_mutex);
     _withTicket(ticketId)->video.sha256 = hash;
     return hash;
@@ -210,6 +201,16 @@ VideoStore::Entry &VideoStore::_add(const QByteArray &ticketId) {
     entry.video.ticketId = ticketId;
     if (_keepBodies) entry.video.path = _pathOf(ticketId);
     return entry;
+}
+
+// Kept before the bytes come, so that half a chunk is known as half also after a crash.
+void VideoStore::_announce(Entry &entry, const PutHead &head) {
+    Video &video = entry.video;
+    if (head.total != 0) video.totalBytes = head.total;
+    const qint64 end = std::max(head.total, head.start + head.length);
+    if (end <= video.bytesAnnounced) return;
+    video.bytesAnnounced = end;
+    _record(entry);
 }
 
 bool VideoStore::_record(const Entry &entry, const QJsonObject &more) {

@@ -73,6 +73,7 @@ private:
     const Entry *_withTicket(const QByteArray &ticketId) const;
     Entry *_withVideo(const QByteArray &videoId);
     Entry &_add(const QByteArray &ticketId);
+    void _announce(Entry &entry, const PutHead &head);
     bool _record(const Entry &entry, const QJsonObject &more = {});
     void _replay(const QJsonObject &event);
     void _finishReplay();

@@ -55,7 +55,7 @@ TEST_F(VimeoService, TakesAVideoFromTheQuotaToThePrivacy) {
     const std::pair<QByteArray, Parameter> settings[] = {{"setTitle", {"title", "Straße & <b>日本</b>"}},
                                                          {"setDescription", {"description", "1+1=2%\r\n"}},
                                                          {"addTags", {"tags", "sea, old town"}},
-                                                         {"addTags", {"tags", ""}},
+                                                         {"addTags", {"tags", "hill,sea ,"}},
                                                          {"setPrivacy", {"privacy", "nobody"}}};
     for (const auto &[name, parameter] : settings)
         EXPECT_EQ(client.method(name, {{"video_id", id}, parameter})[QLatin1String("stat")], QStringLiteral("ok"));
@@ -72,7 +72,7 @@ TEST_F(VimeoService, TakesAVideoFromTheQuotaToThePrivacy) {
     EXPECT_FALSE(stored.take(QStringLiteral("createdAt")).toString().isEmpty());
     EXPECT_FALSE(stored.take(QStringLiteral("committedAt")).toString().isEmpty());
     EXPECT_EQ(QJsonDocument(stored).toJson(QJsonDocument::Compact),
-              R"({"bytesReceived":5000000,"bytesStored":5000000,"chunks":[)"
+              R"({"bytesAnnounced":5000000,"bytesReceived":5000000,"bytesStored":5000000,"chunks":[)"
               R"({"contentRange":null,"length":2097152,"received":2097152,"start":0,"stored":2097152},)"
               R"({"contentRange":"bytes 2097152-4999999/5000000","length":2097152,"received":2097152,)"
               R"("start":2097152,"stored":2097152},)"
@@ -80,8 +80,11 @@ TEST_F(VimeoService, TakesAVideoFromTheQuotaToThePrivacy) {
               R"("start":4194304,"stored":805696}],"commits":1,"description":"1+1=2%\r\n","endpointHits":6,)"
               R"("filename":"video.mp4","operations":["chunk","verify","chunk","verify","chunk","verify","complete",)"
               R"("setTitle","setDescription","addTags","addTags","setPrivacy"],"privacy":"nobody","sha256":")" +
-                  sha256Of(bytes) + R"(","tags":["sea","old town"],"ticketId":")" + target.mid(18) +
+                  sha256Of(bytes) + R"(","tags":["sea","old town","hill"],"ticketId":")" + target.mid(18) +
                   R"(","title":"Straße & <b>日本</b>","totalBytes":5000000,"videoId":")" + id + R"("})");
+    const QJsonValue left = client.method("upload.getQuota")[QLatin1String("user")][QLatin1String("upload_space")];
+    EXPECT_EQ(QJsonDocument(left.toObject()).toJson(QJsonDocument::Compact),
+              R"({"free":"999995000000","max":"1000000000000","used":"5000000"})");
 }
 
 // Every case begins with 200 of 1000 bytes stored.
@@ -127,6 +130,9 @@ TEST_F(VimeoService, ReadsChunksStrictly) {
         EXPECT_EQ(reply.status, test.stored < 0 ? 400 : 200) << test.headers.toStdString() << test.bodyBytes;
         EXPECT_EQ(VimeoClient(server).verify(target), test.stored < 0 ? 200 : test.stored)
             << test.headers.toStdString();
+        if (test.stored < 0 && test.bodyBytes > 0) {
+            EXPECT_EQ(client.read().status, 0) << "a body is not taken for a request";
+        }
         refused += test.stored < 0;
         EXPECT_EQ(server.protocolErrors().size(), refused) << test.headers.toStdString();
     }
@@ -214,6 +220,7 @@ TEST_F(VimeoService, ForgetsAChunkThatANewerOneOvertakes) {
                "Content-Type: video/mp4\r\nContent-Length: 300000\r\n\r\n" + video(200'000, 2));
     VimeoClient client(server);
     ASSERT_TRUE(waitFor([&] { return client.verify(target) == 200'000; }));
+    EXPECT_EQ(codeIn(client.commit(target)), "703");
     EXPECT_EQ(client.chunk(target, video(250'000)).status, 200);
     slow.write(video(100'000, 3));
     EXPECT_EQ(slow.read().status, 200);
