@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CommandLine/ShareReport.h"
+#include "Platform/Foundation/NSURL.h"
 
 #include <memory>
 #include <optional>

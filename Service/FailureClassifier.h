@@ -12,6 +12,9 @@ Verdict verdictOnFlickrRun(const RunOutcome &outcome, bool wantsPhotoSet);
 
 Verdict verdictOnVimeoRun(const RunOutcome &outcome);
 
+// A verify that was answered with an error: what is stored is not known now, and will be asked for again.
+Verdict verdictOnRefusedVerify(int status);
+
 // What is known of a commit that did not end with a video id.
 enum class CommitFate {
     NotDone, // it did not reach Vimeo, or Vimeo was too busy for it

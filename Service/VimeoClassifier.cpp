@@ -80,6 +80,12 @@ Verdict FailureClassifier::verdictOnVimeoRun(const RunOutcome &outcome) {
     return verdictOnPostError(error, request);
 }
 
+Verdict FailureClassifier::verdictOnRefusedVerify(int status) {
+    return Verdict::waiting(
+        WaitReason::NextTry, NSError(VimeoPublishPostErrorDomain, VimeoPostErrorBadResponse),
+        QStringLiteral("Vimeo did not say how much of the video it has (HTTP status %1).").arg(status));
+}
+
 FailureClassifier::CommitFate FailureClassifier::fateOfCommit(const UploadContext::Snapshot &request) {
     if (const auto &error = request.transportError) {
         // A job is only cancelled before its commit is sent.

@@ -42,7 +42,7 @@ public:
 private:
     void _reached(const VimeoCheckpoint &checkpoint, const std::function<void()> &proceed);
     void _keepExport();
-    std::optional<NSError> _objection(const VimeoCheckpoint &checkpoint);
+    std::optional<Verdict> _reasonToBreakOff(const VimeoCheckpoint &checkpoint);
     void _finished(const std::optional<NSError> &error);
     void _end(const Verdict &verdict);
     void _endWithOutcome(const RunOutcome &outcome);
@@ -51,7 +51,7 @@ private:
     std::shared_ptr<VimeoPost> _post;
     VerifyWatch _watch;
     const QString _temporaryFolder;
-    std::optional<NSError> _objected; // why the run was broken off from here
+    std::optional<Verdict> _brokenOff; // from here, and why
     bool _commitWasHeldBack = false;
 };
 
@@ -81,8 +81,8 @@ void VimeoRun::begin() {
 // On a pool thread. Whatever stands against going on, the upload ends through its own failure path.
 void VimeoRun::_reached(const VimeoCheckpoint &checkpoint, const std::function<void()> &proceed) {
     _keepExport();
-    _objected = _objection(checkpoint);
-    if (_objected) {
+    _brokenOff = _reasonToBreakOff(checkpoint);
+    if (_brokenOff) {
         _commitWasHeldBack = checkpoint.commitSent;
         _run.context->cancel();
         return dispatchMain(proceed);
@@ -109,18 +109,24 @@ void VimeoRun::_keepExport() {
         NSLog("The export of upload %lli is not kept: %@", _run.job.id, error);
 }
 
-std::optional<NSError> VimeoRun::_objection(const VimeoCheckpoint &checkpoint) {
-    if (const auto changed = PostCheck::objectionToChange(*_post, _run.job)) return changed;
-    if (_post->uploadState() == VimeoUploadStateGettingTicket) return TicketCheck::objection(checkpoint);
-    if (_post->uploadState() == VimeoUploadStateVerifyingChunk && !_watch.heard(checkpoint.bytesStored))
-        return TicketCheck::stuckError();
-    return std::nullopt;
+std::optional<Verdict> VimeoRun::_reasonToBreakOff(const VimeoCheckpoint &checkpoint) {
+    const auto failed = [](const NSError &error) { return Verdict{UploadState::Failed, WaitReason::None, error}; };
+    if (const auto changed = PostCheck::objectionToChange(*_post, _run.job)) return failed(*changed);
+    if (_post->uploadState() == VimeoUploadStateGettingTicket) {
+        const auto objection = TicketCheck::objection(checkpoint);
+        return objection ? std::optional(failed(*objection)) : std::nullopt;
+    }
+    if (_post->uploadState() != VimeoUploadStateVerifyingChunk) return std::nullopt;
+    // The upload takes a refused verify for an empty endpoint and would send everything again.
+    if (const int status = _run.context->snapshot().httpStatus; status >= 400)
+        return FailureClassifier::verdictOnRefusedVerify(status);
+    return _watch.heard(checkpoint.bytesStored) ? std::nullopt : std::optional(failed(TicketCheck::stuckError()));
 }
 
 void VimeoRun::_finished(const std::optional<NSError> &error) {
     const auto request = _run.context->snapshot();
     auto &video = _run.job.video;
-    if (_objected) return _end({UploadState::Failed, WaitReason::None, _objected});
+    if (_brokenOff) return _end(*_brokenOff);
     if (video && video->commitSent && _commitWasHeldBack) video->commitSent = false;
     if (error && video && video->commitSent) {
         switch (FailureClassifier::fateOfCommit(request)) {

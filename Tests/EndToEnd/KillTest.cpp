@@ -2,6 +2,7 @@
 #include "Platform/Preferences/KorvaneSettings.h"
 #include "Service/UploadStore.h"
 #include "Tests/EndToEnd/ServiceHarness.h"
+#include "Tests/Support/Seed.h"
 
 #include <QDir>
 #include <QMap>
@@ -15,12 +16,6 @@ using namespace korvane;
 using namespace korvane::test;
 
 namespace {
-
-// KORVANE_TEST_SEED replays a run.
-quint32 seed() {
-    const QByteArray given = qgetenv("KORVANE_TEST_SEED");
-    return given.isEmpty() ? QRandomGenerator::global()->generate() : given.toUInt();
-}
 
 using Counts = QMap<QByteArray, int>; // by the SHA-256 of photos
 
@@ -97,8 +92,7 @@ public:
 } // namespace
 
 TEST_F(Kill, FiftyTimesInABatchOfFortyLosesNothing) {
-    const quint32 seeded = seed();
-    printf("seed %u (replay with KORVANE_TEST_SEED)\n", seeded);
+    const quint32 seeded = seedOfRun();
     QRandomGenerator random(seeded);
     flickr.server.delay(std::chrono::milliseconds(60));
     makeBatch(seeded);

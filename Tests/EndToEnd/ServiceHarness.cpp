@@ -3,11 +3,13 @@
 
 #include "Korvane/FlickrRemoteSessionProtocol.h"
 #include "Korvane/FlickrUploadSession.h"
+#include "Korvane/VimeoUploadSession.h"
 #include "Platform/Social/UploadsInterface.h"
 #include "Platform/Social/WireRecord.h"
 
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>
+#include <QDBusMetaType>
 #include <QDBusReply>
 #include <QDBusUnixFileDescriptor>
 
@@ -28,6 +30,20 @@ ServiceHarness::~ServiceHarness() {
 
 bool ServiceHarness::share(const std::vector<std::shared_ptr<FlickrPost>> &posts, std::optional<NSError> *error) {
     return FlickrUploadSession::init()->uploadPosts(posts, error);
+}
+
+bool ServiceHarness::shareVideo(const std::shared_ptr<VimeoPost> &video, std::optional<NSError> *error) {
+    return VimeoUploadSession::init()->uploadPost(video, error);
+}
+
+std::shared_ptr<VimeoPost> ServiceHarness::video(QAnyStringView fileName, const QByteArray &bytes) const {
+    const auto post = VimeoPost::init();
+    post->assetURL = NSURL::fileURLWithPath(home.file(fileName, bytes));
+    post->title = fileName.toString();
+    post->postDescription = QStringLiteral("Zeile\nzwei");
+    post->tags = QStringList{QStringLiteral("a"), QStringLiteral("b c")};
+    post->privacySettings = VimeoPrivacyPrivate;
+    return post;
 }
 
 std::shared_ptr<FlickrPost> ServiceHarness::post(const QByteArray &bytes, qint64 album) const {
@@ -84,6 +100,16 @@ bool ServiceHarness::waitForState(QAnyStringView state, int count, int timeoutMi
             return countInState(state) == count;
         },
         timeoutMilliseconds);
+}
+
+void ServiceHarness::setEnvironment(const QByteArray &name, const QByteArray &value) {
+    home.setEnvironment(name, value);
+    qDBusRegisterMetaType<QMap<QString, QString>>();
+    const QMap<QString, QString> change{{QString::fromLatin1(name), QString::fromUtf8(value)}};
+    auto call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/"),
+                                               QStringLiteral("org.freedesktop.DBus"),
+                                               QStringLiteral("UpdateActivationEnvironment"));
+    bus->connection().call(call << QVariant::fromValue(change));
 }
 
 qint64 ServiceHarness::servicePid() {

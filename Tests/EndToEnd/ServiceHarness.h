@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Korvane/FlickrPost.h"
+#include "Korvane/VimeoPost.h"
 #include "Tests/Support/StandInAccount.h"
 #include "Tests/Support/TestBus.h"
 #include "Tests/Support/Testing.h"
@@ -23,6 +24,9 @@ public:
     // Hands posts over as a front end does. Returns what the client returned.
     bool share(const std::vector<std::shared_ptr<FlickrPost>> &posts, std::optional<NSError> *error = nullptr);
     std::shared_ptr<FlickrPost> post(const QByteArray &bytes, qint64 album = 0) const;
+    bool shareVideo(const std::shared_ptr<VimeoPost> &video, std::optional<NSError> *error = nullptr);
+    // A video with title, description and tags, in a file of those bytes.
+    std::shared_ptr<VimeoPost> video(QAnyStringView fileName, const QByteArray &bytes) const;
     // The message itself, records of any type and descriptors of any kind.
     QDBusMessage handOver(const QString &messageID, const QVariant &records, const QList<int> &files = {});
 
@@ -35,6 +39,8 @@ public:
     int countInState(QAnyStringView state);
     bool waitForState(QAnyStringView state, int count, int timeoutMilliseconds = 60'000);
 
+    // In this process and in services that are started from now on.
+    void setEnvironment(const QByteArray &name, const QByteArray &value);
     qint64 servicePid(); // 0 while none runs
     void startService();
     void killService(int signal);

@@ -8,9 +8,7 @@
 #include "Tests/Support/StandInAccount.h"
 #include "Tests/Support/WaitFor.h"
 
-#include <QCryptographicHash>
 #include <QDir>
-#include <QRandomGenerator>
 
 #include <gtest/gtest.h>
 
@@ -39,16 +37,6 @@ public:
     std::optional<NSError> error;
     std::atomic<int> ends = 0;
 };
-
-QByteArray variedBytes(qsizetype length) {
-    QByteArray bytes(length, Qt::Uninitialized);
-    QRandomGenerator(5).generate(bytes.begin(), bytes.end());
-    return bytes;
-}
-
-QString sha256(const QByteArray &bytes) {
-    return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
-}
 
 struct VimeoUpload : ::testing::Test {
     TemporaryHome home;
@@ -116,7 +104,7 @@ TEST_F(VimeoUpload, SendsFiveMillionBytesInThreeChunksAndAllThatBelongsToThem) {
         EXPECT_EQ(stored.chunks[i].contentRange, ranges[i]);
         EXPECT_EQ(stored.chunks[i].length, lengths[i]);
     }
-    EXPECT_EQ(QString::fromLatin1(stored.sha256), sha256(bytes));
+    EXPECT_EQ(stored.sha256, sha256Of(bytes));
     EXPECT_EQ(stored.filename, home.path(QStringLiteral("ein film.mp4")));
     EXPECT_EQ(stored.title, *video->title);
     EXPECT_EQ(stored.description, *video->postDescription);
@@ -138,7 +126,7 @@ TEST_F(VimeoUpload, LeavesOutWhatThePostDoesNotHave) {
     data->tags = QStringList();
     EXPECT_EQ(upload(data), std::nullopt);
     EXPECT_EQ(vimeo.videos()[1].filename, QStringLiteral("video.mp4"));
-    EXPECT_EQ(QString::fromLatin1(vimeo.videos()[1].sha256), sha256(bytes));
+    EXPECT_EQ(vimeo.videos()[1].sha256, sha256Of(bytes));
     EXPECT_TRUE(operations().contains("addTags"));
     EXPECT_EQ(vimeo.protocolErrors(), QStringList());
 }
@@ -206,7 +194,7 @@ TEST_F(VimeoUpload, GoesOnFromWhatTheEndpointHasStored) {
               (std::vector<std::optional<QByteArray>>{
                   std::nullopt, "bytes 1000000-4999999/5000000", "bytes 3097152-4999999/5000000",
                   "bytes 0-4999999/5000000", "bytes 2097152-4999999/5000000", "bytes 4194304-4999999/5000000"}));
-    EXPECT_EQ(QString::fromLatin1(stored.sha256), sha256(bytes));
+    EXPECT_EQ(stored.sha256, sha256Of(bytes));
 }
 
 TEST_F(VimeoUpload, ReadsTheStoredCountInEveryForm) {
@@ -288,7 +276,7 @@ TEST_F(VimeoUpload, ResumesWhereAnEarlierUploadGotTo) {
     EXPECT_EQ(resume(post(bytes), reached), std::nullopt);
     ASSERT_EQ(vimeo.videos().size(), 1u);
     EXPECT_EQ(vimeo.videos()[0].chunks.at(2).start, 3'097'152) << "with the bytes of the broken chunk";
-    EXPECT_EQ(QString::fromLatin1(vimeo.videos()[0].sha256), sha256(bytes));
+    EXPECT_EQ(vimeo.videos()[0].sha256, sha256Of(bytes));
 
     reached.videoID = QString::number(vimeo.videos()[0].id);
     const size_t before = vimeo.requests().size();
@@ -298,7 +286,7 @@ TEST_F(VimeoUpload, ResumesWhereAnEarlierUploadGotTo) {
     reached.videoID = {};
     EXPECT_EQ(resume(post(bytes), reached), std::nullopt) << "the ticket is used up, so there is a new one";
     EXPECT_EQ(vimeo.videos().size(), 2u);
-    EXPECT_EQ(QString::fromLatin1(vimeo.videos()[1].sha256), sha256(bytes));
+    EXPECT_EQ(vimeo.videos()[1].sha256, sha256Of(bytes));
 }
 
 TEST_F(VimeoUpload, WaitsWithTheCommitUntilItIsRecorded) {

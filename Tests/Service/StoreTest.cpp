@@ -25,10 +25,10 @@ NewUpload upload(const char *title) {
 
 // All of them: does not compile once there is another.
 auto fieldsOf(const UploadJob &job) {
-    const auto &[id, service, state, waitReason, title, accountID, accountName, spoolFile, source, photoID, bytesTotal,
-                 attempts, failures, failingSince, deaths, createdAt, finishedAt, nextTryAt, error] = job;
-    return std::tie(id, service, state, waitReason, title, accountID, accountName, spoolFile, source, photoID,
-                    bytesTotal, attempts, failures, failingSince, deaths, createdAt, finishedAt, nextTryAt, error);
+    const auto &[id, service, state, waitReason, title, accountID, accountName, spoolFile, source, exportFile, photoID,
+                 video, bytesTotal, attempts, failures, failingSince, deaths, createdAt, finishedAt, nextTryAt, error] = job;
+    return std::tie(id, service, state, waitReason, title, accountID, accountName, spoolFile, source, exportFile, photoID,
+                    video, bytesTotal, attempts, failures, failingSince, deaths, createdAt, finishedAt, nextTryAt, error);
 }
 
 struct Store : ::testing::Test {
@@ -121,7 +121,9 @@ TEST_F(Store, KeepsEveryFieldOverAReopening) {
            QStringLiteral("name"),
            QStringLiteral("spooled"),
            FileIdentity{1, 18446744073709551615ULL, 3, 4},
+           QStringLiteral("exported"),
            Q_INT64_C(53000000001),
+           VimeoCheckpoint{QStringLiteral("t1"), NSURL::URLWithString(QStringLiteral("http://v/u?t=1")), 4, true, 53},
            5,
            6,
            7,
@@ -136,7 +138,7 @@ TEST_F(Store, KeepsEveryFieldOverAReopening) {
     ASSERT_TRUE(second.open(path, nullptr));
     EXPECT_EQ(fieldsOf(*second.job(1)), fieldsOf(job));
     EXPECT_EQ(second.nextDue(), 5000);
-    EXPECT_EQ(second.spoolFiles(), QSet<QString>{QStringLiteral("spooled")});
+    EXPECT_EQ(second.spoolFiles(), (QSet<QString>{QStringLiteral("spooled"), QStringLiteral("exported")}));
 }
 
 TEST_F(Store, AfterAKillEverythingGoesOnAndNothingIsSuspected) {

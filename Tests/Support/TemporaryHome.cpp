@@ -68,6 +68,12 @@ QByteArray jpegOfSize(qint64 length, quint32 seed) {
     return bytes;
 }
 
+QByteArray variedBytes(qint64 length, quint32 seed) {
+    QByteArray bytes((length + 3) / 4 * 4, Qt::Uninitialized);
+    QRandomGenerator(seed).fillRange(reinterpret_cast<quint32 *>(bytes.data()), bytes.size() / 4);
+    return bytes.left(length);
+}
+
 QByteArray dataPath(const char *name) {
     return QByteArray(KORVANE_TEST_DATA "/") + name;
 }

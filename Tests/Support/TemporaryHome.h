@@ -31,6 +31,9 @@ private:
 // A small JPEG file's bytes, followed by varied bytes up to the length; the seed makes them different.
 QByteArray jpegOfSize(qint64 length, quint32 seed = 1);
 
+// Bytes of no pattern, so that reordering shows; the seed makes them different.
+QByteArray variedBytes(qint64 length, quint32 seed = 1);
+
 // A picture file made by another program.
 QByteArray dataPath(const char *name);
 QByteArray dataBytes(const char *name);
