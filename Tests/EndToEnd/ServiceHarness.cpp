@@ -106,9 +106,9 @@ void ServiceHarness::setEnvironment(const QByteArray &name, const QByteArray &va
     home.setEnvironment(name, value);
     qDBusRegisterMetaType<QMap<QString, QString>>();
     const QMap<QString, QString> change{{QString::fromLatin1(name), QString::fromUtf8(value)}};
-    auto call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/"),
-                                               QStringLiteral("org.freedesktop.DBus"),
-                                               QStringLiteral("UpdateActivationEnvironment"));
+    auto call = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("UpdateActivationEnvironment"));
     bus->connection().call(call << QVariant::fromValue(change));
 }
 

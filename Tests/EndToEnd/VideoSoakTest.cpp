@@ -52,7 +52,8 @@ TEST_F(VideoSoak, ANetworkThatIsCutAgainAndAgainCostsAtMostAChunkEachTime) {
     setEnvironment("KORVANE_VIMEO_URL", network.url());
     vimeo.delay(std::chrono::milliseconds(20));
     const QByteArray bytes = variedBytes(size);
-    ASSERT_TRUE(shareVideo(video("long.mp4", bytes)));
+    std::optional<NSError> error;
+    ASSERT_TRUE(shareVideo(video("long.mp4", bytes), &error)) << error->description().toStdString();
     for (int i = 1; i <= cuts; ++i) {
         ASSERT_TRUE(waitFor(
             [&] { return !vimeo.videos().empty() && vimeo.videos()[0].bytesStored > size * i / (cuts + 1); }, 120'000));
