@@ -19,7 +19,7 @@ _korvane() {
     '') words='share uploads accounts standin' options='--help --version' ;;
     share) words='flickr' ;;
     'share flickr'*)
-        files=file
+        files='file'
         options='--title --audience --album --without-metadata --wait --json --help'
         ;;
     uploads) words='list watch retry remove clear pause resume' options='--json --help' ;;
@@ -35,8 +35,8 @@ _korvane() {
     esac
     case $prev in
     --audience) words='public friends family only-me' options='' files='' ;;
-    --credential-file) files=file options='' ;;
-    --state) files=directory options='' ;;
+    --credential-file) files='file' options='' ;;
+    --state) files='directory' options='' ;;
     --title | --album | --port) words='' options='' files='' ;;
     esac
     if [[ $cur == -* || -z $words$files ]]; then
