@@ -96,6 +96,10 @@ TEST_F(VideoExport, SaysWhatIsWrongWithASourceThatCannotBeUsed) {
     makeVideo(QStringLiteral("cut.mkv"), usual);
     QFile matroska(home.path(place("cut.mkv")));
     ASSERT_TRUE(matroska.resize(matroska.size() / 2));
+    QFile damaged(QFile::decodeName(makeVideo(QStringLiteral("damaged.mp4"), QStringLiteral("-c:v mpeg4"))));
+    ASSERT_TRUE(damaged.open(QIODevice::ReadWrite) && damaged.seek(damaged.size() / 2));
+    damaged.write(jpegOfSize(5'000));
+    damaged.close();
     makeVideo(QStringLiteral("picture.mp4"), QStringLiteral("-frames:v 1 -c:v mjpeg -f mjpeg"));
     const struct {
         const char *name;
@@ -109,6 +113,7 @@ TEST_F(VideoExport, SaysWhatIsWrongWithASourceThatCannotBeUsed) {
         {"list.mp4", AVErrorFileFormatNotRecognized, "is not a video"},
         {"joined.mp4", AVErrorFileFormatNotRecognized, "is not a video"},
         {"sound.mp4", AVErrorInvalidSourceMedia, "no pictures"},
+        {"damaged.mp4", AVErrorFileFailedToParse, "damaged or incomplete"},
         {"cut.mp4", AVErrorFileFailedToParse, "damaged or incomplete"},
         {"cut.mkv", AVErrorFileFailedToParse, "damaged or incomplete"},
         {"missing.mp4", AVErrorContentIsUnavailable, "Choose it again"},
