@@ -77,6 +77,7 @@ void AVAssetExportSession::exportAsynchronouslyWithCompletionHandler(std::functi
     _queue->async([self = shared_from_this(), handler = std::move(handler)] {
         if (self->status() == AVAssetExportSessionStatusWaiting) self->_run();
         handler();
+        self->_output.reset();
     });
 }
 

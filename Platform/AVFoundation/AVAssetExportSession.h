@@ -43,8 +43,8 @@ public:
                                                                         std::optional<QString> presetName);
 
     void setOutputFileType(const QString &type) { _outputFileType = type; } // only AVFileTypeMPEG4 can be made
-    // The file to make. One that is left there from earlier is replaced, unless another session that still lives made
-    // it.
+    // The file to make. One that is there already is replaced, unless another session is at it: from its start until
+    // its handler has returned.
     void setOutputURL(const NSURL &url) { _outputURL = url; }
     const std::optional<NSURL> &outputURL() const { return _outputURL; }
     // Ends the export when the job is cancelled; a job that is cancelled already starts none.
@@ -81,7 +81,7 @@ private:
     std::shared_ptr<UploadContext> _context; // may be null
     std::chrono::milliseconds _stallLimit = std::chrono::seconds(120);
 
-    FileDescriptor _output; // locked, which keeps other sessions from the file
+    FileDescriptor _output; // locked, which keeps other sessions from the file; of the own queue alone
     std::stop_source _cancellation;
     std::atomic<float> _progress = 0;
     mutable std::mutex _mutex;

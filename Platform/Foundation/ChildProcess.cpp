@@ -189,11 +189,11 @@ private:
 
     // Exited once the child has ended by itself, else the reason to end it.
     ChildProcess::Ending _watch(const Terms &terms) {
-        const auto deadline = terms.timeLimit ? std::optional(Clock::now() + *terms.timeLimit) : std::nullopt;
+        const auto deadline = terms.timeLimit ? Clock::now() + *terms.timeLimit : Clock::time_point::max();
         pollfd watched[] = {
             {_end.get(), POLLIN, 0}, {_wish.get(), POLLIN, 0}, {_errors.get(), POLLIN, 0}, {_output.get(), POLLIN, 0}};
         for (;;) {
-            if (deadline && Clock::now() >= *deadline) return ChildProcess::TimedOut;
+            if (Clock::now() >= deadline) return ChildProcess::TimedOut;
             if (terms.goesOn && !terms.goesOn()) return ChildProcess::TimedOut;
             if (::poll(watched, std::size(watched), _patience(terms, deadline)) < 0) continue;
             if (watched[0].revents != 0) return ChildProcess::Exited;
@@ -204,11 +204,10 @@ private:
     }
 
     // Milliseconds until somebody must look again; -1 for never.
-    static int _patience(const Terms &terms, const std::optional<Clock::time_point> &deadline) {
-        auto patience = std::chrono::milliseconds(INT_MAX);
-        if (deadline) patience = std::chrono::ceil<std::chrono::milliseconds>(*deadline - Clock::now());
+    static int _patience(const Terms &terms, Clock::time_point deadline) {
+        if (!terms.timeLimit && !terms.goesOn) return -1;
+        auto patience = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
         if (terms.goesOn) patience = std::min(patience, terms.watchInterval);
-        if (!deadline && !terms.goesOn) return -1;
         return int(std::clamp<long long>(patience.count(), 0, INT_MAX));
     }
 

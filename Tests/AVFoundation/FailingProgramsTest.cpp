@@ -24,13 +24,14 @@ protected:
     }
 
     std::shared_ptr<AVAssetExportSession> makeSession() const {
-        auto session = sessionFor(home.file(QStringLiteral("clip.mp4"), "seen by scripts only"));
+        auto session = sessionFor(clip);
         session->setStallLimit(stallLimit);
         return session;
     }
     bool hasOutput() const { return QFileInfo::exists(QFile::decodeName(output)); }
 
     std::chrono::milliseconds stallLimit = 30s;
+    const QByteArray clip = home.file(QStringLiteral("clip.mp4"), "seen by scripts only");
 
     // The child that wrote its number to that file; 0 if none did.
     int childIn(const QString &name) const {
@@ -60,10 +61,8 @@ TEST_F(ExportProgram, FailsTheExportWithAClearErrorAndLeavesNoFile) {
          "Free some space"},
         {"ffmpeg", "ulimit -f 1; head -c 100000 /dev/zero > $out; exec head -c 100000 /dev/zero > $out",
          AVErrorDiskFull, "Free some space"},
-        {"ffmpeg",
-         "echo made > $out; echo out_time_us=10000000; echo more >> " +
-             QFile::encodeName(home.path(QStringLiteral("clip.mp4"))),
-         AVErrorContentIsUnavailable, "was changed"},
+        {"ffmpeg", "echo made > $out; echo out_time_us=10000000; echo more >> " + clip, AVErrorContentIsUnavailable,
+         "was changed"},
         {"ffmpeg", "echo \"Unknown encoder 'libx264'\" >&2; exit 1", AVErrorEncoderNotFound, "libx264"},
         {"ffprobe", "exec sleep 1000", AVErrorExportFailed, "took too long"},
         {"ffprobe", "kill -9 $$", AVErrorExportFailed, "stopped by signal 9"},
@@ -123,6 +122,26 @@ TEST_F(ExportProgram, TellsHowFarItIs) {
     home.file(QStringLiteral("go"), {});
     ASSERT_TRUE(waitFor([&] { return ended.load(); }));
     EXPECT_EQ(session->progress(), 1);
+}
+
+TEST_F(ExportProgram, LeavesTheFileOfAnExportThatRunsAlone) {
+    const QByteArray go = QFile::encodeName(home.path(QStringLiteral("go")));
+    replaceProgram("ffmpeg",
+                   "echo out_time_us=10000000; until [ -e " + go + " ]; do echo first >> $out; sleep 0.01; done");
+    const auto first = makeSession();
+    std::atomic<bool> ended = false;
+    first->exportAsynchronouslyWithCompletionHandler([&] { ended = true; });
+    ASSERT_TRUE(waitFor([&] { return QFileInfo(QFile::decodeName(output)).size() > 0; }));
+    replaceProgram("ffmpeg", "echo second > $out; echo out_time_us=10000000");
+    const auto second = makeSession();
+    runToEnd(second);
+    EXPECT_EQ(second->error()->code(), AVErrorFileAlreadyExists);
+    home.file(QStringLiteral("go"), {});
+    ASSERT_TRUE(waitFor([&] { return ended.load(); }));
+    EXPECT_EQ(first->error(), std::nullopt);
+    QFile file(QFile::decodeName(output));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().startsWith("first"));
 }
 
 TEST_F(ExportProgram, EncodesWhatCannotBeCopiedAfterAll) {

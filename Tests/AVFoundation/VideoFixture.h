@@ -30,8 +30,11 @@ protected:
     // A script of the shell in place of a program ("ffmpeg", "ffprobe"); its last argument is in $out, as a path.
     void replaceProgram(const QByteArray &program, const QByteArray &script);
 
+    // A session that exports to the output.
+    std::shared_ptr<AVAssetExportSession> sessionFor(const NSURL &url, const std::optional<QString> &preset = {},
+                                                     const std::optional<QByteArray> &fallback = {}) const;
     std::shared_ptr<AVAssetExportSession> sessionFor(const QByteArray &path,
-                                                     const std::optional<QString> &preset = std::nullopt) const;
+                                                     const std::optional<QString> &preset = {}) const;
 
     TemporaryHome home;
     const QByteArray output = QFile::encodeName(home.path(QStringLiteral("made.mp4")));
@@ -42,9 +45,8 @@ void runToEnd(const std::shared_ptr<AVAssetExportSession> &session);
 
 // What ffprobe says of a file, in short: "mpeg4 320x240 yuv420p mp3"; a picture that players turn says so.
 QString streamsOf(const QByteArray &path);
-// Of the file's first video, as it is stored; of two files with the same video the same.
+// Of the file's first video, as it is stored: the same for two files with the same video. Expects that everything in
+// the file can be decoded.
 QByteArray checksumOfVideo(const QByteArray &path);
-// Everything in it can be decoded.
-bool isWhole(const QByteArray &path);
 
 } // namespace korvane::test
