@@ -1,7 +1,6 @@
 // Texts, units, columns and JSON of uploads.
 #include "CommandLine/UploadText.h"
 #include "CommandLine/Arguments.h"
-#include "Platform/Social/RemoteServiceError.h"
 #include "Tests/Support/Testing.h"
 
 #include <QJsonDocument>
@@ -115,12 +114,4 @@ TEST(Arguments, OnlyWhatCanBeCarriedIsTaken) {
     EXPECT_EQ(Arguments::problemWithNumber("9223372036854775807"), "");
     for (const char *text : {"", "0", "-1", "+1", "1.0", "9223372036854775808", "Summer"})
         EXPECT_NE(Arguments::problemWithNumber(text), "") << text;
-}
-
-TEST(Arguments, ErrorsOfTheHandOverLeadToTheDocumentedStatus) {
-    const std::pair<qint64, ExitStatus> cases[] = {{1, ExitUnreachable},  {2, ExitUnreachable}, {3, ExitUsage},
-                                                   {4, ExitUploadFailed}, {5, ExitUsage},       {6, ExitUnreachable}};
-    for (const auto &[code, status] : cases)
-        EXPECT_EQ(Arguments::exitStatusOf(NSError(RemoteServiceErrorDomain, code)), status) << code;
-    EXPECT_EQ(Arguments::exitStatusOf(NSError(NSPOSIXErrorDomain, 2)), ExitUploadFailed);
 }

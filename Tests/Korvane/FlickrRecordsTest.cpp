@@ -98,8 +98,12 @@ TEST(FlickrPostRecord, TakesWhatItCanFromARecordOfAnyKind) {
 }
 
 TEST(FlickrResponse, ReadsTheAnswerAsItsEventsCome) {
+    QByteArray bomb = "<!DOCTYPE b [<!ENTITY a \"aaaaaaaaaa\">";
+    for (char c = 'b'; c < 'k'; ++c)
+        bomb += QByteArray("<!ENTITY ") + c + " \"" + QByteArray("&X;").replace('X', char(c - 1)).repeated(10) + "\">";
+    bomb += "]><rsp stat=\"ok\"><photoid>1&j;</photoid></rsp>";
     const struct {
-        const char *body;
+        QByteArray body;
         bool success;
         qint64 photoID;
         qint32 code;
@@ -120,9 +124,15 @@ TEST(FlickrResponse, ReadsTheAnswerAsItsEventsCome) {
          QStringLiteral("<rsp stat=\"ok\"><photoid>7</photoid>")},
         {"\xff\xfe", false, 0, -1, {}},
         {"cut off in a character \xc3", false, 0, -1, {}},
+        {"<!DOCTYPE a [<!ENTITY e SYSTEM \"file:///etc/passwd\">]><rsp stat=\"ok\"><photoid>7&e;</photoid></rsp>",
+         true,
+         7,
+         0,
+         {}},
+        {bomb, false, 0, -1, QString::fromUtf8(bomb)},
     };
     for (const auto &[body, success, photoID, code, description] : cases) {
-        SCOPED_TRACE(body);
+        SCOPED_TRACE(body.constData());
         const auto response = FlickrResponse::responseWithData(NSData(body));
         EXPECT_EQ(response->isSuccess(), success);
         EXPECT_EQ(response->photoID, photoID);

@@ -3,7 +3,6 @@
 #include "Korvane/FlickrUploadSession.h"
 #include "Korvane/KRLog.h"
 #include "Korvane/KRRemoteSession.h"
-#include "Platform/Accounts/ACAccountStore.h"
 #include "Platform/Power/PowerAssertion.h"
 #include "Platform/Preferences/CFPreferences.h"
 #include "Tests/Support/FakeLogind.h"
@@ -32,14 +31,6 @@ public:
     QVariantList received;
     std::optional<bool> success;
     std::optional<NSError> error;
-};
-
-class TestSession : public KRRemoteSession {
-public:
-    TestSession() : KRRemoteSession(FlickrRemoteServiceName, FlickrRemoteSessionProtocol::interface()) {}
-
-protected:
-    void received(const QVariantList &, const RemoteMessage &, const XPCTransferCompletion &) override {}
 };
 
 } // namespace
@@ -102,15 +93,6 @@ TEST(KRRemoteSessionDeathTest, StopsOnADecrementTooMany) {
     EXPECT_DEATH(KRRemoteSession::decrementPowerAssertion(),
                  "\\(_powerAssertionRetainCount > 0\\).*\\+\\[KRRemoteSession "
                  "decrementPowerAssertion\\].*Korvane/KRRemoteSession.*41");
-}
-
-TEST(KRRemoteSession, KeepsItsAccountStore) {
-    TestSession session;
-    const auto store = session.accountStore();
-    EXPECT_EQ(session.accountStore(), store);
-    const auto other = std::make_shared<ACAccountStore>();
-    session.setAccountStore(other);
-    EXPECT_EQ(session.accountStore(), other);
 }
 
 TEST(FlickrUploadSession, PassesOnWhatTheServiceReplies) {

@@ -2,7 +2,6 @@
 #include "Platform/AssetsLibrary/ALAssetsLibrary.h"
 
 #include "Platform/Foundation/Folders.h"
-#include "Platform/ImageIO/PictureProgram.h"
 #include "Platform/MobileCoreServices/UTType.h"
 #include "Platform/UIKit/UIImage.h"
 #include "Tests/Picture/PictureFixture.h"
@@ -162,17 +161,6 @@ TEST_F(PhotoLibrary, HasNoAssetOutsideItsFolders) {
          {QFile::decodeName(outside), pictures + QStringLiteral("relative.jpg"), pictures + QStringLiteral("folder"),
           pictures + QStringLiteral("missing.jpg"), QString()})
         EXPECT_FALSE(ALAssetsLibrary::assetURLForFile(QFile::encodeName(path))) << qPrintable(path);
-}
-
-TEST_F(PhotoLibrary, SaysWhichFileCannotBeUsedAndWhy) {
-    _home.file("library/Pictures/cut.jpg", picture.left(3600));
-    _home.file("library/Pictures/diary.jpg", "Dear diary");
-    for (const auto &[id, reason] : {std::pair{"pictures/cut.jpg", "cut.jpg: the picture is damaged"},
-                                     std::pair{"pictures/diary.jpg", "diary.jpg: this is not a picture"}}) {
-        const Answer answer = lookUp(assetURL(id));
-        ASSERT_TRUE(says(answer.error, reason));
-        EXPECT_EQ(answer.error->domain(), PictureErrorDomain);
-    }
 }
 
 TEST_F(PhotoLibrary, LooksForVideosAndForFoldersThatAreNotThere) {

@@ -67,21 +67,6 @@ TEST(ChildProcess, ReportsHowItEnded) {
               QStringLiteral("exit status 1: last"));
 }
 
-TEST(ChildProcess, GetsItsInputOutputAndEnvironment) {
-    const TemporaryHome home;
-    const QByteArray from = home.file("from", "one two\n");
-    const QByteArray to = home.file("to", {});
-    const FileDescriptor input(::open(from.constData(), O_RDONLY | O_CLOEXEC));
-    const FileDescriptor output(::open(to.constData(), O_WRONLY | O_CLOEXEC));
-    ChildProcess child = shell("cat; echo \"$HOME|$NEW|$1\"");
-    child.setStandardInput(input.get());
-    child.setStandardOutput(output.get());
-    child.setEnvironmentVariable("NEW", "a=b c");
-    child.setEnvironmentVariable("HOME", "/elsewhere");
-    ASSERT_TRUE(child.run()->succeeded());
-    EXPECT_EQ(home.contents("to"), "one two\n/elsewhere|a=b c|\n");
-}
-
 TEST(ChildProcess, SaysWhyItCouldNotBeStarted) {
     const TemporaryHome home;
     const QByteArray notExecutable = home.file("plain", "#!/bin/sh\n");
@@ -179,13 +164,6 @@ TEST(ChildProcess, DiesWithItsParent) {
     running.join();
     ASSERT_TRUE(lived);
     EXPECT_TRUE(waitFor([&] { return !isAlive(sleeper); }));
-}
-
-TEST(ChildProcess, FindsProgramsOfOursAndOthers) {
-    EXPECT_EQ(QFileInfo(QFile::decodeName(ChildProcess::pathOfProgram("korvane-picture"))).canonicalFilePath(),
-              QFileInfo(QStringLiteral(KORVANE_PICTURE_PROGRAM)).canonicalFilePath());
-    EXPECT_TRUE(ChildProcess::pathOfProgram("sh").endsWith("/sh"));
-    EXPECT_TRUE(ChildProcess::pathOfProgram("korvane-no-such-program").isEmpty());
 }
 
 } // namespace

@@ -53,21 +53,5 @@ TEST(UTType, ConformsToItselfAndToWhatItIsASpecialCaseOf) {
         EXPECT_EQ(UTTypeConformsTo(type, other), conforms) << qPrintable(type) << " to " << qPrintable(other);
 }
 
-TEST(UTType, IsKnownForEveryPictureAndVideo) {
-    const std::pair<const char *, QString> table[] = {
-        {"image/png", kUTTypePNG},
-        {"image/heif", kUTTypeHEIC},
-        {"image/heic", kUTTypeHEIC},
-        {"video/mp4", kUTTypeMPEG4},
-        {"image/x-canon-cr2", kUTTypeImage},
-        {"video/quicktime", kUTTypeMovie},
-        {"text/plain", QString()},
-        {"", QString()},
-        {"application/x-matroska", kUTTypeMovie},
-    };
-    for (const auto &[mimeType, type] : table)
-        EXPECT_EQ(typeIdentifierForMimeType(QString::fromLatin1(mimeType)), type) << mimeType;
-}
-
 } // namespace
 } // namespace korvane::test
