@@ -178,20 +178,6 @@ TEST_F(FlickrUpload, AddsThePhotoToItsSetAndIsDoneWhateverComesOfThat) {
                                              "! Error Domain=NSURLErrorDomain"));
 }
 
-TEST_F(FlickrUpload, ContinuesWithTheSetAloneOnceThePhotoHasAnId) {
-    EXPECT_EQ(upload(post(jpeg)), std::nullopt);
-    const auto later = FlickrPost::init();
-    later->photoID = checkpoint;
-    later->photoSetID = flickr.server.albums()[1].id;
-    EXPECT_EQ(upload(later), std::nullopt);
-    EXPECT_EQ(flickr.server.photos().size(), 1u);
-    EXPECT_EQ(flickr.server.photos()[0].albums, QList<qint64>{later->photoSetID});
-    const auto nothingLeft = FlickrPost::init();
-    nothingLeft->photoID = checkpoint;
-    EXPECT_EQ(upload(nothingLeft), std::nullopt);
-    EXPECT_EQ(flickr.server.requests().size(), 2u);
-}
-
 TEST_F(FlickrUpload, ReadsFilesAndEncodesAssetsOfTheLibrary) {
     const auto fromFile = FlickrPost::init();
     fromFile->assetURL = NSURL::fileURLWithPath(home.file("a b.jpg", jpeg));
