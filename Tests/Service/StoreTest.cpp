@@ -25,9 +25,9 @@ NewUpload upload(const char *title) {
 }
 
 // All of them: does not compile once there is another.
-auto fieldsOf(const UploadJob &job) {
-    const auto &[id, service, state, waitReason, title, accountID, accountName, spoolFile, source, photoID, bytesTotal,
-                 attempts, failures, failingSince, deaths, createdAt, finishedAt, nextTryAt, error] = job;
+auto fieldsOf(auto &job) {
+    auto &[id, service, state, waitReason, title, accountID, accountName, spoolFile, source, photoID, bytesTotal,
+           attempts, failures, failingSince, deaths, createdAt, finishedAt, nextTryAt, error] = job;
     return std::tie(id, service, state, waitReason, title, accountID, accountName, spoolFile, source, photoID,
                     bytesTotal, attempts, failures, failingSince, deaths, createdAt, finishedAt, nextTryAt, error);
 }
@@ -100,29 +100,14 @@ TEST_F(Store, KeepsEveryFieldOverAReopening) {
 
     const FileIdentity source{1, 18446744073709551615ULL, 3, 4};
     const NSError error = NSError::errorWithDescription(QStringLiteral("D"), -7, QStringLiteral("text"));
-    job = {1,
-           vimeoServiceID,
-           UploadState::Waiting,
-           WaitReason::SignIn,
-           QStringLiteral("title"),
-           QStringLiteral("account"),
-           QStringLiteral("name"),
-           QStringLiteral("spooled"),
-           source,
-           Q_INT64_C(53000000001),
-           5,
-           6,
-           7,
-           8,
-           9,
-           10,
-           11,
-           5000,
-           error};
+    fieldsOf(job) = std::tuple(1, vimeoServiceID, UploadState::Waiting, WaitReason::SignIn, QStringLiteral("title"),
+                               QStringLiteral("account"), QStringLiteral("name"), QStringLiteral("spooled"), source,
+                               Q_INT64_C(53000000001), 5, 6, 7, 8, 9, 10, 11, 5000, error);
     ASSERT_TRUE(store.update(job, true));
     UploadStore second;
     ASSERT_TRUE(second.open(path, nullptr));
-    EXPECT_EQ(fieldsOf(*second.job(1)), fieldsOf(job));
+    const UploadJob read = *second.job(1);
+    EXPECT_EQ(fieldsOf(read), fieldsOf(job));
     EXPECT_EQ(second.nextDue(), 5000);
     EXPECT_EQ(second.spoolFiles(), QSet<QString>{QStringLiteral("spooled")});
 }
