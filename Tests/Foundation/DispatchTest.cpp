@@ -3,8 +3,7 @@
 #include "Tests/Support/Testing.h"
 
 #include <atomic>
-#include <chrono>
-#include <semaphore>
+#include <barrier>
 #include <vector>
 
 using namespace korvane;
@@ -24,18 +23,10 @@ TEST(Dispatch, RunsMainWorkInOrderOnTheMainThread) {
 }
 
 TEST(Dispatch, AddsThreadsWhileOthersBlock) {
-    std::counting_semaphore<> release(0);
-    std::atomic<int> blocked = 0;
-    std::atomic<int> done = 0;
+    std::barrier together(41);
     for (int i = 0; i < 40; ++i)
-        dispatchGlobal([&] {
-            ++blocked;
-            release.acquire();
-            ++done;
-        });
-    EXPECT_TRUE(waitFor([&] { return blocked == 40; }));
-    release.release(40);
-    EXPECT_TRUE(waitFor([&] { return done == 40; }));
+        dispatchGlobal([&] { together.arrive_and_wait(); });
+    together.arrive_and_wait(); // never ends with fewer than 40 threads
 }
 
 TEST(Dispatch, SerialQueueFinishesItsWorkAndMayDieOnItsOwnThread) {
