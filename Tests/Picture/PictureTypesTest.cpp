@@ -11,25 +11,16 @@ QString typeOf(const QByteArray &bytes) {
     return source ? source->type() : QStringLiteral("no source");
 }
 
-TEST(CGImageSource, TellsTheTypeByTheContents) {
-    const std::pair<const char *, QString> files[] = {
-        {"orientation-1.jpg", kUTTypeJPEG},   {"cmyk.jpg", kUTTypeJPEG},      {"quarters.png", kUTTypePNG},
-        {"animated.gif", kUTTypeGIF},         {"quarters.tif", kUTTypeTIFF},  {"quarters.webp", kUTTypeWebP},
-        {"quarters.heic", kUTTypeHEIC},       {"quarters.avif", kUTTypeAVIF}, {"quarters.jxl", kUTTypeJPEGXL},
-        {"orientation-6.jxl", kUTTypeJPEGXL},
-    };
-    for (const auto &[name, type] : files) {
-        EXPECT_EQ(typeOf(dataBytes(name)), type) << name;
-        EXPECT_TRUE(UTTypeConformsTo(type, kUTTypeImage)) << name;
-    }
-}
-
 TEST(CGImageSource, TakesTheFirstBytesForEnough) {
     const auto withBrand = [](const char *brand) {
         return QByteArray::fromHex("00000018") + "ftyp" + brand + QByteArray(4, '\0') + "mif1" + brand +
                QByteArray(64, '\0');
     };
     EXPECT_EQ(typeOf(QByteArray::fromHex("ffd8ffe0")), kUTTypeJPEG);
+    EXPECT_EQ(typeOf(dataBytes("orientation-6.jxl")), kUTTypeJPEGXL);
+    EXPECT_EQ(typeOf(dataBytes("quarters.jxl")), kUTTypeJPEGXL);
+    EXPECT_EQ(typeOf(dataBytes("quarters.tif")), kUTTypeTIFF);
+    EXPECT_EQ(typeOf(dataBytes("quarters.webp")), kUTTypeWebP);
     EXPECT_EQ(typeOf(withBrand("heix")), kUTTypeHEIC);
     EXPECT_EQ(typeOf(withBrand("mif1")), kUTTypeHEIC);
     EXPECT_EQ(typeOf(withBrand("avis")), kUTTypeAVIF);

@@ -171,20 +171,3 @@ TEST(StandInState, OutlivesRestartsAndCrashes) {
         EXPECT_GT(photoIdIn(Client(server).upload("GIF89a")).toLongLong(), photos.back().id);
     }
 }
-
-TEST(StandInState, ExplainsWhyItCannotStart) {
-    const QTemporaryDir folder;
-    StandIn first({.stateFolder = folder.path()});
-    ASSERT_TRUE(first.start());
-    const QByteArray port = first.url().section(QLatin1Char(':'), -1).toLatin1();
-    const std::pair<standin::StandInOptions, QByteArray> cases[] = {
-        {{.stateFolder = folder.path()}, "in use by another stand-in"},
-        {{.port = port.toInt()}, port},
-        {{.stateFolder = QStringLiteral("/dev/null/state")}, "/dev/null/state"},
-    };
-    for (const auto &[options, said] : cases) {
-        QString error;
-        EXPECT_FALSE(StandIn(options).start(&error));
-        EXPECT_TRUE(says(error, said));
-    }
-}
