@@ -137,8 +137,7 @@ TEST_F(Kill, BetweenTheAnswerAndTheAlbumDoesNotSendThePhotoAgain) {
 TEST_F(Kill, AnUploadThatEndsTheServiceIsSetAsideAndItsNeighboursAreNot) {
     // Whenever the second upload runs, the service ends by a fatal signal.
     flickr.server.delay(std::chrono::milliseconds(300));
-    ASSERT_TRUE(share(
-        {post(jpegOfSize(5000, 1)), post(jpegOfSize(5000, 9)), post(jpegOfSize(5000, 2)), post(jpegOfSize(5000, 3))}));
+    ASSERT_TRUE(share(std::vector(4, post(jpegOfSize(5000)))));
     int ends = 0;
     const auto doneAndFailed = [&] {
         if (valueOf(1, "state") == QLatin1String("running") && valueOf(1, "attempts").toInt() > ends) {

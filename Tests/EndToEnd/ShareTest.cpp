@@ -23,8 +23,7 @@ TEST_F(Share, ABatchArrivesWholeInItsAlbumAndLeavesNothingBehind) {
         sent.insert(sha256Of(bytes));
         posts.push_back(post(bytes, album));
     }
-    std::optional<NSError> error;
-    ASSERT_TRUE(share(posts, &error)) << error->description().toStdString();
+    ASSERT_TRUE(share(posts));
     ASSERT_TRUE(waitForState("done", 12));
     QSet<QByteArray> arrived;
     for (const auto &photo : flickr.server.photos()) {
@@ -73,8 +72,7 @@ TEST_F(Share, PostsThatCannotBeUploadedFailWithWordsAndStopNothing) {
     outside->assetURL = NSURL::URLWithString(
         QStringLiteral("assets-library://asset/asset.PNG?id=pictures%2F..%2F..%2F..%2Fetc%2Fpasswd&ext=PNG"));
     const auto changing = FlickrPost::init();
-    const QByteArray path = home.file("changing.jpg", jpegOfSize(100));
-    changing->assetURL = NSURL::fileURLWithPath(path);
+    changing->assetURL = NSURL::fileURLWithPath(home.file("changing.jpg", jpegOfSize(100)));
     ask("Pause");
     ASSERT_TRUE(share({nothing, missing, post(""), outside, changing, post(jpegOfSize(100))}));
     home.file("changing.jpg", jpegOfSize(200, 9));
@@ -120,10 +118,8 @@ TEST_F(Share, FinalRefusalsFailAtOnceAndRetryBringsThemBack) {
 
 TEST_F(Share, PauseStopsWhatRunsAndRemovalForgetsIt) {
     flickr.server.on("upload").hang(3);
-    std::vector<std::shared_ptr<FlickrPost>> posts;
-    for (quint32 i = 0; i < 4; ++i)
-        posts.push_back(post(jpegOfSize(100'000, i)));
-    ASSERT_TRUE(share(posts));
+    ASSERT_TRUE(share({post(jpegOfSize(100'000, 1)), post(jpegOfSize(100'000, 2)), post(jpegOfSize(100'000, 3)),
+                       post(jpegOfSize(100'000, 4))}));
     ASSERT_TRUE(waitForState("running", 3));
     ASSERT_TRUE(waitFor([&] { return flickr.server.requests().size() == 3; }));
     ask("Pause");
@@ -136,9 +132,7 @@ TEST_F(Share, PauseStopsWhatRunsAndRemovalForgetsIt) {
     ask("Resume");
     ASSERT_TRUE(waitForState("done", 3));
     ASSERT_TRUE(waitForState("running", 1));
-    QStringList ids;
-    for (const auto &upload : uploads())
-        ids.append(upload.value(QStringLiteral("id")).toString());
+    const QStringList ids{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4")};
     EXPECT_EQ(ask("Remove", {ids}).toUInt(), 4u);
     EXPECT_TRUE(waitFor([&] { return uploads().isEmpty(); }));
     EXPECT_EQ(flickr.server.photos().size(), 3u);
@@ -200,10 +194,7 @@ TEST_F(Share, AFullDiskRefusesTheWholeBatch) {
     if (::mount("none", QFile::encodeName(spool).constData(), "tmpfs", 0, "size=2m") != 0)
         GTEST_SKIP() << "needs the right to mount a small disk";
     std::optional<NSError> error;
-    std::vector<std::shared_ptr<FlickrPost>> posts;
-    for (quint32 i = 0; i < 8; ++i)
-        posts.push_back(post(jpegOfSize(500'000, i)));
-    EXPECT_FALSE(share(posts, &error));
+    EXPECT_FALSE(share(std::vector(8, post(jpegOfSize(500'000))), &error));
     EXPECT_TRUE(says(error, "No space"));
     EXPECT_TRUE(uploads().isEmpty());
     EXPECT_TRUE(share({post(jpegOfSize(300'000))}, &error));

@@ -1,12 +1,9 @@
 // Queues.
 #include "Platform/Foundation/Dispatch.h"
-#include "Tests/Support/WaitFor.h"
-
-#include <gtest/gtest.h>
+#include "Tests/Support/Testing.h"
 
 #include <atomic>
-#include <chrono>
-#include <semaphore>
+#include <barrier>
 #include <vector>
 
 using namespace korvane;
@@ -14,34 +11,22 @@ using namespace korvane::test;
 
 TEST(Dispatch, RunsMainWorkInOrderOnTheMainThread) {
     std::vector<int> order;
-    bool allOnMain = true;
-    std::atomic<bool> sent = false;
     dispatchGlobal([&] {
         for (int i = 0; i < 1000; ++i)
             dispatchMain([&, i] {
+                EXPECT_EQ(QThread::currentThread(), QCoreApplication::instance()->thread());
                 order.push_back(i);
-                allOnMain = allOnMain && QThread::currentThread() == QCoreApplication::instance()->thread();
             });
-        sent = true;
     });
-    ASSERT_TRUE(waitFor([&] { return sent && order.size() == 1000; }));
+    ASSERT_TRUE(waitFor([&] { return order.size() == 1000; }));
     EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
-    EXPECT_TRUE(allOnMain);
 }
 
 TEST(Dispatch, AddsThreadsWhileOthersBlock) {
-    std::counting_semaphore<> release(0);
-    std::atomic<int> blocked = 0;
-    std::atomic<int> done = 0;
+    std::barrier together(41);
     for (int i = 0; i < 40; ++i)
-        dispatchGlobal([&] {
-            ++blocked;
-            release.acquire();
-            ++done;
-        });
-    EXPECT_TRUE(waitFor([&] { return blocked == 40; }));
-    release.release(40);
-    EXPECT_TRUE(waitFor([&] { return done == 40; }));
+        dispatchGlobal([&] { together.arrive_and_wait(); });
+    together.arrive_and_wait(); // never ends with fewer than 40 threads
 }
 
 TEST(Dispatch, SerialQueueFinishesItsWorkAndMayDieOnItsOwnThread) {

@@ -2,13 +2,9 @@
 #include "Platform/Foundation/NSData.h"
 #include "Platform/Foundation/NSNumber.h"
 #include "Platform/Foundation/NSURL.h"
-#include "Tests/Support/LogCapture.h"
-#include "Tests/Support/Printing.h"
-#include "Tests/Support/TemporaryHome.h"
+#include "Tests/Support/Testing.h"
 
 #include <QFile>
-
-#include <gtest/gtest.h>
 
 #include <sys/stat.h>
 
@@ -19,14 +15,8 @@ using namespace korvane;
 using namespace korvane::test;
 
 TEST(Numbers, AreReadFromAnythingThatARecordMayHold) {
-    struct Case {
-        QVariant value;
-        qint64 integer;
-        qint32 narrow;
-        bool boolean;
-    };
-    const qint64 most = std::numeric_limits<qint64>::max();
-    const Case cases[] = {
+    const qint64 most = std::numeric_limits<qint64>::max(), least = std::numeric_limits<qint64>::min();
+    const std::tuple<QVariant, qint64, qint32, bool> cases[] = {
         {{}, 0, 0, false},
         {QStringLiteral("12abc"), 12, 12, true},
         {QStringLiteral(" \t-7"), -7, -7, true},
@@ -38,8 +28,7 @@ TEST(Numbers, AreReadFromAnythingThatARecordMayHold) {
         {QStringLiteral("000"), 0, 0, false},
         {QStringLiteral("0010"), 10, 10, true},
         {QStringLiteral("99999999999999999999"), most, std::numeric_limits<qint32>::max(), true},
-        {QStringLiteral("-99999999999999999999"), std::numeric_limits<qint64>::min(),
-         std::numeric_limits<qint32>::min(), true},
+        {QStringLiteral("-99999999999999999999"), least, std::numeric_limits<qint32>::min(), true},
         {Q_INT64_C(4294967299), 4294967299, 3, true},
         {quint32(4294967295), 4294967295, -1, true},
         {true, 1, 1, true},
@@ -51,12 +40,11 @@ TEST(Numbers, AreReadFromAnythingThatARecordMayHold) {
         {QStringList{QStringLiteral("3")}, 0, 0, false},
         {QVariantMap{{QStringLiteral("a"), 1}}, 0, 0, false},
     };
-    for (const Case &test : cases) {
-        SCOPED_TRACE(test.value.toString().toStdString() + " " +
-                     (test.value.typeName() ? test.value.typeName() : "nil"));
-        EXPECT_EQ(integerValue(test.value), test.integer);
-        EXPECT_EQ(intValue(test.value), test.narrow);
-        EXPECT_EQ(boolValue(test.value), test.boolean);
+    for (const auto &[value, integer, narrow, boolean] : cases) {
+        SCOPED_TRACE(::testing::Message() << qPrintable(value.toString()) << " as " << value.metaType().name());
+        EXPECT_EQ(integerValue(value), integer);
+        EXPECT_EQ(intValue(value), narrow);
+        EXPECT_EQ(boolValue(value), boolean);
     }
     EXPECT_EQ(textValue(true), QStringLiteral("1"));
     EXPECT_EQ(textValue(false), QStringLiteral("0"));
@@ -90,7 +78,7 @@ TEST(URLs, CarryFileNamesThatAreNotUTF8) {
 TEST(Data, StandsForAPartOfAFileAndNoticesThatTheFileChanged) {
     const TemporaryHome home;
     const QByteArray bytes = jpegOfSize(10'000);
-    const QByteArray path = home.file(QStringLiteral("a.jpg"), bytes);
+    const QByteArray path = home.file("a.jpg", bytes);
     const auto data = NSData::dataWithContentsOfFile(path);
     ASSERT_TRUE(data);
     EXPECT_EQ(data->bytes(), bytes);
@@ -105,15 +93,12 @@ TEST(Data, StandsForAPartOfAFileAndNoticesThatTheFileChanged) {
 
 TEST(Data, RefusesWhatIsNoReadableFileWithAnErrorThatNamesIt) {
     const TemporaryHome home;
-    const QByteArray fifo = QFile::encodeName(home.path(QStringLiteral("fifo")));
-    ASSERT_EQ(::mkfifo(fifo.constData(), 0600), 0);
-    for (const QByteArray &path :
-         {QFile::encodeName(home.path(QStringLiteral("missing"))), QFile::encodeName(home.path()), fifo}) {
+    ASSERT_EQ(::mkfifo(qPrintable(home.path("fifo")), 0600), 0);
+    for (const char *name : {"missing", "", "fifo"}) {
+        const QByteArray path = QFile::encodeName(home.path(name));
         std::optional<NSError> error;
         EXPECT_FALSE(NSData::dataWithContentsOfFile(path, &error));
-        ASSERT_TRUE(error);
-        EXPECT_TRUE(error->localizedDescription().contains(QFile::decodeName(path)))
-            << error->localizedDescription().toStdString();
+        EXPECT_TRUE(says(error, path));
     }
 }
 
@@ -131,6 +116,6 @@ TEST(Log, RedactsWhatWouldLetOthersIn) {
         "&oauth_token=72-secret&oauth_signature=\"r6%2F\" {\"tokenSecret\": \"hush\"}");
     const QString shown = redacted(answer);
     for (const char *secret : {"abc123", "72-secret", "r6", "hush"})
-        EXPECT_FALSE(shown.contains(QLatin1String(secret))) << shown.toStdString();
-    EXPECT_TRUE(shown.contains(QStringLiteral("signature_invalid")));
+        EXPECT_FALSE(says(shown, secret));
+    EXPECT_TRUE(says(shown, "signature_invalid"));
 }

@@ -98,8 +98,14 @@ TEST(FlickrPostRecord, TakesWhatItCanFromARecordOfAnyKind) {
 }
 
 TEST(FlickrResponse, ReadsTheAnswerAsItsEventsCome) {
+    const QByteArray foreign = "<!DOCTYPE a [<!ENTITY e SYSTEM \"file:///etc/passwd\">]>"
+                               "<rsp stat=\"ok\"><photoid>7&e;</photoid></rsp>";
+    QByteArray bomb = "<!DOCTYPE b [<!ENTITY a \"aaaaaaaaaa\">";
+    for (char c = 'b'; c < 'k'; ++c)
+        bomb += QByteArray("<!ENTITY ") + c + " \"" + QByteArray("&X;").replace('X', char(c - 1)).repeated(10) + "\">";
+    bomb += "]><rsp stat=\"ok\"><photoid>1&j;</photoid></rsp>";
     const struct {
-        const char *body;
+        QByteArray body;
         bool success;
         qint64 photoID;
         qint32 code;
@@ -107,8 +113,7 @@ TEST(FlickrResponse, ReadsTheAnswerAsItsEventsCome) {
     } cases[] = {
         {"<rsp stat=\"ok\"><photoid>53000000001</photoid></rsp>", true, 53000000001, 0, {}},
         {"<rsp stat=\"ok\"><photoid> 12<![CDATA[34]]>x</photoid></rsp>", true, 1234, 0, {}},
-        {"<rsp stat=\"fail\"><err code=\"5\" msg=\"Filetype &amp; more\"/></rsp>", false, 0, 5,
-         QStringLiteral("Filetype & more")},
+        {"<rsp stat=\"fail\"><err code=\"5\" msg=\"A &amp; B\"/></rsp>", false, 0, 5, QStringLiteral("A & B")},
         {"<rsp stat=\"fail\"><err/></rsp>", false, 0, 0, {}},
         {"<rsp stat=\"fail\"><photoid>7</photoid></rsp>", true, 7, 0, {}},
         {"<rsp><photoid>7</photoid><err code=\"x\" msg=\"m\"/></rsp>", false, 7, 0, QStringLiteral("m")},
@@ -116,13 +121,14 @@ TEST(FlickrResponse, ReadsTheAnswerAsItsEventsCome) {
         {"<html/>", false, 0, 0, {}},
         {"", false, 0, -1, QString()},
         {"oauth_problem=token_rejected", false, 0, -1, QStringLiteral("oauth_problem=token_rejected")},
-        {"<rsp stat=\"ok\"><photoid>7</photoid>", false, 7, -1,
-         QStringLiteral("<rsp stat=\"ok\"><photoid>7</photoid>")},
+        {"<rsp><photoid>7</photoid>", false, 7, -1, QStringLiteral("<rsp><photoid>7</photoid>")},
         {"\xff\xfe", false, 0, -1, {}},
         {"cut off in a character \xc3", false, 0, -1, {}},
+        {foreign, true, 7, 0, {}},
+        {bomb, false, 0, -1, QString::fromUtf8(bomb)},
     };
     for (const auto &[body, success, photoID, code, description] : cases) {
-        SCOPED_TRACE(body);
+        SCOPED_TRACE(body.constData());
         const auto response = FlickrResponse::responseWithData(NSData(body));
         EXPECT_EQ(response->isSuccess(), success);
         EXPECT_EQ(response->photoID, photoID);

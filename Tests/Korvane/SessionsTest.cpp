@@ -3,9 +3,7 @@
 #include "Korvane/FlickrUploadSession.h"
 #include "Korvane/KRLog.h"
 #include "Korvane/KRRemoteSession.h"
-#include "Platform/Accounts/ACAccountStore.h"
 #include "Platform/Power/PowerAssertion.h"
-#include "Platform/Preferences/CFPreferences.h"
 #include "Tests/Support/FakeLogind.h"
 #include "Tests/Support/Testing.h"
 
@@ -16,10 +14,9 @@ using namespace korvane::test;
 
 namespace {
 
-void setLogging(bool on) {
-    const QString domain = QCoreApplication::applicationName();
-    CFPreferencesSetAppValue(QStringLiteral("KRLoggingEnabled"), on, domain);
-    CFPreferencesAppSynchronize(domain);
+void switchLoggingOn(const TemporaryHome &home) {
+    const QString name = QCoreApplication::applicationName() + QStringLiteral(".json");
+    home.file(QStringLiteral("config/korvane/preferences/") + name, R"({"KRLoggingEnabled": true})");
 }
 
 // Answers with what the test gives it, from a thread of its own.
@@ -34,14 +31,6 @@ public:
     std::optional<NSError> error;
 };
 
-class TestSession : public KRRemoteSession {
-public:
-    TestSession() : KRRemoteSession(FlickrRemoteServiceName, FlickrRemoteSessionProtocol::interface()) {}
-
-protected:
-    void received(const QVariantList &, const RemoteMessage &, const XPCTransferCompletion &) override {}
-};
-
 } // namespace
 
 TEST(KRLog, IsSwitchedOnceAProcessWhileTheQuestionIsAnsweredAnew) {
@@ -49,7 +38,7 @@ TEST(KRLog, IsSwitchedOnceAProcessWhileTheQuestionIsAnsweredAnew) {
     const LogCapture log;
     EXPECT_FALSE(KRIsLoggingEnabled());
     KRLog("Export progress: %f", 0.5);
-    setLogging(true);
+    switchLoggingOn(home);
     EXPECT_TRUE(KRIsLoggingEnabled());
     KRLog("Export progress: %f", 0.5);
     EXPECT_EQ(log.lines(), QStringList());
@@ -59,7 +48,7 @@ TEST(KRLogDeathTest, WritesItsLinesWhenSwitchedOnBeforeTheFirst) {
     ::testing::FLAGS_gtest_death_test_style = "threadsafe";
     const auto logAndEnd = [] {
         const TemporaryHome home;
-        setLogging(true);
+        switchLoggingOn(home);
         KRLog("Setting privacy to %i", 1);
         std::abort();
     };
@@ -102,15 +91,6 @@ TEST(KRRemoteSessionDeathTest, StopsOnADecrementTooMany) {
     EXPECT_DEATH(KRRemoteSession::decrementPowerAssertion(),
                  "\\(_powerAssertionRetainCount > 0\\).*\\+\\[KRRemoteSession "
                  "decrementPowerAssertion\\].*Korvane/KRRemoteSession.*41");
-}
-
-TEST(KRRemoteSession, KeepsItsAccountStore) {
-    TestSession session;
-    const auto store = session.accountStore();
-    EXPECT_EQ(session.accountStore(), store);
-    const auto other = std::make_shared<ACAccountStore>();
-    session.setAccountStore(other);
-    EXPECT_EQ(session.accountStore(), other);
 }
 
 TEST(FlickrUploadSession, PassesOnWhatTheServiceReplies) {

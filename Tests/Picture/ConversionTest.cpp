@@ -1,13 +1,11 @@
 // korvane-picture on files of other programs: position, colours, metadata, limits and refusals.
 #include "Platform/Foundation/FileDescriptor.h"
 #include "Tests/Picture/PictureFixture.h"
-#include "Tests/Support/TemporaryHome.h"
 
-#include <gtest/gtest.h>
-
-#include <QtEndian>
+#include <QPainter>
 
 #include <algorithm>
+#include <vector>
 
 namespace korvane::test {
 namespace {
@@ -18,90 +16,70 @@ struct Case {
     int tolerance = 3;
 };
 
-// With alpha, as a PNG shows them.
-constexpr Quarters transparent = {0xffff0000, 0x0000ff00, 0x800000ff, 0xffffffff};
+// Of pictures that are usual in all but their format and position.
+const char *const usualFiles[] = {"orientation-1.jpg", "orientation-2.jpg", "orientation-3.jpg", "orientation-4.jpg",
+                                  "orientation-5.jpg", "orientation-6.jpg", "orientation-7.jpg", "orientation-8.jpg",
+                                  "orientation-6.jxl", "rotated.png",       "rotated.tif",       "rotated.webp",
+                                  "rotated.avif",      "quarters.png",      "quarters.tif",      "quarters.webp",
+                                  "quarters.heic",     "quarters.avif",     "quarters.jxl",      "animated.gif"};
+
+constexpr Quarters translucentOnWhite = {0xffff0000, 0xffffffff, 0xff7f7fff, 0xffffffff};
 constexpr Quarters greys = {0xff000000, 0xff505050, 0xffa0a0a0, 0xffffffff};
 constexpr Quarters darkerGreen = {0xffff0000, 0xff00c800, 0xff0000ff, 0xffffffff};
 
-const Case cases[] = {
-    {"orientation-1.jpg"},
-    {"orientation-2.jpg"},
-    {"orientation-3.jpg"},
-    {"orientation-4.jpg"},
-    {"orientation-5.jpg"},
-    {"orientation-6.jpg"},
-    {"orientation-7.jpg"},
-    {"orientation-8.jpg"},
-    {"orientation-6.jxl"},
-    {"rotated.png"},
-    {"rotated.tif"},
-    {"rotated.webp"},
-    {"rotated.avif"},
-    {"quarters.png"},
-    {"quarters.tif"},
-    {"quarters.webp"},
-    {"quarters.heic"},
-    {"quarters.avif"},
-    {"quarters.jxl"},
-    {"animated.gif"},
-    {"16bit.png", {0xffff8040, 0xff00ff00, 0xff0000ff, 0xffffffff}},
-    {"display-p3.jpg", darkerGreen, 8}, // unconverted, its red would be (234, 51, 35)
-    {"display-p3.png", darkerGreen},
-    {"display-p3.heic", darkerGreen, 8},
-    {"cmyk.jpg", {0xffe8141c, 0xff008c3c, 0xff1c1478, 0xffffffff}, 40}, // inks have no exact sRGB colour
-    {"grey.jpg", greys},
-    {"grey-with-rgb-profile.jpg", greys},
-    {"transparent.png", transparent},
-    {"16bit-alpha-p3.png", transparent},
-};
+std::vector<Case> allCases() {
+    std::vector<Case> cases{
+        {"16bit.png", {0xffff8040, 0xff00ff00, 0xff0000ff, 0xffffffff}},
+        {"display-p3.jpg", darkerGreen, 8}, // unconverted, its red would be (234, 51, 35)
+        {"display-p3.png", darkerGreen},
+        {"display-p3.heic", darkerGreen, 8},
+        {"cmyk.jpg", {0xffe8141c, 0xff008c3c, 0xff1c1478, 0xffffffff}, 40}, // inks have no exact sRGB colour
+        {"grey.jpg", greys},
+        {"grey-with-rgb-profile.jpg", greys},
+        {"transparent.png", translucentOnWhite},
+        {"16bit-alpha-p3.png", translucentOnWhite},
+    };
+    for (const char *file : usualFiles)
+        cases.push_back({file});
+    return cases;
+}
 
-// JPEG has no alpha: what shines through is white.
-Quarters onWhite(const Quarters &quarters) {
-    Quarters result;
-    std::transform(quarters.begin(), quarters.end(), result.begin(), [](QRgb colour) {
-        const auto blend = [&](int channel) { return (channel * qAlpha(colour) + 255 * (255 - qAlpha(colour))) / 255; };
-        return qRgb(blend(qRed(colour)), blend(qGreen(colour)), blend(qBlue(colour)));
-    });
+// JPEG has no alpha: what shines through is white. A PNG is looked at in the same way.
+QImage onWhite(const QByteArray &bytes) {
+    const QImage picture = QImage::fromData(bytes);
+    QImage result(picture.size(), QImage::Format_RGB32);
+    result.fill(Qt::white);
+    QPainter(&result).drawImage(0, 0, picture);
     return result;
 }
 
-// A fully transparent place has no colour of its own.
-QString differenceWithAlpha(const QImage &picture, Quarters quarters, int tolerance) {
-    if (qAlpha(quarters[1]) == 0) {
-        const QRgb seen = picture.pixel(picture.width() * 3 / 4, picture.height() / 4);
-        quarters[1] = seen & 0x00ffffff;
-    }
-    return differenceOf(picture, quarters, tolerance);
-}
-
 TEST(Picture, IsConvertedUprightInSRGBWhateverItsFormat) {
-    for (const Case &picture : cases) {
+    for (const Case &picture : allCases()) {
         SCOPED_TRACE(picture.file);
-        const QByteArray path = dataPath(QString::fromLatin1(picture.file));
-        const PictureRun png = runPicture({"convert", "--to", "png"}, path);
-        const PictureRun jpeg = runPicture({"convert", "--to", "jpeg", "--quality", "100"}, path);
-        ASSERT_EQ(png.status, 0) << png.errors.constData();
-        ASSERT_EQ(jpeg.status, 0) << jpeg.errors.constData();
-        const QImage fromPNG = QImage::fromData(png.output, "PNG");
-        const QImage fromJPEG = QImage::fromData(jpeg.output, "JPEG");
-        EXPECT_EQ(fromPNG.size(), QSize(64, 48));
-        EXPECT_EQ(fromJPEG.size(), QSize(64, 48));
-        EXPECT_EQ(differenceWithAlpha(fromPNG, picture.quarters, picture.tolerance), QString());
-        EXPECT_EQ(differenceOf(fromJPEG, onWhite(picture.quarters), picture.tolerance), QString());
+        const QByteArray path = dataPath(picture.file);
+        EXPECT_EQ(runPicture({"check"}, path).status, 0);
+        for (const char *format : {"png", "jpeg"}) {
+            const PictureRun run = runPicture({"convert", "--quality", "100", "--to", format}, path);
+            ASSERT_EQ(run.status, 0) << run.errors.constData();
+            EXPECT_EQ(QImage::fromData(run.output).hasAlphaChannel(),
+                      *format == 'p' && picture.quarters == translucentOnWhite);
+            EXPECT_EQ(onWhite(run.output).size(), QSize(64, 48));
+            EXPECT_EQ(differenceOf(onWhite(run.output), picture.quarters, picture.tolerance), QString());
+        }
     }
 }
 
 TEST(Picture, IsShrunkToALimitWithTheSamePositionAndColours) {
-    for (const Case &picture : cases) {
+    for (const Case &picture : allCases()) {
         SCOPED_TRACE(picture.file);
-        const QByteArray path = dataPath(QString::fromLatin1(picture.file));
+        const QByteArray path = dataPath(picture.file);
         for (const QByteArrayList &arguments : {QByteArrayList{"convert", "--to", "png", "--max-pixels", "32"},
                                                 QByteArrayList{"thumbnail", "--to", "png", "--size", "32"}}) {
             const PictureRun run = runPicture(arguments, path);
             ASSERT_EQ(run.status, 0) << run.errors.constData();
-            const QImage shrunk = QImage::fromData(run.output, "PNG");
+            const QImage shrunk = onWhite(run.output);
             EXPECT_EQ(shrunk.size(), QSize(32, 24));
-            EXPECT_EQ(differenceWithAlpha(shrunk, picture.quarters, std::max(picture.tolerance, 6)), QString());
+            EXPECT_EQ(differenceOf(shrunk, picture.quarters, std::max(picture.tolerance, 6)), QString());
         }
         const PictureRun kept = runPicture({"thumbnail", "--to", "png", "--size", "640"}, path);
         EXPECT_EQ(QImage::fromData(kept.output, "PNG").size(), QSize(64, 48)) << "enlarged";
@@ -109,18 +87,18 @@ TEST(Picture, IsShrunkToALimitWithTheSamePositionAndColours) {
 }
 
 TEST(Picture, LosesPlaceAndCameraData) {
-    const QByteArray original = dataBytes(QStringLiteral("orientation-6.jpg"));
+    const QByteArray original = dataBytes("orientation-6.jpg");
     const QByteArrayList traces = {"Exif", "Fixture", "secret title", "secretcity", "http://ns.adobe.com", "Photoshop"};
     for (const QByteArray &trace : traces)
         ASSERT_TRUE(original.contains(trace)) << trace.constData();
     for (const char *format : {"jpeg", "png"}) {
-        const PictureRun run = runPicture({"convert", "--to", format}, dataPath(QStringLiteral("orientation-6.jpg")));
+        const PictureRun run = runPicture({"convert", "--to", format}, dataPath("orientation-6.jpg"));
         ASSERT_EQ(run.status, 0);
         for (const QByteArray &trace : traces)
             EXPECT_FALSE(run.output.contains(trace)) << trace.constData() << " in " << format;
         EXPECT_FALSE(run.output.contains("eXIf"));
     }
-    const PictureRun wide = runPicture({"convert", "--to", "jpeg"}, dataPath(QStringLiteral("display-p3.jpg")));
+    const PictureRun wide = runPicture({"convert", "--to", "jpeg"}, dataPath("display-p3.jpg"));
     EXPECT_FALSE(wide.output.contains("Display P3")) << "the profile no longer holds";
 }
 
@@ -131,20 +109,18 @@ TEST(Picture, KeepsFineColoursAtFullQuality) {
         for (int x = 0; x < 64; ++x)
             board.setPixel(x, y, (x + y) % 2 == 0 ? 0xffff0000 : 0xff0000ff);
     const TemporaryHome home;
-    const QString path = home.path(QStringLiteral("board.png"));
+    const QString path = home.path("board.png");
     ASSERT_TRUE(board.save(path));
     const PictureRun run = runPicture({"convert", "--to", "jpeg", "--quality", "100"}, path.toLocal8Bit());
     const QImage seen = QImage::fromData(run.output, "JPEG");
     EXPECT_NEAR(qRed(seen.pixel(20, 20)), 255, 12);
     EXPECT_NEAR(qRed(seen.pixel(21, 20)), 0, 12);
     EXPECT_NEAR(qBlue(seen.pixel(21, 20)), 255, 12);
-    const PictureRun small = runPicture({"convert", "--to", "jpeg", "--quality", "10"}, path.toLocal8Bit());
-    EXPECT_LT(small.output.size(), run.output.size() / 2);
 }
 
 TEST(Picture, IsShrunkWhereJPEGCannotBeAsLong) {
     const TemporaryHome home;
-    const QString path = home.path(QStringLiteral("long.png"));
+    const QString path = home.path("long.png");
     QImage strip(70000, 70, QImage::Format_RGB32);
     strip.fill(0xff336699);
     ASSERT_TRUE(strip.save(path));
@@ -155,41 +131,14 @@ TEST(Picture, IsShrunkWhereJPEGCannotBeAsLong) {
     EXPECT_NEAR(seen.height(), 65, 1);
 }
 
-// The CRC of PNG chunks (ISO 3309).
-quint32 crc(const QByteArray &bytes) {
-    quint32 value = ~0U;
-    for (const char byte : bytes) {
-        value ^= quint8(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            value = (value >> 1) ^ (value & 1 ? 0xedb88320U : 0U);
-    }
-    return ~value;
-}
-
-void appendChunk(QByteArray &png, const QByteArray &type, const QByteArray &data) {
-    const auto number = [](quint32 value) {
-        const quint32 big = qToBigEndian(value);
-        return QByteArray(reinterpret_cast<const char *>(&big), sizeof big);
-    };
-    const QByteArray body = type + data;
-    png += number(quint32(data.size())) + body + number(crc(body));
-}
-
-// A well-formed header for more pixels than there are bytes for.
-QByteArray hugePNG() {
-    QByteArray png = QByteArray::fromHex("89504e470d0a1a0a");
-    appendChunk(png, "IHDR", QByteArray::fromHex("0000ea600000ea600802000000")); // 60000 x 60000
-    appendChunk(png, "IDAT", qCompress(QByteArray(1000, '\0')).mid(4));
-    appendChunk(png, "IEND", {});
-    return png;
-}
-
 TEST(Picture, IsRefusedWithOneLineThatSaysWhy) {
     const TemporaryHome home;
     const auto cut = [](const char *name) {
-        const QByteArray bytes = dataBytes(QString::fromLatin1(name));
+        const QByteArray bytes = dataBytes(name);
         return bytes.left(bytes.size() * 4 / 5);
     };
+    QByteArray huge = dataBytes("orientation-1.jpg");
+    huge.replace(huge.indexOf(QByteArray::fromHex("ffc0001108")) + 5, 4, QByteArray::fromHex("ea60ea60")); // its size
     const struct {
         const char *what;
         QByteArray bytes;
@@ -200,10 +149,10 @@ TEST(Picture, IsRefusedWithOneLineThatSaysWhy) {
         {"JPEG header alone", QByteArray::fromHex("ffd8ff"), "damaged"},
         {"JPEG header and noise", jpegOfSize(20'000), "damaged"},
         {"SVG", "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"><rect/></svg>", "not a picture"},
-        {"huge PNG", hugePNG(), "too large: 60000 x 60000"},
+        {"huge", huge, "too large: 60000 x 60000"},
         {"cut JPEG", cut("orientation-1.jpg"), "damaged"},
         {"cut PNG", cut("quarters.png"), "damaged"},
-        {"cut GIF", cut("animated.gif").left(250), "damaged"},
+        {"cut GIF", dataBytes("animated.gif").left(250), "damaged"},
         {"cut TIFF", cut("quarters.tif"), "picture"},
         {"cut WebP", cut("quarters.webp"), "damaged"},
         {"cut HEIC", cut("quarters.heic"), "damaged"},
@@ -212,54 +161,28 @@ TEST(Picture, IsRefusedWithOneLineThatSaysWhy) {
     };
     for (const auto &one : refused) {
         SCOPED_TRACE(one.what);
-        const QByteArray path = home.file(QStringLiteral("refused"), one.bytes);
+        const QByteArray path = home.file("refused", one.bytes);
         for (const QByteArrayList &arguments : {QByteArrayList{"check"}, QByteArrayList{"convert", "--to", "jpeg"}}) {
             const PictureRun run = runPicture(arguments, path);
             EXPECT_EQ(run.status, 1) << arguments.first().constData();
-            EXPECT_TRUE(run.errors.contains(one.reason)) << run.errors.constData();
+            EXPECT_TRUE(says(run.errors, one.reason));
             EXPECT_EQ(run.errors.count('\n'), 1) << run.errors.constData();
         }
     }
 }
 
-TEST(Picture, IsFoundUsableByTheCheckWhateverItsFormat) {
-    for (const Case &picture : cases) {
-        const PictureRun run = runPicture({"check"}, dataPath(QString::fromLatin1(picture.file)));
-        EXPECT_EQ(run.status, 0) << picture.file << run.errors.constData();
-        EXPECT_TRUE(run.output.isEmpty() && run.errors.isEmpty()) << picture.file;
-    }
-}
-
 TEST(Picture, TellsBadUsageAndAFailedOutputApart) {
-    const QByteArray path = dataPath(QStringLiteral("quarters.png"));
-    const QByteArrayList wrong[] = {
-        {},
-        {"convert"},
-        {"frame", "--to", "png"},
-        {"convert", "--to", "bmp"},
-        {"convert", "--to", "jpeg", "--quality", "0"},
-        {"convert", "--to", "jpeg", "--quality", "101"},
-        {"convert", "--to", "jpeg", "--quality", "9x"},
-        {"convert", "--to", "jpeg", "--max-pixels", "-3"},
-        {"convert", "--to", "jpeg", "--size", "3"},
-        {"convert", "--to", "jpeg", "extra"},
-        {"convert", "--to"},
-        {"thumbnail", "--to", "png"},
-        {"check", "--size", "3"},
-        {"check", "--nonsense"},
-    };
-    for (const QByteArrayList &arguments : wrong) {
-        const PictureRun run = runPicture(arguments, path);
-        EXPECT_EQ(run.status, 2) << arguments.join(' ').constData();
-        EXPECT_EQ(run.errors.count('\n'), 1) << run.errors.constData();
-    }
+    const QByteArray path = dataPath("quarters.png");
+    for (const char *wrong : {"convert", "frame --to png", "convert --to bmp", "convert --to jpeg --quality 101",
+                              "convert --to jpeg --max-pixels -3", "convert --to jpeg extra", "thumbnail --to png"})
+        EXPECT_EQ(runPicture(QByteArray(wrong).split(' '), path).status, 2) << wrong;
     EXPECT_EQ(runPicture({"check"}, "/dev/zero").status, 2) << "not a regular file";
     EXPECT_EQ(runPicture({"--help"}, path).status, 0);
 
     const FileDescriptor device(::open("/dev/full", O_WRONLY | O_CLOEXEC));
     const PictureRun failed = runPicture({"convert", "--to", "jpeg"}, path, device.get());
     EXPECT_EQ(failed.status, 3);
-    EXPECT_TRUE(failed.errors.contains("No space left")) << failed.errors.constData();
+    EXPECT_TRUE(says(failed.errors, "No space left"));
 }
 
 } // namespace

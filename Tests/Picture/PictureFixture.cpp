@@ -1,24 +1,14 @@
-// Picture files made by other programs, and what is expected to be seen in them.
+// Runs of korvane-picture, and what is expected to be seen in pictures.
 #include "Tests/Picture/PictureFixture.h"
 
 #include "Platform/Foundation/ChildProcess.h"
 #include "Platform/Foundation/FileDescriptor.h"
 
-#include <QFile>
 #include <QTemporaryFile>
 
 #include <cstdlib>
 
 namespace korvane::test {
-
-QByteArray dataPath(const QString &name) {
-    return QFile::encodeName(QStringLiteral(KORVANE_TEST_DATA "/") + name);
-}
-
-QByteArray dataBytes(const QString &name) {
-    QFile file(QFile::decodeName(dataPath(name)));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 PictureRun runPicture(const QByteArrayList &arguments, const QByteArray &inputPath, int outputDescriptor) {
     const FileDescriptor input(::open(inputPath.constData(), O_RDONLY | O_CLOEXEC));

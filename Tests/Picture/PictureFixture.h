@@ -1,17 +1,14 @@
-// Picture files made by other programs, and what is expected to be seen in them.
+// Runs of korvane-picture, and what is expected to be seen in pictures.
 #pragma once
 
-#include <QByteArray>
+#include "Tests/Support/Testing.h"
+
 #include <QByteArrayList>
 #include <QImage>
-#include <QString>
 
 #include <array>
 
 namespace korvane::test {
-
-QByteArray dataPath(const QString &name);
-QByteArray dataBytes(const QString &name);
 
 // What korvane-picture answered.
 struct PictureRun {

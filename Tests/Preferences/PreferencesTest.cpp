@@ -128,14 +128,6 @@ TEST_F(Preferences, RefusesWhatCannotBeStoredAndKeepsWhatCouldNotBeSaved) {
     EXPECT_TRUE(says(home.contents(fileOf(domain)), "\"key\": 1"));
 }
 
-TEST_F(Preferences, KeepsDomainsInTheirFolder) {
-    const QString outside = QStringLiteral("../../outside");
-    CFPreferencesSetAppValue(QStringLiteral("a"), 1, outside);
-    ASSERT_TRUE(CFPreferencesAppSynchronize(outside));
-    EXPECT_EQ(CFPreferencesCopyAppValue(QStringLiteral("a"), outside), QVariant(1));
-    EXPECT_TRUE(QDir(home.path("config")).entryList({QStringLiteral("outside*")}).isEmpty());
-}
-
 TEST_F(Preferences, UserDefaultsLookInTheProgramsDomainThenInGlobalAndSeeChangesAtOnce) {
     const QString own = QStringLiteral("some-program"), global = QStringLiteral("global");
     const QString flag = QStringLiteral("flag"), number = QStringLiteral("number");

@@ -2,7 +2,6 @@
 #include "Korvane/FlickrPost.h"
 #include "Korvane/FlickrResponse.h"
 #include "Service/FailureClassifier.h"
-#include "Service/RetryPolicy.h"
 #include "Tests/Support/Testing.h"
 
 using namespace korvane;
@@ -75,14 +74,4 @@ TEST(FailureClassifier, AsksAgainForAnAlbumThatWasNotReached) {
     EXPECT_EQ(FailureClassifier::verdictOnFlickrRun(outcome, false).state, UploadState::Done);
     outcome.lastRequest.transportError = NSError(NSURLErrorDomain, NSURLErrorTimedOut);
     EXPECT_EQ(FailureClassifier::verdictOnFlickrRun(outcome, true).waitReason, WaitReason::Network);
-}
-
-TEST(RetryPolicy, GrowsItsDelaysAndKeepsTheLast) {
-    const RetryPolicy policy;
-    qint64 before = 0;
-    for (qint64 failures = 1; failures <= qint64(policy.delays.size()); ++failures) {
-        EXPECT_GT(policy.delayAfter(failures), before);
-        before = policy.delayAfter(failures);
-    }
-    EXPECT_EQ(policy.delayAfter(1000), before);
 }

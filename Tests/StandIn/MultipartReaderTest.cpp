@@ -61,17 +61,12 @@ TEST(MultipartReader, RefusesEveryDeviation) {
     const QByteArray disposition("a part's Content-Disposition is malformed");
     const std::pair<QByteArray, QByteArray> cases[] = {
         {"", endless},
-        {Part, endless},
         {Part + "x\r\n--B\r\n", endless},
-        {Part + "x\r\n--B-", endless},
         {Part + "x\n--B--\n", endless},
         {Part + "x\r\n--B--\r", endless},
         {Part + end + "more", "bytes follow the final boundary"},
-        {Part + "x\r\n--B--more", "bytes follow the final boundary"},
         {Part + "x\r\n--B more\r\n", "a boundary is not followed by CRLF"},
-        {QByteArray(Part).replace("\r\n", "\n") + end, "a boundary is not followed by CRLF"},
         {"preamble\r\n" + Part + end, "the body does not begin with the boundary"},
-        {"\r\n" + Part + end, "the body does not begin with the boundary"},
         {withHeader("Content-Disposition: form-data; name=\"a\"\nX: y"),
          "a part's header has a line that does not end with CRLF"},
         {"--B\r\n\r\n" + end, "a part has no header"},
@@ -80,9 +75,7 @@ TEST(MultipartReader, RefusesEveryDeviation) {
         {withHeader("Content-Disposition form-data"), "a part's header has a malformed line"},
         {withHeader("Content-Disposition: form-data; name=\"a\"\r\n folded: 1"),
          "a part's header has a malformed line"},
-        {withHeader("Content-Disposition: form-data"), disposition},
         {withHeader("Content-Disposition: form-data; name=a"), disposition},
-        {withHeader("Content-Disposition: form-data; name=\"\""), disposition},
         {withHeader("Content-Disposition: form-data; name=\"a"), disposition},
         {withHeader("Content-Disposition: attachment; name=\"a\""), disposition},
         {withHeader("Content-Disposition: form-data; name=\"a\"\r\nContent-Disposition: form-data; name=\"b\""),
@@ -92,15 +85,6 @@ TEST(MultipartReader, RefusesEveryDeviation) {
         EXPECT_EQ(readIn(1, body).second, problem) << body.left(80).toStdString();
         EXPECT_EQ(readIn(65'536, body).second, problem) << body.left(80).toStdString();
     }
-}
-
-TEST(MultipartReader, TakesOnlyLegalBoundaries) {
-    EXPECT_EQ(MultipartReader::boundaryOf("multipart/form-data; boundary=a=b"), "a=b");
-    EXPECT_EQ(MultipartReader::boundaryOf("Multipart/Form-Data;charset=utf-8; Boundary=\"x y\""), "x y");
-    for (const QByteArray &wrong : {QByteArray("multipart/form-data"), QByteArray("multipart/form-data; boundary="),
-                                    QByteArray("multipart/mixed; boundary=a"), QByteArray("image/jpeg"),
-                                    "multipart/form-data; boundary=" + QByteArray(71, 'b')})
-        EXPECT_EQ(MultipartReader::boundaryOf(wrong), std::nullopt) << wrong.toStdString();
 }
 
 } // namespace standin

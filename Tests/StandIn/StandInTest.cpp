@@ -1,54 +1,152 @@
-// The stand-in as a program: planned faults, and its state over restarts and crashes.
-#include "Tests/StandIn/Client.h"
+// The stand-in as a web service: what it refuses and shows, planned faults, and its state over restarts.
+#include "StandIn/StandIn.h"
+#include "Platform/Accounts/ACAccountCredential.h"
+#include "Platform/Social/OAuthSigner.h"
+#include "Tests/Support/Testing.h"
 
+#include <QDateTime>
 #include <QDir>
-#include <QFile>
 
-#include <gtest/gtest.h>
+#include <httplib.h>
 
-namespace standin::test {
+using namespace korvane;
+using namespace korvane::test;
+using standin::StandIn;
 
-TEST(StandIn, TakesPlansOfFaultsOverHttp) {
-    StandIn server;
-    ASSERT_TRUE(server.start());
-    Client client(server);
+namespace {
+
+struct Reply {
+    int status = 0; // 0: the connection ended without a whole answer
+    QByteArray body;
+};
+
+class Client : public httplib::Client {
+public:
+    explicit Client(const StandIn &server) : httplib::Client(server.url().toStdString()), _url(server.url()) {}
+
+    // Of the test user, with a fresh nonce each time.
+    httplib::Headers authorization(const char *path, const OAuthParameters &parameters) const {
+        const auto text = [](const QByteArray &bytes) { return QString::fromUtf8(bytes); };
+        const standin::Credential user = StandIn::flickrCredential();
+        static int nonce = 0;
+        const QByteArray header = OAuthSigner::authorizationHeader(
+            "POST", *NSURL::URLWithString(_url + QLatin1String(path)), parameters,
+            {text(user.consumerKey), text(user.consumerSecret), text(user.token), text(user.tokenSecret)},
+            QDateTime::currentSecsSinceEpoch(), QString::number(++nonce));
+        return {{"Authorization", header.toStdString()}};
+    }
+    Reply upload(const httplib::Headers &headers, const httplib::MultipartFormDataItems &parts) {
+        return _reply(Post("/services/upload/", headers, parts));
+    }
+    Reply upload(const QByteArray &photo, const char *title = "t") {
+        return upload(authorization("/services/upload/", {{QStringLiteral("title"), QString::fromUtf8(title)}}),
+                      {{"title", title, "", ""}, {"photo", photo.toStdString(), "a.jpg", "image/jpeg"}});
+    }
+    Reply addPhoto(const char *album, const QByteArray &photo) {
+        const httplib::Params body{
+            {"method", "flickr.photosets.addPhoto"}, {"photoset_id", album}, {"photo_id", photo.toStdString()}};
+        OAuthParameters parameters;
+        for (const auto &[name, value] : body)
+            parameters.append({QString::fromStdString(name), QString::fromStdString(value)});
+        return _reply(Post("/services/rest/", authorization("/services/rest/", parameters), body));
+    }
+    QByteArray get(const QByteArray &path) { return _reply(Get(path.toStdString())).body; }
+
+private:
+    static Reply _reply(const httplib::Result &result) {
+        return result ? Reply{result->status, QByteArray::fromStdString(result->body)} : Reply();
+    }
+    const QString _url;
+};
+
+QByteArray photoIdIn(const Reply &reply) {
+    const qsizetype begin = reply.body.indexOf("<photoid>") + 9;
+    return reply.body.mid(begin, reply.body.indexOf("</photoid>") - begin);
+}
+
+class StandInService : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(server.start());
+        client.emplace(server);
+    }
+
+    StandIn server{standin::StandInOptions{.photoLimit = 300'000}};
+    std::optional<Client> client;
+};
+
+} // namespace
+
+TEST_F(StandInService, AnswersWithFlickrsErrors) {
+    const char *const album = "72157600000000001";
+    EXPECT_TRUE(says(client->upload(client->authorization("/services/upload/", {}), {}).body, "err code=\"2\""));
+    EXPECT_TRUE(says(client->upload("").body, "err code=\"4\""));
+    EXPECT_TRUE(says(client->upload("a text, not a picture").body, "err code=\"5\""));
+    EXPECT_TRUE(says(client->upload(jpegOfSize(300'001)).body, "err code=\"8\""));
+    EXPECT_TRUE(server.photos().empty());
+    const QByteArray photo = photoIdIn(client->upload(jpegOfSize(300'000)));
+    EXPECT_TRUE(says(client->addPhoto("4711", photo).body, "err code=\"1\""));
+    EXPECT_TRUE(says(client->addPhoto(album, "4711").body, "err code=\"2\""));
+    EXPECT_TRUE(says(client->addPhoto(album, photo).body, "stat=\"ok\""));
+    EXPECT_TRUE(says(client->addPhoto(album, photo).body, "err code=\"3\""));
+    EXPECT_EQ(server.albums().at(0).photos, QList<qint64>{photo.toLongLong()});
+}
+
+TEST_F(StandInService, RefusesRequestsThatAreNotSignedOrNotWellFormed) {
+    const httplib::MultipartFormDataItems parts{{"title", "t", "", ""}, {"photo", "GIF89a", "a.gif", "image/gif"}};
+    const auto authorization =
+        client->authorization("/services/upload/", {{QStringLiteral("title"), QStringLiteral("t")}});
+    EXPECT_EQ(client->upload(authorization, parts).status, 200);
+    const Reply replay = client->upload(authorization, parts);
+    EXPECT_EQ(replay.status, 401);
+    EXPECT_EQ(replay.body, "oauth_problem=nonce_used");
+    const auto forOther = client->authorization("/services/upload/", {{QStringLiteral("title"), QStringLiteral("u")}});
+    EXPECT_TRUE(client->upload(forOther, parts).body.startsWith("oauth_problem=signature_invalid&debug_sbs=POST%26"));
+    EXPECT_TRUE(client->upload({}, parts).body.startsWith("oauth_problem=parameter_absent"));
+    EXPECT_EQ(client->upload({}, {parts[1], parts[1]}).body, "Bad request: there are two photos.\n");
+    EXPECT_EQ(client->Post("/services/upload/", "bytes", "image/jpeg")->status, 400);
+    EXPECT_EQ(server.photos().size(), 1u);
+}
+
+TEST_F(StandInService, EscapesEverythingOnThePage) {
+    EXPECT_TRUE(says(client->get("/"), "korvane share flickr"));
+    client->upload("GIF89a", "\"><script>alert('x')</script>&amp;");
+    EXPECT_FALSE(says(client->get("/"), "<script>alert"));
+    EXPECT_TRUE(says(client->get("/"), "&quot;&gt;&lt;script&gt;alert('x')&lt;/script&gt;&amp;amp;"));
+    EXPECT_TRUE(client->Get("/")->get_header_value("Content-Security-Policy").starts_with("default-src 'none'"));
+}
+
+TEST_F(StandInService, TakesPlansOfFaultsOverHttp) {
     const auto plan = [&](const char *json, const httplib::Headers &headers = {}) {
-        return client.post("/control/faults", headers, json, "application/json").status;
+        return client->Post("/control/faults", headers, json, "application/json")->status;
     };
     ASSERT_EQ(plan(R"([{"on":"upload","fail":503,"count":2},{"on":"upload","ok":true},
                        {"on":"upload","dropAfterBytes":50},{"on":"upload","dropBeforeAnswer":true},
                        {"on":"upload","truncate":true},
-                       {"on":"login","answer":{"status":429,"type":"text/plain","body":"slow down"}}])"),
+                       {"on":"upload","answer":{"status":429,"type":"text/plain","body":"slow down"}}])"),
               200);
-    QList<int> statuses;
-    for (quint32 i = 0; i < 7; ++i)
-        statuses.append(client.upload({}, jpeg(1000, i)).status);
-    EXPECT_EQ(statuses, (QList<int>{503, 503, 200, 0, 0, 0, 200}));
+    for (const int status : {503, 503, 200, 0, 0, 0, 429, 200})
+        EXPECT_EQ(client->upload(jpegOfSize(1000)).status, status);
     EXPECT_EQ(server.photos().size(), 4u) << "two are stored without a word";
-    EXPECT_EQ(server.requests()[0].photoSha256.size(), 64) << "photos that were not stored are known, too";
-    EXPECT_EQ(client.call("flickr.test.login").body, "slow down");
+    EXPECT_EQ(server.requests()[0].photoSha256, sha256Of(jpegOfSize(1000))) << "also if it was not stored";
 
     for (const char *wrong :
          {"", "no JSON", "[1]", "{}", R"({"on":"upload"})", R"({"fail":503})", R"({"on":"upload","fail":5})",
           R"({"on":"upload","fail":503,"count":0})", R"([{"on":"upload","fail":503},{"on":"upload","fial":503}])"})
         EXPECT_EQ(plan(wrong), 400) << wrong;
     EXPECT_EQ(plan(R"({"on":"upload","fail":503})", {{"Origin", "http://evil.example"}}), 403);
-    EXPECT_EQ(client.upload({}, jpeg(1000)).status, 200) << "a refused plan leaves nothing behind";
-    EXPECT_EQ(plan(R"({"on":"upload","fail":503,"count":5})"), 200);
-    EXPECT_EQ(plan(R"({"clear":true})"), 200);
-    EXPECT_EQ(client.upload({}, jpeg(1000)).status, 200);
+    EXPECT_EQ(client->upload("GIF89a").status, 200) << "a refused plan leaves nothing behind";
 }
 
-TEST(StandIn, KeepsItsStateOverRestartsAndCrashes) {
+TEST(StandInState, OutlivesRestartsAndCrashes) {
     const QTemporaryDir folder;
-    const StandInOptions kept{.stateFolder = folder.path()};
+    const standin::StandInOptions kept{.stateFolder = folder.path()};
     QByteArray first;
     {
         StandIn server(kept);
         ASSERT_TRUE(server.start());
-        Client client(server);
-        first = photoIdIn(client.upload({{"title", "日本 \xff"}, {"tags", "a b"}}, jpeg(1000)));
-        client.call("flickr.photosets.addPhoto", {{"photoset_id", "72157600000002019"}, {"photo_id", first}});
+        first = photoIdIn(Client(server).upload(jpegOfSize(1000), "日本"));
+        Client(server).addPhoto("72157600000002019", first);
     }
     // What a crash in the middle of two uploads leaves behind.
     for (const auto &[name, bytes] : {std::pair("journal.jsonl", "{\"photo\":\"53000000009\",\"para"),
@@ -58,36 +156,18 @@ TEST(StandIn, KeepsItsStateOverRestartsAndCrashes) {
         ASSERT_TRUE(file.open(QIODevice::Append));
         file.write(bytes);
     }
-    for (int restarts = 0; restarts < 2; ++restarts) {
+    for (size_t restarts = 0; restarts < 2; ++restarts) {
         StandIn server(kept);
         ASSERT_TRUE(server.start());
         const auto photos = server.photos();
-        ASSERT_EQ(photos.size(), size_t(1 + restarts));
+        ASSERT_EQ(photos.size(), 1 + restarts);
         EXPECT_EQ(photos[0].id, first.toLongLong());
-        EXPECT_EQ(photos[0].parameters, (Parameters{{"title", "日本 \xef\xbf\xbd"}, {"tags", "a b"}}));
+        EXPECT_EQ(photos[0].parameters, (standin::Parameters{{"title", "日本"}}));
         EXPECT_EQ(photos[0].albums, QList<qint64>{72157600000002019});
-        EXPECT_TRUE(Client(server).get("/photos/" + first).body == jpeg(1000));
+        EXPECT_EQ(Client(server).get("/photos/" + first), jpegOfSize(1000));
+        EXPECT_TRUE(says(Client(server).get("/api/state"), sha256Of(jpegOfSize(1000))));
         EXPECT_TRUE(QDir(folder.filePath(QStringLiteral("incoming"))).isEmpty());
-        EXPECT_EQ(QDir(folder.filePath(QStringLiteral("photos"))).entryList(QDir::Files).size(), 1 + restarts);
-        EXPECT_GT(photoIdIn(Client(server).upload({}, jpeg(20))).toLongLong(), photos.back().id);
+        EXPECT_EQ(QDir(folder.filePath(QStringLiteral("photos"))).count(), 3 + restarts); // with "." and ".."
+        EXPECT_GT(photoIdIn(Client(server).upload("GIF89a")).toLongLong(), photos.back().id);
     }
 }
-
-TEST(StandIn, ExplainsWhyItCannotStart) {
-    const QTemporaryDir folder;
-    StandIn first({.stateFolder = folder.path()});
-    ASSERT_TRUE(first.start());
-    const QString port = first.url().section(QLatin1Char(':'), -1);
-    const std::pair<StandInOptions, QString> cases[] = {
-        {{.stateFolder = folder.path()}, QStringLiteral("in use by another stand-in")},
-        {{.port = port.toInt()}, port},
-        {{.stateFolder = QStringLiteral("/dev/null/state")}, QStringLiteral("/dev/null/state")},
-    };
-    for (const auto &[options, said] : cases) {
-        QString error;
-        EXPECT_FALSE(StandIn(options).start(&error));
-        EXPECT_TRUE(error.contains(said)) << error.toStdString();
-    }
-}
-
-} // namespace standin::test

@@ -6,29 +6,29 @@
 
 namespace korvane::test {
 
+bool ScriptedConnection::_receive() {
+    char buffer[65536];
+    const ssize_t count = ::recv(_socket.get(), buffer, sizeof buffer, 0);
+    if (count > 0) _pending.append(buffer, count);
+    return count > 0;
+}
+
+QByteArray ScriptedConnection::_take(qsizetype length) {
+    const QByteArray taken = _pending.left(length);
+    _pending.remove(0, taken.size());
+    return taken;
+}
+
 QByteArray ScriptedConnection::readHead() {
-    while (!_pending.contains("\r\n\r\n")) {
-        char buffer[4096];
-        const ssize_t count = ::recv(_socket.get(), buffer, sizeof buffer, 0);
-        if (count <= 0) return std::exchange(_pending, {});
-        _pending.append(buffer, count);
-    }
-    const qsizetype end = _pending.indexOf("\r\n\r\n") + 4;
-    const QByteArray head = _pending.left(end);
-    _pending.remove(0, end);
-    return head;
+    while (!_pending.contains("\r\n\r\n"))
+        if (!_receive()) return _take(_pending.size());
+    return _take(_pending.indexOf("\r\n\r\n") + 4);
 }
 
 QByteArray ScriptedConnection::readBody(qint64 length) {
-    while (_pending.size() < length) {
-        char buffer[65536];
-        const ssize_t count = ::recv(_socket.get(), buffer, sizeof buffer, 0);
-        if (count <= 0) break;
-        _pending.append(buffer, count);
-    }
-    const QByteArray body = _pending.left(length);
-    _pending.remove(0, body.size());
-    return body;
+    while (_pending.size() < length && _receive())
+        continue;
+    return _take(length);
 }
 
 QByteArray ScriptedConnection::readBodyOf(const QByteArray &head) {
@@ -47,9 +47,8 @@ void ScriptedConnection::reset() {
 }
 
 void ScriptedConnection::waitForEnd() {
-    char byte;
-    while (::recv(_socket.get(), &byte, 1, 0) > 0) {
-    }
+    while (_receive())
+        _pending.clear();
 }
 
 ScriptedServer::ScriptedServer(Script script) : _listener(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {

@@ -30,6 +30,9 @@ public:
     int descriptor() const { return _socket.get(); }
 
 private:
+    bool _receive();
+    QByteArray _take(qsizetype length);
+
     FileDescriptor _socket;
     QByteArray _pending;
 };
