@@ -37,6 +37,18 @@ NSError damaged(const QString &name) {
                                                    .arg(name));
 }
 
+NSError notUnderstood(const QString &name) {
+    return errorWith(
+        AVErrorExportFailed,
+        QStringLiteral("What ffmpeg says of “%1” is not understood. Check the package “ffmpeg”.").arg(name));
+}
+
+// Whether a program that failed to copy did not blame the source.
+bool isRefusal(const ChildProcess::Result &result) {
+    return !result.succeeded() && !result.standardError.contains("corrupt") &&
+           !result.standardError.contains("partial file");
+}
+
 // Notices when a program has not got on for a while. Moving the index to the front of a large file takes minutes
 // without a word, but the file's time changes.
 class StallWatch {
@@ -148,14 +160,15 @@ std::optional<NSError> AVAssetExportSession::_claimOutput() {
 // What cannot be copied after all (timestamps that MP4 cannot hold, say) is encoded.
 std::optional<NSError> AVAssetExportSession::_write(const MediaInfo &info) {
     const ExportPlan plan(info, _presetName);
-    bool mayEncodeInstead = plan.copiesVideo() || plan.copiesSound();
-    const auto error = _encode(info, plan, mayEncodeInstead);
-    if (!error || !mayEncodeInstead) return error;
-    return _encode(info, ExportPlan(info, _presetName, false), mayEncodeInstead);
+    std::optional<ChildProcess::Result> result;
+    const auto error = _encode(info, plan, result);
+    const bool copies = plan.copiesVideo() || plan.copiesSound();
+    if (!error || !copies || error->code() != AVErrorFileFailedToParse || !isRefusal(*result)) return error;
+    return _encode(info, ExportPlan(info, _presetName, false), result);
 }
 
 std::optional<NSError> AVAssetExportSession::_encode(const MediaInfo &info, const ExportPlan &plan,
-                                                     bool &mayEncodeInstead) {
+                                                     std::optional<ChildProcess::Result> &result) {
     auto encoder =
         MediaProgram::make("ffmpeg", _asset,
                            QByteArrayList{"-nostdin", "-nostats", "-xerror", "-progress", "pipe:1", "-y"} +
@@ -171,17 +184,10 @@ std::optional<NSError> AVAssetExportSession::_encode(const MediaInfo &info, cons
                      [&] { return progress.isUnderstood() && stall.goesOn(progress.microseconds()); });
     encoder.setCancellation(_cancellation.get_token());
     std::optional<NSError> reason;
-    const auto result = encoder.run(&reason);
-    if (!progress.isUnderstood())
-        return errorWith(
-            AVErrorExportFailed,
-            QStringLiteral("What ffmpeg says of “%1” is not understood. Check the package “ffmpeg”.").arg(_asset.name));
-    const auto error = result && result->succeeded() ? _checkOutput(info, progress.microseconds())
-                                                     : MediaProgram::failure(_asset, result, reason);
-    const bool isDamaged = result && (result->standardError.contains("corrupt") ||
-                                      result->standardError.contains("partial file") || result->succeeded());
-    mayEncodeInstead = mayEncodeInstead && error && error->code() == AVErrorFileFailedToParse && !isDamaged;
-    return error;
+    result = encoder.run(&reason);
+    if (!progress.isUnderstood()) return notUnderstood(_asset.name);
+    if (result && result->succeeded()) return _checkOutput(info, progress.microseconds());
+    return MediaProgram::failure(_asset, result, reason);
 }
 
 std::optional<NSError> AVAssetExportSession::_checkOutput(const MediaInfo &info, qint64 microsecondsWritten) const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Platform/AVFoundation/AVAsset.h"
+#include "Platform/Foundation/ChildProcess.h"
 #include "Platform/Foundation/Dispatch.h"
 #include "Platform/Foundation/NSURL.h"
 #include "Platform/Foundation/UploadContext.h"
@@ -70,7 +71,8 @@ private:
     std::optional<NSError> _checkRequest() const;
     std::optional<NSError> _claimOutput();
     std::optional<NSError> _write(const MediaInfo &info);
-    std::optional<NSError> _encode(const MediaInfo &info, const ExportPlan &plan, bool &mayEncodeInstead);
+    std::optional<NSError> _encode(const MediaInfo &info, const ExportPlan &plan,
+                                   std::optional<ChildProcess::Result> &result);
     std::optional<NSError> _checkOutput(const MediaInfo &info, qint64 microsecondsWritten) const;
     void _end(const std::optional<NSError> &error);
 
