@@ -3,7 +3,6 @@
 #include "Service/UploadStore.h"
 #include "Tests/EndToEnd/ServiceHarness.h"
 
-#include <QDir>
 #include <QMap>
 #include <QRandomGenerator>
 #include <QSet>

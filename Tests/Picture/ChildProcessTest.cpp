@@ -4,9 +4,6 @@
 #include "Platform/Foundation/FileDescriptor.h"
 #include "Tests/Support/Testing.h"
 
-#include <QDir>
-#include <QFile>
-
 #include <cerrno>
 #include <csignal>
 #include <thread>
