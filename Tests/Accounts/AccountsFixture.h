@@ -4,8 +4,6 @@
 #include "Platform/Accounts/ACAccountStore.h"
 #include "Tests/Support/Testing.h"
 
-#include <QFile>
-
 namespace korvane::test {
 
 class AccountsFixture : public testing::Test {

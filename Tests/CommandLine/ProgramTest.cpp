@@ -1,7 +1,6 @@
 // The program korvane as it is run: what it refuses, what it says, and its exit status.
 #include "Tests/EndToEnd/ServiceHarness.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QProcess>

@@ -6,9 +6,6 @@
 #include "Platform/MobileCoreServices/UTType.h"
 #include "Tests/Support/Testing.h"
 
-#include <QDir>
-#include <QFile>
-
 #include <sys/stat.h>
 
 using namespace korvane;

@@ -2,8 +2,6 @@
 #include "Platform/Social/WireRecord.h"
 #include "Tests/EndToEnd/ServiceHarness.h"
 
-#include <QFile>
-
 #include <fcntl.h>
 #include <unistd.h>
 

@@ -4,7 +4,6 @@
 #include "Tests/EndToEnd/ServiceHarness.h"
 #include "Tests/Support/Seed.h"
 
-#include <QDir>
 #include <QMap>
 #include <QRandomGenerator>
 #include <QSet>

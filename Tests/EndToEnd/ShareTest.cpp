@@ -2,7 +2,6 @@
 #include "Platform/Social/RemoteServiceError.h"
 #include "Tests/EndToEnd/ServiceHarness.h"
 
-#include <QDir>
 #include <QSet>
 
 #include <sys/mount.h>

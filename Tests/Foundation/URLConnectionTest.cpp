@@ -4,8 +4,6 @@
 #include "Tests/Support/ScriptedServer.h"
 #include "Tests/Support/Testing.h"
 
-#include <QFile>
-
 #include <future>
 
 using namespace korvane;

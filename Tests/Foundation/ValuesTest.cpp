@@ -4,8 +4,6 @@
 #include "Platform/Foundation/NSURL.h"
 #include "Tests/Support/Testing.h"
 
-#include <QFile>
-
 #include <sys/stat.h>
 
 #include <cmath>

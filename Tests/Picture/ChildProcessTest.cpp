@@ -4,11 +4,7 @@
 #include "Platform/Foundation/FileDescriptor.h"
 #include "Tests/Support/Testing.h"
 
-#include <QDir>
-#include <QFile>
-
 #include <algorithm>
-#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <thread>

@@ -3,8 +3,6 @@
 
 #include "Tests/Support/Testing.h"
 
-#include <QFile>
-
 namespace korvane::test {
 
 class PreferencesFixture : public testing::Test {

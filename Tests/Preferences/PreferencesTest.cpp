@@ -4,7 +4,6 @@
 #include "Tests/Preferences/PreferencesFixture.h"
 
 #include <QCoreApplication>
-#include <QDir>
 
 #include <sys/stat.h>
 #include <sys/wait.h>

@@ -5,7 +5,6 @@
 #include "Platform/Social/RemoteServiceError.h"
 #include "Tests/Support/Testing.h"
 
-#include <QDir>
 #include <QUrl>
 
 #include <fcntl.h>

@@ -5,7 +5,6 @@
 #include "Tests/Support/Testing.h"
 
 #include <QDateTime>
-#include <QDir>
 
 #include <httplib.h>
 
@@ -105,6 +104,13 @@ TEST_F(StandInService, RefusesRequestsThatAreNotSignedOrNotWellFormed) {
     EXPECT_TRUE(client->upload({}, parts).body.startsWith("oauth_problem=parameter_absent"));
     EXPECT_EQ(client->upload({}, {parts[1], parts[1]}).body, "Bad request: there are two photos.\n");
     EXPECT_EQ(client->Post("/services/upload/", "bytes", "image/jpeg")->status, 400);
+    const std::string part = "--B\r\nContent-Disposition: form-data; name=\"a\"\r\n\r\nx";
+    for (const std::string &spoilt : {part, part + "\r\n--B\r\n", part + "\n--B--\n", part + "\r\n--B--\r\nmore",
+                                      "\r\n" + part + "\r\n--B--\r\n", std::string("--B\r\n\r\nx\r\n--B--\r\n"),
+                                      std::string("--B\nContent-Disposition: form-data; name=\"a\"\n\nx\r\n--B--\r\n")})
+        EXPECT_EQ(client->Post("/services/upload/", spoilt, "multipart/form-data; boundary=B")->status, 400) << spoilt;
+    const auto whole = client->Post("/services/upload/", part + "\r\n--B--\r\n", "multipart/form-data; boundary=B");
+    EXPECT_EQ(whole->status, 401) << "understood, but not signed";
     EXPECT_EQ(server.photos().size(), 1u);
 }
 

@@ -6,4 +6,7 @@
 #include "Tests/Support/TemporaryHome.h"
 #include "Tests/Support/WaitFor.h"
 
+#include <QDir>
+#include <QFile>
+
 #include <gtest/gtest.h>
