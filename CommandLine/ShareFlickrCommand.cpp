@@ -35,7 +35,8 @@ Sharing takes a copy into the upload service, which uploads in the background, a
 after a restart. --wait stays until the photos are there; Ctrl-C ends the waiting, not the uploads.
 
 Exit status: 0 all well, 1 an upload failed, 2 bad usage or a file that cannot be used, 3 no account,
-4 the upload service cannot be reached; with --wait 130 after Ctrl-C.)";
+4 the upload service cannot be reached, runs with other settings, or cannot take anything just now; with --wait 130
+after Ctrl-C.)";
 
 // Every photo keeps its file open until it is handed over.
 void raiseFileLimit() {

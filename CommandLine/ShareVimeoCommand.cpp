@@ -32,7 +32,8 @@ Sharing takes a moment; the upload service uploads in the background, also after
 restart, and goes on where it was. --wait stays until the video is there; Ctrl-C ends the waiting, not the upload.
 
 Exit status: 0 all well, 1 an upload failed, 2 bad usage or a file that cannot be used, 3 no account,
-4 the upload service cannot be reached; with --wait 130 after Ctrl-C.)";
+4 the upload service cannot be reached, runs with other settings, or cannot take anything just now; with --wait 130
+after Ctrl-C.)";
 
 std::string problemWithTitle(const std::string &title) {
     if (title.empty()) return "a video on Vimeo needs a title";

@@ -26,7 +26,7 @@ const char *const examples = R"(Examples:
 finishedAt and error; watch prints such an object on a line of its own for each change.
 
 Exit status: 0 all well, 1 an upload failed while it was watched, 2 bad usage or no such upload, 4 the upload service
-cannot be reached; 130 after Ctrl-C.)";
+cannot be reached, runs with other settings, or cannot take anything just now; 130 after Ctrl-C.)";
 
 QString countText(qint64 count) {
     return count == 1 ? QStringLiteral("1 upload") : QStringLiteral("%1 uploads").arg(count);

@@ -63,7 +63,7 @@ int main(int argc, char **argv) {
     QCoreApplication::setApplicationName(QStringLiteral("korvane"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
 
-    CLI::App program("Share photos to Flickr, and be sure that they get there.", "korvane");
+    CLI::App program("Share photos to Flickr and videos to Vimeo, and be sure that they get there.", "korvane");
     program.set_version_flag("--version", "korvane " KORVANE_VERSION, "Show the version and exit");
     program.require_subcommand(1);
     program.get_formatter()->column_width(28);

@@ -6,7 +6,7 @@ packages=(
   ca-certificates g++ cmake ninja-build ccache pkg-config gettext-base
   qt6-base-dev qt6-tools-dev qt6-l10n-tools libqt6sql6-sqlite
   libsecret-1-dev libcurl4-openssl-dev libvips-dev libcpp-httplib-dev libcli11-dev libfmt-dev nlohmann-json3-dev
-  shared-mime-info dbus ffmpeg
+  shared-mime-info dbus ffmpeg file
   libgtest-dev libgmock-dev libbenchmark-dev curl
 )
 
