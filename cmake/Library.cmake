@@ -12,7 +12,7 @@ target_include_directories(korvane INTERFACE
 
 # Headers that no public header includes and an embedding program has no use for.
 set(privateHeaders
-  AssetLocation ChildProcess CredentialStore CurlPool DataFile ExportPlan ExportProgress HandOver LocalNetwork LockedJSONFile LogOnce MediaInfo MediaProgram NetworkRoute PictureProgram
+  AssetLocation CredentialStore CurlPool DataFile ExportPlan ExportProgress HandOver LocalNetwork LockedJSONFile LogOnce MediaInfo MediaProgram NetworkRoute PictureProgram
   PreferenceDomain SecretKeyring ServiceConnection URLTransfer UserBus WireRecord)
 list(JOIN privateHeaders "|" privateHeaders)
 

@@ -145,7 +145,8 @@ TEST_F(Share, GoesToTheAccountThatWasInUseAndWaitsForOneWhereThereIsNone) {
     ASSERT_TRUE(waitForState("waiting", 1));
     EXPECT_EQ(valueOf(0, "waitingFor"), QStringLiteral("sign-in"));
     const StandInAccount again(home);
-    home.setEnvironment("KORVANE_FLICKR_URL", QByteArray::fromStdString(flickr.server.url().toStdString()));
+    for (const char *host : {"KORVANE_FLICKR_URL", "KORVANE_VIMEO_URL"})
+        home.setEnvironment(host, flickr.server.url().toUtf8());
     EXPECT_TRUE(waitForState("done", 1));
 
     ask("Pause");
