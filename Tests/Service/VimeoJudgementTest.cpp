@@ -1,0 +1,120 @@
+// What is made of Vimeo's answers: what becomes of an upload, where tickets may point, when a video is stuck.
+#include "Korvane/VimeoPost.h"
+#include "Platform/AVFoundation/AVError.h"
+#include "Service/FailureClassifier.h"
+#include "Service/TicketCheck.h"
+#include "Service/VerifyWatch.h"
+#include "Tests/Support/Testing.h"
+
+using namespace korvane;
+using namespace korvane::test;
+
+namespace {
+
+UploadContext::Snapshot answered(int status, const QByteArray &body) {
+    return {0, 0, status, std::nullopt, body};
+}
+
+UploadContext::Snapshot failed(qint64 code) {
+    return {0, 0, 0, NSError::errorWithDescription(NSURLErrorDomain, code, QStringLiteral("reason")), {}};
+}
+
+} // namespace
+
+TEST(VimeoClassifier, TellsPassingFailuresFromFinalOnesAndSaysWhatToDo) {
+    const auto post = [](qint64 code) { return NSError(VimeoPublishPostErrorDomain, code); };
+    const auto exported = [](qint64 code) {
+        return NSError::errorWithDescription(AVFoundationErrorDomain, code, QStringLiteral("reason"));
+    };
+    const QByteArray refusal = R"({"err":{"code":"999","msg":"No more","expl":"oauth_token=hush"}})";
+    const struct {
+        NSError error;
+        UploadContext::Snapshot request;
+        UploadState state;
+        WaitReason reason;
+        const char *text;
+    } cases[] = {
+        {post(VimeoPostErrorEmptyResponse), failed(-1001), UploadState::Waiting, WaitReason::Network, "reason"},
+        {post(VimeoPostErrorBadResponse), failed(-999), UploadState::Waiting, WaitReason::NextTry, "reason"},
+        {post(VimeoPostErrorBadResponse), answered(503, "<html>"), UploadState::Waiting, WaitReason::NextTry, "503"},
+        {post(VimeoPostErrorBadResponse), answered(200, "<html>"), UploadState::Failed, WaitReason::None,
+         "not understood"},
+        {post(VimeoPostErrorBadResponse), answered(200, refusal), UploadState::Failed, WaitReason::None, "No more"},
+        {post(VimeoPostErrorServiceCode401), answered(401, refusal), UploadState::Failed, WaitReason::None,
+         "Sign in again"},
+        {post(VimeoPostErrorServiceCode708), answered(200, refusal), UploadState::Waiting, WaitReason::NextTry,
+         "again"},
+        {post(VimeoPostErrorQuotaExceeded), answered(200, "{}"), UploadState::Failed, WaitReason::None, "space"},
+        {exported(AVErrorDiskFull), {}, UploadState::Waiting, WaitReason::NextTry, "reason"},
+        {exported(AVErrorInvalidSourceMedia), {}, UploadState::Failed, WaitReason::None, "reason"},
+        {NSError::errorWithErrno(EACCES, QStringLiteral("a.mp4")), {}, UploadState::Failed, WaitReason::None, "a.mp4"},
+    };
+    for (const auto &test : cases) {
+        const Verdict verdict =
+            FailureClassifier::verdictOnVimeoRun({RunOutcome::Finished, test.error, test.request, 0});
+        EXPECT_EQ(verdict.state, test.state) << test.text;
+        EXPECT_EQ(verdict.waitReason, test.reason) << test.text;
+        EXPECT_TRUE(says(verdict.error, test.text));
+        EXPECT_FALSE(says(verdict.error, "hush"));
+    }
+}
+
+TEST(VimeoClassifier, KnowsWhatBecameOfACommitOrThatNobodyDoes) {
+    using enum FailureClassifier::CommitFate;
+    const std::pair<UploadContext::Snapshot, FailureClassifier::CommitFate> cases[] = {
+        {failed(NSURLErrorCannotConnectToHost), NotDone},
+        {failed(NSURLErrorNotConnectedToInternet), NotDone},
+        {failed(NSURLErrorServerCertificateUntrusted), NotDone},
+        {failed(NSURLErrorCancelled), NotDone},
+        {failed(NSURLErrorNetworkConnectionLost), Unknown},
+        {failed(NSURLErrorTimedOut), Unknown},
+        {failed(NSURLErrorUnknown), Unknown},
+        {answered(503, ""), NotDone},
+        {answered(502, "<html>"), Unknown},
+        {answered(200, ""), Unknown},
+        {answered(200, R"({"err":{"code":703}})"), Refused},
+    };
+    for (const auto &[request, fate] : cases)
+        EXPECT_EQ(FailureClassifier::fateOfCommit(request), fate)
+            << request.httpStatus << ' ' << (request.transportError ? request.transportError->code() : 0);
+}
+
+TEST(TicketCheck, KeepsVideosOutOfTheLocalNetwork) {
+    TemporaryHome home;
+    const auto objects = [&](const char *endpoint) {
+        return TicketCheck::objection(
+                   {QStringLiteral("1"), NSURL::URLWithString(QLatin1String(endpoint)), 0, false, {}})
+            .has_value();
+    };
+    home.setEnvironment("KORVANE_VIMEO_URL", "https://vimeo.example");
+    for (const char *endpoint :
+         {"http://localhost/", "http://127.0.0.2/", "http://[::1]/", "http://10.1.2.3/", "http://172.31.0.1/",
+          "http://192.168.0.1/", "http://169.254.169.254/", "http://0.0.0.0/", "http://[::ffff:10.0.0.1]/",
+          "http://[fe80::1]/", "http://[fd00::1]/", "ftp://host/"})
+        EXPECT_TRUE(objects(endpoint)) << endpoint;
+    for (const char *endpoint : {"http://upload.vimeo.example:8080/x", "https://172.32.0.1/", "https://[2001:db8::1]/"})
+        EXPECT_FALSE(objects(endpoint)) << endpoint;
+    home.setEnvironment("KORVANE_VIMEO_URL", "http://127.0.0.1:8743");
+    EXPECT_FALSE(objects("http://127.0.0.1:9000/"));
+}
+
+TEST(VerifyWatch, GivesUpAfterTwentyVerifiesWithoutAnAdvance) {
+    VerifyWatch stuck(1000);
+    int verifies = 1;
+    while (stuck.heard(1000))
+        ++verifies;
+    EXPECT_EQ(verifies, 20);
+
+    // An endpoint that loses everything now and then is slow, not stuck; one that always does is.
+    VerifyWatch slow;
+    constexpr quint64 chunk = 2'097'152;
+    for (quint64 stored = 0; stored < 40 * chunk; stored += chunk)
+        EXPECT_TRUE(slow.heard(stored));
+    for (quint64 stored = 0; stored < 40 * chunk; stored += chunk)
+        EXPECT_TRUE(slow.heard(stored));
+    VerifyWatch sisyphus;
+    verifies = 0;
+    while (sisyphus.heard(verifies % 2 * chunk) && verifies < 1000)
+        ++verifies;
+    EXPECT_LT(verifies, 40);
+}
