@@ -3,9 +3,6 @@
 #include "Tests/Accounts/AccountsFixture.h"
 
 #include <sys/stat.h>
-#include <sys/wait.h>
-
-#include <set>
 
 namespace korvane::test {
 namespace {
@@ -102,28 +99,6 @@ TEST_F(AccountStore, LeavesNoSecretBehindWhenTheListCannotBeWritten) {
     EXPECT_EQ(error->code(), ACErrorAccountListDamaged);
     EXPECT_FALSE(says(home.contents(credentials), "eva-"));
     EXPECT_EQ(home.contents(accounts), damaged);
-}
-
-TEST_F(AccountStore, LosesNothingWhenProcessesAddAccountsAtOnce) {
-    const auto addSome = [this](const QByteArray &own) {
-        bool added = true;
-        for (const QByteArray &name : {own, QByteArray("both")})
-            for (int i = 0; i < 15; ++i)
-                added = add(flickr, name + QByteArray::number(i)) && added;
-        return added;
-    };
-    const pid_t child = ::fork();
-    if (child == 0) ::_exit(addSome("child") ? 0 : 1);
-    EXPECT_TRUE(addSome("parent"));
-    int status = -1;
-    ASSERT_EQ(::waitpid(child, &status, 0), child);
-    EXPECT_EQ(status, 0);
-    std::set<QString> identifiers;
-    for (const auto &account : store.accountsWithAccountType(flickr)) {
-        EXPECT_TRUE(identifiers.insert(account->identifier()).second);
-        EXPECT_TRUE(account->credential()) << account->username().toStdString();
-    }
-    EXPECT_EQ(identifiers.size(), 45U) << "an account that both added is one account";
 }
 
 } // namespace

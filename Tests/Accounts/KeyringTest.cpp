@@ -12,36 +12,39 @@
 namespace korvane::test {
 namespace {
 
-class Keyring : public AccountsFixture {
+class SessionBusWithoutKeyring : public AccountsFixture {
 protected:
     void SetUp() override {
         ASSERT_TRUE(bus.start());
         home.setEnvironment("DBUS_SESSION_BUS_ADDRESS", bus.address());
     }
-    void TearDown() override {
-        daemon.terminate();
-        daemon.waitForFinished();
-    }
-    void startKeyring() {
+
+    TestBus bus;
+};
+
+class Keyring : public SessionBusWithoutKeyring {
+protected:
+    void SetUp() override {
+        ASSERT_NO_FATAL_FAILURE(SessionBusWithoutKeyring::SetUp());
         const QString program = QStringLiteral("gnome-keyring-daemon");
         if (QStandardPaths::findExecutable(program).isEmpty()) GTEST_SKIP() << "gnome-keyring-daemon is not installed";
         daemon.start(program, {QStringLiteral("--unlock"), QStringLiteral("--components=secrets"),
                                QStringLiteral("--foreground")});
         daemon.write("password");
         daemon.closeWriteChannel();
-        ASSERT_TRUE(daemon.waitForBytesWritten());
         ASSERT_TRUE(waitFor([this] {
             return bus.connection().interface()->isServiceRegistered(QStringLiteral("org.freedesktop.secrets")).value();
         }));
     }
+    void TearDown() override {
+        daemon.terminate();
+        daemon.waitForFinished();
+    }
 
-    TestBus bus;
     QProcess daemon;
 };
 
 TEST_F(Keyring, HoldsTheSecretsOfAccounts) {
-    ASSERT_NO_FATAL_FAILURE(startKeyring());
-    if (IsSkipped()) return;
     const auto ada = add(flickr, "ada", "old");
     ASSERT_TRUE(add(flickr, "ada"));
     const auto eva = add(vimeo, "eva");
@@ -63,8 +66,6 @@ TEST_F(Keyring, HoldsTheSecretsOfAccounts) {
 }
 
 TEST_F(Keyring, IsNotAskedForAPasswordWhileLocked) {
-    ASSERT_NO_FATAL_FAILURE(startKeyring());
-    if (IsSkipped()) return;
     const auto ada = add(flickr, "ada");
     ASSERT_TRUE(ada);
     auto lock = QDBusMessage::createMethodCall(
@@ -80,14 +81,14 @@ TEST_F(Keyring, IsNotAskedForAPasswordWhileLocked) {
     EXPECT_FALSE(QFile::exists(home.path(credentials)));
 }
 
-TEST_F(Keyring, IsReplacedByTheFileWhereTheBusHasNone) {
+TEST_F(SessionBusWithoutKeyring, MakesTheFileKeepTheSecrets) {
     const auto ada = add(flickr, "ada");
     ASSERT_TRUE(ada);
     EXPECT_EQ(ada->credential(), credentialOf("ada"));
     EXPECT_TRUE(says(home.contents(credentials), "ada-hush1"));
 }
 
-TEST_F(Keyring, IsReplacedByTheFileWhereItDoesNotAnswer) {
+TEST_F(SessionBusWithoutKeyring, MayAlsoBeSilent) {
     const ScriptedServer silent([](ScriptedConnection &connection, int) { connection.waitForEnd(); });
     const int port = QUrl(silent.url()).port();
     home.setEnvironment("DBUS_SESSION_BUS_ADDRESS", "tcp:host=127.0.0.1,port=" + QByteArray::number(port));

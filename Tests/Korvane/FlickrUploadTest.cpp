@@ -123,12 +123,7 @@ TEST_F(FlickrUpload, RetriesThreeTimesWithANewSignatureEachTime) {
 }
 
 TEST_F(FlickrUpload, ReportsWhatFlickrSaysWithoutRetry) {
-    const struct {
-        int status;
-        const char *body;
-        qint64 code;
-        const char *description;
-    } cases[] = {
+    const std::tuple<int, const char *, qint64, const char *> cases[] = {
         {200, "<rsp stat=\"fail\"><err code=\"5\" msg=\"Not recognised\"/></rsp>", 5, "Not recognised"},
         {401, "oauth_problem=token_rejected", -1, "oauth_problem=token_rejected"},
         {500, "<html><body>Oops<br></body></html>", -1, "<html><body>Oops<br></body></html>"},
@@ -174,6 +169,12 @@ TEST_F(FlickrUpload, ReadsFilesAndEncodesAssetsOfTheLibrary) {
     fromFile->assetURL = NSURL::fileURLWithPath(home.file("a b.jpg", jpeg));
     EXPECT_EQ(upload(fromFile), std::nullopt);
     EXPECT_EQ(flickr.server.requests()[0].photoSha256, sha256Of(jpeg));
+
+    const auto asset = FlickrPost::init();
+    asset->assetURL =
+        ALAssetsLibrary::assetURLForFile(home.file("library/Pictures/a.heic", dataBytes("quarters.heic")));
+    EXPECT_EQ(upload(asset), std::nullopt);
+    EXPECT_EQ(flickr.server.requests()[1].photoContentType, "image/jpeg");
 
     const auto missing = FlickrPost::init();
     missing->assetURL =

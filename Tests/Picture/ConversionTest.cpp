@@ -139,11 +139,7 @@ TEST(Picture, IsRefusedWithOneLineThatSaysWhy) {
     };
     QByteArray huge = dataBytes("orientation-1.jpg");
     huge.replace(huge.indexOf(QByteArray::fromHex("ffc0001108")) + 5, 4, QByteArray::fromHex("ea60ea60")); // its size
-    const struct {
-        const char *what;
-        QByteArray bytes;
-        const char *reason;
-    } refused[] = {
+    const std::tuple<const char *, QByteArray, const char *> refused[] = {
         {"empty", {}, "empty"},
         {"text", "Dear diary, this is no picture at all.\n", "not a picture"},
         {"JPEG header alone", QByteArray::fromHex("ffd8ff"), "damaged"},
@@ -159,13 +155,13 @@ TEST(Picture, IsRefusedWithOneLineThatSaysWhy) {
         {"cut AVIF", cut("quarters.avif"), "damaged"},
         {"cut JPEG XL", cut("orientation-6.jxl"), "damaged"},
     };
-    for (const auto &one : refused) {
-        SCOPED_TRACE(one.what);
-        const QByteArray path = home.file("refused", one.bytes);
+    for (const auto &[what, bytes, reason] : refused) {
+        SCOPED_TRACE(what);
+        const QByteArray path = home.file("refused", bytes);
         for (const QByteArrayList &arguments : {QByteArrayList{"check"}, QByteArrayList{"convert", "--to", "jpeg"}}) {
             const PictureRun run = runPicture(arguments, path);
             EXPECT_EQ(run.status, 1) << arguments.first().constData();
-            EXPECT_TRUE(says(run.errors, one.reason));
+            EXPECT_TRUE(says(run.errors, reason));
             EXPECT_EQ(run.errors.count('\n'), 1) << run.errors.constData();
         }
     }

@@ -16,14 +16,11 @@ namespace {
 
 const QString domain = QStringLiteral("com.zorvex.test");
 
-QVariant valueOf(const QString &key) {
-    return CFPreferencesCopyAppValue(key, domain);
+QVariant valueOf(QAnyStringView key) {
+    return CFPreferencesCopyAppValue(key.toString(), domain);
 }
-QVariant valueOf(const char *key) {
-    return valueOf(QLatin1String(key));
-}
-void set(const QString &key, const QVariant &value) {
-    CFPreferencesSetAppValue(key, value, domain);
+void set(QAnyStringView key, const QVariant &value) {
+    CFPreferencesSetAppValue(key.toString(), value, domain);
 }
 bool synchronize() {
     return CFPreferencesAppSynchronize(domain);
@@ -83,7 +80,7 @@ TEST_F(Preferences, ShowsOwnChangesAtOnceAndOthersAfterSynchronizing) {
     put(domain, R"({"a": 1, "b": 2})");
     EXPECT_EQ(valueOf("a"), QVariant(1));
     EXPECT_FALSE(valueOf("absent").isValid());
-    set(QStringLiteral("a"), {});
+    set("a", {});
     put(domain, R"({"a": 1, "b": 3, "c": null})");
     EXPECT_FALSE(valueOf("a").isValid());
     EXPECT_EQ(valueOf("b"), QVariant(2));
@@ -105,7 +102,7 @@ TEST_F(Preferences, SetsDamagedFilesAsideAndGoesOn) {
     EXPECT_EQ(home.contents(fileOf(domain) + QStringLiteral(".damaged")), damaged[0]);
     EXPECT_EQ(home.contents(fileOf(domain) + QStringLiteral(".damaged.2")), damaged[1]);
     put(domain, "not JSON");
-    set(QStringLiteral("a"), 7);
+    set("a", 7);
     ASSERT_TRUE(synchronize());
     EXPECT_EQ(valueOf("a"), QVariant(7));
 }

@@ -25,12 +25,7 @@ TEST(FailureClassifier, TellsPassingFailuresFromFinalOnesAndSaysWhatToDo) {
     const auto transport = [](qint64 code) { return withError(NSURLErrorDomain, code, "reason", 0); };
     constexpr auto Done = UploadState::Done, Waiting = UploadState::Waiting, Failed = UploadState::Failed;
     constexpr auto None = WaitReason::None, Network = WaitReason::Network, NextTry = WaitReason::NextTry;
-    const struct {
-        RunOutcome outcome;
-        UploadState state;
-        WaitReason reason;
-        const char *text; // part of what people are told
-    } cases[] = {
+    const std::tuple<RunOutcome, UploadState, WaitReason, const char *> cases[] = {
         {{}, Done, None, ""},
         {transport(-1001), Waiting, Network, "reason"},
         {transport(-1009), Waiting, Network, "reason"},
@@ -53,13 +48,13 @@ TEST(FailureClassifier, TellsPassingFailuresFromFinalOnesAndSaysWhatToDo) {
         {response(0, nullptr, 404), Failed, None, "not understood (HTTP status 404)"},
         {withError(FlickrPostErrorDomain, 3, nullptr), Failed, None, "library"},
     };
-    for (const auto &test : cases) {
-        SCOPED_TRACE(test.outcome.error ? test.outcome.error->description().toStdString() : "no error");
-        const Verdict verdict = FailureClassifier::verdictOnFlickrRun(test.outcome, false);
-        EXPECT_EQ(verdict.state, test.state);
-        EXPECT_EQ(verdict.waitReason, test.reason);
+    for (const auto &[outcome, state, reason, told] : cases) {
+        SCOPED_TRACE(outcome.error ? outcome.error->description().toStdString() : "no error");
+        const Verdict verdict = FailureClassifier::verdictOnFlickrRun(outcome, false);
+        EXPECT_EQ(verdict.state, state);
+        EXPECT_EQ(verdict.waitReason, reason);
         if (!verdict.error) continue;
-        EXPECT_TRUE(says(verdict.error, test.text));
+        EXPECT_TRUE(says(verdict.error, told));
         EXPECT_FALSE(says(verdict.error, "hush"));
     }
 }

@@ -58,11 +58,3 @@ TEST(WireRecord, RefusesWhatTheBusWouldGarbleOrDieOf) {
         EXPECT_EQ(error->code(), RemoteServiceErrorUnusableRecord);
     }
 }
-
-TEST(WireRecord, SaysWhatIsWrongWhenTheDataCannotBeWritten) {
-    const TemporaryHome home;
-    home.file("spool", "a file, not a folder");
-    std::optional<NSError> error;
-    EXPECT_FALSE(WireRecord::encode({recordOf(NSData(jpegOfSize(100'000)))}, home.path("spool"), &error));
-    EXPECT_TRUE(says(error, "spool"));
-}

@@ -13,6 +13,7 @@
 
 #include <poll.h>
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -42,15 +43,12 @@ public:
         return shared.connection();
     }
 
-    bool isHeld(size_t lock) const {
-        pollfd end{locks[lock].get(), 0, 0};
-        return ::poll(&end, 1, 0) == 0;
-    }
+    // How many locks are held.
     int held() const {
-        int count = 0;
-        for (size_t lock = 0; lock < locks.size(); ++lock)
-            count += isHeld(lock);
-        return count;
+        return int(std::count_if(locks.begin(), locks.end(), [](const FileDescriptor &lock) {
+            pollfd end{lock.get(), 0, 0};
+            return ::poll(&end, 1, 0) == 0;
+        }));
     }
     void answerNow() {
         for (const QDBusMessage &message : waiting)

@@ -48,10 +48,7 @@ TEST(NetworkRoute, ReadsTheKernelsTables) {
         return destination + ' ' + prefix + ' ' + zero + " 00 " + zero + " 00000400 00000001 00000000 " + flags + ' ' +
                device + '\n';
     };
-    const struct {
-        QByteArray ipv4, ipv6;
-        bool wayOut;
-    } cases[] = {
+    const std::tuple<QByteArray, QByteArray, bool> cases[] = {
         {"", "", false},
         {head4 + "eth0\t00000000\t0101A8C0\t0003\t0\t0\t100\t00000000\t0\t0\t0\n", "", true},
         {head4 + "eth0\t0001A8C0\t00000000\t0001\t0\t0\t100\t00FFFFFF\t0\t0\t0\n", "", false},
