@@ -17,10 +17,14 @@ _korvane() {
     done
     case "${plain[*]:0:3}" in
     '') words='share uploads accounts standin' options='--help --version' ;;
-    share) words='flickr' ;;
+    share) words='flickr vimeo' ;;
     'share flickr'*)
         files='file'
         options='--title --audience --album --without-metadata --wait --json --help'
+        ;;
+    'share vimeo'*)
+        files='file'
+        options='--title --description --tag --size --privacy --wait --json --help'
         ;;
     uploads) words='list watch retry remove clear pause resume' options='--json --help' ;;
     'uploads retry'*) words="all $(_korvane_ids uploads)" options='--json --help' ;;
@@ -35,9 +39,11 @@ _korvane() {
     esac
     case $prev in
     --audience) words='public friends family only-me' options='' files='' ;;
+    --size) words='small medium large' options='' files='' ;;
+    --privacy) words='public private' options='' files='' ;;
     --credential-file) files='file' options='' ;;
     --state) files='directory' options='' ;;
-    --title | --album | --port) words='' options='' files='' ;;
+    --title | --description | --tag | --album | --port) words='' options='' files='' ;;
     esac
     if [[ $cur == -* || -z $words$files ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$options" -- "$cur")

@@ -22,20 +22,28 @@ end
 complete -c korvane -f
 complete -c korvane -s h -l help -d 'Show help'
 complete -c korvane -n __korvane_just_after -l version -d 'Show the version'
-complete -c korvane -n __korvane_just_after -a share -d 'Share photos'
+complete -c korvane -n __korvane_just_after -a share -d 'Share photos or a video'
 complete -c korvane -n __korvane_just_after -a uploads -d 'Show and steer the uploads'
 complete -c korvane -n __korvane_just_after -a accounts -d 'Show, add and remove accounts'
 complete -c korvane -n __korvane_just_after -a standin -d 'Run local stand-ins of the web services'
 
-complete -c korvane -n '__korvane_just_after share' -a flickr
+complete -c korvane -n '__korvane_just_after share' -a flickr -d 'Share photos'
+complete -c korvane -n '__korvane_just_after share' -a vimeo -d 'Share a video'
+complete -c korvane -n '__korvane_after share flickr; or __korvane_after share vimeo' -l wait -d 'Wait until all is uploaded'
+complete -c korvane -n '__korvane_after share flickr; or __korvane_after share vimeo' -l json -d 'Print JSON'
 set -l flickr '__korvane_after share flickr'
 complete -c korvane -n $flickr -F
 complete -c korvane -n $flickr -l title -x -d 'Title of each photo'
 complete -c korvane -n $flickr -l audience -x -a 'public friends family only-me' -d 'Who sees the photos'
 complete -c korvane -n $flickr -l album -x -d 'Number of an album'
 complete -c korvane -n $flickr -l without-metadata -d 'Without place and camera data'
-complete -c korvane -n $flickr -l wait -d 'Wait until all are uploaded'
-complete -c korvane -n $flickr -l json -d 'Print JSON'
+set -l vimeo '__korvane_after share vimeo'
+complete -c korvane -n $vimeo -F
+complete -c korvane -n $vimeo -l title -x -d 'Title of the video'
+complete -c korvane -n $vimeo -l description -x -d 'What the video is about'
+complete -c korvane -n $vimeo -l tag -x -d 'A tag'
+complete -c korvane -n $vimeo -l size -x -a 'small medium large' -d 'What a library video is made into'
+complete -c korvane -n $vimeo -l privacy -x -a 'public private' -d 'Who sees the video'
 
 complete -c korvane -n '__korvane_after uploads' -l json -d 'Print JSON'
 complete -c korvane -n '__korvane_just_after uploads' -a list -d 'All uploads'
@@ -58,4 +66,4 @@ complete -c korvane -n $added -l credential-file -r -F -d 'File with ready crede
 complete -c korvane -n '__korvane_just_after accounts remove' -a '(__korvane_ids accounts)'
 
 complete -c korvane -n '__korvane_after standin' -l port -x -d 'Port to listen on'
-complete -c korvane -n '__korvane_after standin' -l state -x -a '(__fish_complete_directories)' -d 'Folder for the photos received'
+complete -c korvane -n '__korvane_after standin' -l state -x -a '(__fish_complete_directories)' -d 'Folder for what is received'
