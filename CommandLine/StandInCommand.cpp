@@ -20,8 +20,10 @@ StandInCommand::StandInCommand(CLI::App &program) {
     _standIn->add_option("--port", _port, "Port to listen on, on this machine only; 0 for any free one")
         ->type_name("PORT")
         ->check(CLI::Range(0, 65535));
-    _standIn->add_option("--state", _folder, "Folder for the photos received, kept from run to run")->type_name("DIR");
-    _standIn->footer("It says where it listens. Other programs use it with KORVANE_FLICKR_URL=http://127.0.0.1:PORT.");
+    _standIn->add_option("--state", _folder, "Folder for what is received, kept from run to run")->type_name("DIR");
+    _standIn->footer(
+        "It says where it listens. Other programs use it with KORVANE_FLICKR_URL=http://127.0.0.1:PORT\nand "
+        "KORVANE_VIMEO_URL=http://127.0.0.1:PORT.");
 }
 
 bool StandInCommand::isChosen() const {

@@ -22,6 +22,7 @@ Upload Upload::fromDictionary(const QVariantMap &dictionary) {
     upload.attempts = number("attempts");
     upload.createdAt = text("createdAt");
     upload.finishedAt = text("finishedAt");
+    upload.mayHaveArrived = dictionary.value(QStringLiteral("mayHaveArrived")).toBool();
     const auto error = qdbus_cast<QVariantMap>(dictionary.value(QStringLiteral("error")));
     if (!error.isEmpty()) upload.error = errorOfDictionary(error);
     return upload;

@@ -21,8 +21,9 @@ struct Upload {
     qint64 bytesSent = 0;
     qint64 bytesTotal = 0; // 0 while it is not known
     qint64 attempts = 0;
-    QString createdAt;  // ISO 8601 in UTC
-    QString finishedAt; // the same; empty before the end
+    QString createdAt;           // ISO 8601 in UTC
+    QString finishedAt;          // the same; empty before the end
+    bool mayHaveArrived = false; // failed while nobody knows whether the web service has it
     std::optional<NSError> error;
 
     // From a dictionary of the status interface, with its nested values still as they came from the bus. What is

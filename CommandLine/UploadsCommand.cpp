@@ -19,7 +19,7 @@ const char *const examples = R"(Examples:
   korvane uploads                   what is queued, running, waiting, done and failed
   korvane uploads watch             follow the uploads until all have ended; Ctrl-C leaves
   korvane uploads retry 12 13       try these again
-  korvane uploads retry all         try everything again that failed or waits
+  korvane uploads retry all         try everything again that failed or waits, but videos that may have arrived
   korvane uploads --json | jq '.[] | select(.state == "failed")'
 
 --json prints an array of objects with id, service, title, state, bytesSent, bytesTotal, attempts, createdAt,
@@ -54,7 +54,7 @@ UploadsCommand::UploadsCommand(CLI::App &program) {
     add("list", "All uploads, oldest first (as without a command)");
     _watchApp = add("watch", "Follow the uploads until all have ended");
     _retryApp = add("retry", "Try failed and waiting uploads again, at once");
-    _removeApp = add("remove", "Remove uploads in any state, with the service's copies of their photos");
+    _removeApp = add("remove", "Remove uploads in any state, with the service's copies of their data");
     _clearApp = add("clear", "Forget the uploads that are done");
     _pauseApp = add("pause", "Stop uploading, until resume");
     _resumeApp = add("resume", "Go on uploading");
@@ -142,7 +142,12 @@ std::optional<std::vector<Upload>> UploadsCommand::_retriable(std::optional<NSEr
     }
     std::vector<Upload> found;
     const auto collect = [&](const Upload &upload) {
-        if (upload.hasFailed() || upload.isWaiting()) found.push_back(upload);
+        if (upload.mayHaveArrived)
+            Output::note(QStringLiteral("Upload %1 is left out, since its video may have arrived: look there, then "
+                                        "retry it by its number or remove it.")
+                             .arg(upload.id));
+        else if (upload.hasFailed() || upload.isWaiting())
+            found.push_back(upload);
     };
     if (!_client.forEach(collect, error)) return std::nullopt;
     return found;

@@ -1,4 +1,4 @@
-// korvane: share photos from the command line.
+// korvane: share photos and videos from the command line.
 #include "CommandLine/AccountsCommand.h"
 #include "CommandLine/ExitStatus.h"
 #include "CommandLine/Output.h"

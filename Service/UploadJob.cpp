@@ -44,6 +44,8 @@ QVariantMap dictionaryOfJob(const UploadJob &job, qint64 bytesSent, qint64 bytes
         dictionary.insert(QStringLiteral("waitingFor"), waitText(job.waitReason));
         dictionary.insert(QStringLiteral("nextTry"), timeText(job.nextTryAt));
     }
+    if (job.state == UploadState::Failed && job.video && job.video->commitSent)
+        dictionary.insert(QStringLiteral("mayHaveArrived"), true);
     if (job.finishedAt != 0) dictionary.insert(QStringLiteral("finishedAt"), timeText(job.finishedAt));
     if (job.error) dictionary.insert(QStringLiteral("error"), dictionaryOfError(*job.error));
     return dictionary;

@@ -74,7 +74,7 @@ void VimeoRun::begin() {
     };
     _post->setDelegate(weak_from_this());
     std::optional<NSError> error;
-    if (!_post->resumeUploadToAccount(account, _run.job.video.value_or(VimeoCheckpoint()), &error))
+    if (!_post->resumeUploadToAccount(account, _run.job.video ? *_run.job.video : VimeoCheckpoint(), &error))
         dispatchMain([self = shared_from_this(), error] { self->_finished(error); });
 }
 
@@ -116,7 +116,7 @@ std::optional<Verdict> VimeoRun::_reasonToBreakOff(const VimeoCheckpoint &checkp
         const auto objection = TicketCheck::objection(checkpoint);
         return objection ? std::optional(failed(*objection)) : std::nullopt;
     }
-    if (_post->uploadState() != VimeoUploadStateVerifyingChunk) return std::nullopt;
+    if (_post->uploadState() != VimeoUploadStateVerifyingChunk || !checkpoint.hasTicket()) return std::nullopt;
     // The upload takes a refused verify for an empty endpoint and would send everything again.
     if (const int status = _run.context->snapshot().httpStatus; status >= 400)
         return FailureClassifier::verdictOnRefusedVerify(status);

@@ -141,6 +141,7 @@ TEST_F(Video, ACommitWithoutAnAnswerIsSetAsideAndNeverSentTwice) {
     killService(SIGTERM);
     startService();
     EXPECT_EQ(countInState("failed"), 1);
+    EXPECT_EQ(valueOf(0, "mayHaveArrived"), QStringLiteral("true"));
     EXPECT_EQ(vimeo.videos()[0].commits(), 1);
 
     // Not connected at all is another matter: it goes on by itself.
@@ -148,6 +149,15 @@ TEST_F(Video, ACommitWithoutAnAnswerIsSetAsideAndNeverSentTwice) {
     ASSERT_TRUE(shareVideo(video("b.mp4", variedBytes(3'000'000, 2))));
     ASSERT_TRUE(waitForState("done", 1));
     EXPECT_EQ(vimeo.videos()[1].sha256, sha256Of(variedBytes(3'000'000, 2)));
+}
+
+TEST_F(Video, ATicketThatIsNoLongerTakenGivesWayToANewOne) {
+    vimeo.on("verify").thenOk().fail(404, 2);
+    ASSERT_TRUE(shareVideo(video("a.mp4", variedBytes(5'000'000))));
+    ASSERT_TRUE(waitForState("done", 1));
+    ASSERT_EQ(vimeo.videos().size(), 2u);
+    EXPECT_EQ(vimeo.videos()[0].commits(), 0);
+    EXPECT_EQ(vimeo.videos()[1].sha256, sha256Of(variedBytes(5'000'000)));
 }
 
 TEST_F(Video, AnEndpointThatStoresNothingIsGivenUp) {
