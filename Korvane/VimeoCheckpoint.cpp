@@ -8,9 +8,11 @@ namespace korvane {
 QVariantMap VimeoCheckpoint::dictionary() const {
     QVariantMap dictionary{{QStringLiteral("bytesStored"), qint64(bytesStored)},
                            {QStringLiteral("commitSent"), commitSent}};
-    if (ticketID.isValid()) dictionary.insert(QStringLiteral("ticketID"), ticketID);
+    // As texts, which hold any number.
+    if (ticketID.isValid()) dictionary.insert(QStringLiteral("ticketID"), textValue(ticketID));
     if (endpoint) dictionary.insert(QStringLiteral("endpoint"), endpoint->absoluteString());
-    if (videoID.isValid()) dictionary.insert(QStringLiteral("videoID"), videoID);
+    if (videoID.isValid()) dictionary.insert(QStringLiteral("videoID"), textValue(videoID));
+    if (mayUseCellular) dictionary.insert(QStringLiteral("mayUseCellular"), *mayUseCellular);
     return dictionary;
 }
 
@@ -22,6 +24,8 @@ VimeoCheckpoint VimeoCheckpoint::withDictionary(const QVariantMap &dictionary) {
     checkpoint.bytesStored = quint64(integerValue(dictionary.value(QStringLiteral("bytesStored"))));
     checkpoint.commitSent = boolValue(dictionary.value(QStringLiteral("commitSent")));
     checkpoint.videoID = dictionary.value(QStringLiteral("videoID"));
+    if (const QVariant cellular = dictionary.value(QStringLiteral("mayUseCellular")); cellular.isValid())
+        checkpoint.mayUseCellular = boolValue(cellular);
     return checkpoint;
 }
 

@@ -64,7 +64,7 @@ qint64 VimeoPost::postSize() const {
 }
 
 VimeoCheckpoint VimeoPost::checkpoint() const {
-    return {_ticketID, _uploadEndpoint, _countOfBytesStored, _commitSent, _videoID};
+    return {_ticketID, _uploadEndpoint, _countOfBytesStored, _commitSent, _videoID, _canUploadOverCellular};
 }
 
 void VimeoPost::_proceedAfterCheckpoint(std::function<void()> next) {

@@ -10,6 +10,7 @@
 
 #include <QStringList>
 
+#include <atomic>
 #include <functional>
 #include <memory>
 
@@ -111,7 +112,7 @@ public:
     std::function<void(const VimeoCheckpoint &checkpoint, std::function<void()> proceed)> checkpointChanged;
 
     // Informative; the upload itself never looks at it.
-    VimeoUploadState uploadState() const { return VimeoUploadState(_uploadState); }
+    VimeoUploadState uploadState() const { return VimeoUploadState(_uploadState.load()); }
 
     // Bytes of the video: of the asset, the data or the reader's file, whichever exists first; else 0.
     qint64 postSize() const;
@@ -146,7 +147,7 @@ private:
     NSMutableURLRequest _putRequest() const;
     void _verify();
     void _verified(const NSHTTPURLResponse &response);
-    void _ticketRefused(const NSHTTPURLResponse &response);
+    void _ticketRefused(int status);
     void _commit();
     void _committed(const std::optional<QVariantMap> &answer, const std::optional<NSError> &parseError,
                     const std::optional<NSError> &requestError);
@@ -164,8 +165,8 @@ private:
     void _cleanup();
 
     std::weak_ptr<VimeoPostDelegate> _delegate;
-    std::optional<NSURL> _baseURL; // the REST endpoint
-    qint32 _uploadState = VimeoUploadStateIdle;
+    std::optional<NSURL> _baseURL;                           // the REST endpoint
+    std::atomic<qint32> _uploadState = VimeoUploadStateIdle; // read from any thread
     QVariant _videoID;
     QVariant _ticketID;
     std::optional<NSURL> _uploadEndpoint;

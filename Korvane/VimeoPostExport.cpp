@@ -74,15 +74,11 @@ void VimeoPost::_exportEnded(const std::shared_ptr<AVAssetExportSession> &sessio
 }
 
 void VimeoPost::_watchExport(const std::shared_ptr<AVAssetExportSession> &session) {
-    const auto timer = std::make_shared<std::weak_ptr<DispatchTimer>>();
-    _exportTimer = std::make_shared<DispatchTimer>(10s, 2s, [session, timer] {
+    _exportTimer = std::make_shared<DispatchTimer>(10s, 2s, [session] {
         KRLog("Export progress: %f", session->progress());
         const auto status = session->status();
-        const bool isUnderWay =
-            status == AVAssetExportSessionStatusWaiting || status == AVAssetExportSessionStatusExporting;
-        if (const auto running = timer->lock(); running && !isUnderWay) running->suspend();
+        return status == AVAssetExportSessionStatusWaiting || status == AVAssetExportSessionStatusExporting;
     });
-    *timer = _exportTimer;
 }
 
 } // namespace korvane

@@ -70,7 +70,7 @@ bool VimeoPost::resumeUploadToAccount(const std::shared_ptr<ACAccount> &uploadAc
     if (!uploadAccount || !title || !(isReadable || checkpoint.videoID.isValid()))
         return uploadToAccount(uploadAccount, error);
     account = uploadAccount;
-    _canUploadOverCellular = _isUsingCellular();
+    _canUploadOverCellular = checkpoint.mayUseCellular.value_or(_isUsingCellular());
     _videoID = checkpoint.videoID;
     if (_videoID.isValid()) {
         _setTitle();
@@ -192,7 +192,8 @@ void VimeoPost::_verify() {
 }
 
 void VimeoPost::_verified(const NSHTTPURLResponse &response) {
-    if (std::exchange(_ticketIsInDoubt, false) && response.statusCode >= 400) return _ticketRefused(response);
+    if (std::exchange(_ticketIsInDoubt, false) && response.statusCode >= 400)
+        return _ticketRefused(response.statusCode);
     _countOfBytesStored = bytesStoredOfRange(response.valueForHTTPHeaderField("Range").value_or(QByteArray()));
     const quint64 size = quint64(postSize());
     NSLog("verify: %lu (%lli)", _countOfBytesStored, qint64(size));
@@ -207,9 +208,9 @@ void VimeoPost::_verified(const NSHTTPURLResponse &response) {
     });
 }
 
-// The ticket of an earlier upload has run out, or Vimeo is in trouble just now.
-void VimeoPost::_ticketRefused(const NSHTTPURLResponse &response) {
-    if (response.statusCode >= 500) return failWithErrorCode(VimeoPostErrorBadResponse);
+// The ticket of an earlier upload has run out. Other refusals say nothing about the ticket.
+void VimeoPost::_ticketRefused(int status) {
+    if (status != 400 && status != 404 && status != 410) return failWithErrorCode(VimeoPostErrorBadResponse);
     _forgetTicket();
     _proceedAfterCheckpoint([self = shared_from_this()] { self->_checkQuota(); });
 }
@@ -231,8 +232,8 @@ void VimeoPost::_commit() {
 void VimeoPost::_committed(const std::optional<QVariantMap> &answer, const std::optional<NSError> &parseError,
                            const std::optional<NSError> &requestError) {
     if (answer) {
-        _commitSent = false;
         _videoID = answer->value(QStringLiteral("ticket")).toMap().value(QStringLiteral("video_id"));
+        _commitSent = textValue(_videoID).isEmpty(); // an answer without an id leaves it open
         return _proceedAfterCheckpoint([self = shared_from_this()] { self->_setTitle(); });
     }
     // Only the request layer's own error starts anew; Vimeo's word for it, found by the parser, is final.

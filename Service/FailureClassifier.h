@@ -13,17 +13,19 @@ Verdict verdictOnFlickrRun(const RunOutcome &outcome, bool wantsPhotoSet);
 Verdict verdictOnVimeoRun(const RunOutcome &outcome);
 
 // A verify that was answered with an error: what is stored is not known now, and will be asked for again.
-Verdict verdictOnRefusedVerify(int status);
+Verdict verdictOnRefusedVerify(const UploadContext::Snapshot &request);
 
 // What is known of a commit that did not end with a video id.
 enum class CommitFate {
-    NotDone, // it did not reach Vimeo, or Vimeo was too busy for it
+    NotDone, // it did not reach Vimeo, or Vimeo could not look at it just now
     Refused, // Vimeo has said no
     Unknown  // the video may be there
 };
 CommitFate fateOfCommit(const UploadContext::Snapshot &request);
 // A commit that nobody knows the answer of is not sent again without a person having looked.
 Verdict verdictOnUnansweredCommit();
+// A commit is not sent before it is on the disk that it will be.
+Verdict verdictOnUnrecordedCommit();
 
 } // namespace FailureClassifier
 

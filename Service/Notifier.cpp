@@ -15,21 +15,26 @@ Notifier::Notifier(QDBusConnection bus) : _bus(std::move(bus)) {
 }
 
 void Notifier::uploadFinished(const UploadJob &job) {
-    ++(job.state == UploadState::Done ? _done : _failed);
-    _lastTitle = job.title;
-    if (job.error) _lastReason = job.error->localizedDescription();
+    Tally &tally = _tallies[job.service];
+    ++(job.state == UploadState::Done ? tally.done : tally.failed);
+    tally.lastTitle = job.title;
+    if (job.error) tally.lastReason = job.error->localizedDescription();
     _gathering.start();
 }
 
 void Notifier::_tell() {
-    const auto photos = [](int count) {
-        return count == 1 ? QStringLiteral("1 photo") : QStringLiteral("%1 photos").arg(count);
-    };
-    if (_done > 0)
-        _notify(QStringLiteral("%1 shared to Flickr").arg(photos(_done)), _done == 1 ? _lastTitle : QString());
-    if (_failed > 0) _notify(QStringLiteral("%1 could not be shared").arg(photos(_failed)), _lastReason);
-    _done = 0;
-    _failed = 0;
+    for (const auto &[service, tally] : _tallies) {
+        const QString what = service == flickrServiceID ? QStringLiteral("photo") : QStringLiteral("video");
+        const auto counted = [&](int count) {
+            return count == 1 ? QStringLiteral("1 ") + what : QStringLiteral("%1 %2s").arg(count).arg(what);
+        };
+        if (tally.done > 0)
+            _notify(QStringLiteral("%1 shared to %2").arg(counted(tally.done), nameOfService(service)),
+                    tally.done == 1 ? tally.lastTitle : QString());
+        if (tally.failed > 0)
+            _notify(QStringLiteral("%1 could not be shared").arg(counted(tally.failed)), tally.lastReason);
+    }
+    _tallies.clear();
 }
 
 void Notifier::_notify(const QString &summary, const QString &body) const {

@@ -7,10 +7,12 @@
 #include <QObject>
 #include <QTimer>
 
+#include <map>
+
 namespace korvane {
 
-// Uploads that end close together are told of in one notification. Without a notification service nothing happens.
-// Thread: the main thread.
+// Uploads that end close together are told of in one notification for each web service. Without a notification service
+// nothing happens. Thread: the main thread.
 class Notifier : public QObject {
     Q_OBJECT
 public:
@@ -18,15 +20,18 @@ public:
     void uploadFinished(const UploadJob &job);
 
 private:
+    struct Tally {
+        int done = 0;
+        int failed = 0;
+        QString lastTitle;
+        QString lastReason;
+    };
     void _tell();
     void _notify(const QString &summary, const QString &body) const;
 
     QDBusConnection _bus;
     QTimer _gathering;
-    int _done = 0;
-    int _failed = 0;
-    QString _lastTitle;
-    QString _lastReason;
+    std::map<QString, Tally> _tallies; // by service
 };
 
 } // namespace korvane

@@ -33,6 +33,12 @@ PostCheck::Objection objectionWithText(Reason code, const QString &text) {
     return {NSError::errorWithDescription(PostCheck::ErrorDomain, code, text), code == NoRoom};
 }
 
+// Devices have other numbers after a restart, so what was noted in an earlier life is compared without them.
+bool isSameFile(const std::optional<FileIdentity> &now, const std::optional<FileIdentity> &noted) {
+    return now && noted && now->inode == noted->inode && now->size == noted->size &&
+           now->modifiedNanoseconds == noted->modifiedNanoseconds;
+}
+
 NSError changedError(const QString &name) {
     return objectionWithText(FileChanged,
                              QStringLiteral("The file %1 has changed since it was shared. Share it again.").arg(name))
@@ -50,7 +56,7 @@ std::optional<PostCheck::Objection> objectionToFile(const NSURL &url, const Uplo
                                  QStringLiteral("The file cannot be read (%1). Bring it back, then retry.")
                                      .arg(error->localizedDescription()));
     if (contents->length() == 0) return objectionWithText(FileEmpty, QStringLiteral("The file %1 is empty.").arg(name));
-    if (!job.source || contents->identity() != *job.source) return PostCheck::Objection{changedError(name)};
+    if (!isSameFile(contents->identity(), job.source)) return PostCheck::Objection{changedError(name)};
     if (data) *data = contents;
     return std::nullopt;
 }
@@ -120,7 +126,8 @@ std::optional<PostCheck::Objection> PostCheck::prepare(const VimeoPost &post, co
 
 std::optional<NSError> PostCheck::objectionToChange(const VimeoPost &post, const UploadJob &job) {
     if (!job.source || !post.dataReader) return std::nullopt;
-    if (FileIdentity::ofDescriptor(post.dataReader->readHandle->file()->get()) == job.source) return std::nullopt;
+    if (isSameFile(FileIdentity::ofDescriptor(post.dataReader->readHandle->file()->get()), job.source))
+        return std::nullopt;
     return changedError(QFile::decodeName(post.assetURL->fileSystemRepresentation()));
 }
 

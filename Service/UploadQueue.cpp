@@ -170,6 +170,10 @@ bool UploadQueue::_reached(const UploadJob &reached, bool durably) {
         const std::lock_guard lock(_runningMutex);
         found->second.job = reached;
     }
+    if (reached.failures == 0) _holds[reached.service].failures = 0;
+    // What was spared during its commit can be stopped now.
+    const bool isAwaitingCommit = reached.video && reached.video->commitSent;
+    if (found->second.stopReason != StopReason::None && !isAwaitingCommit) found->second.context->cancel();
     return _store->update(reached, durably);
 }
 

@@ -16,7 +16,8 @@ UploadProgress progressOf(const UploadJob &job, const UploadContext::Snapshot &r
     const qint64 total = job.bytesTotal != 0 ? job.bytesTotal : request.bytesTotal;
     if (job.photoID != 0) return {QString::number(job.id), total, total, total};
     if (job.video) {
-        const qint64 stored = job.video->videoID.isValid() ? total : std::min(qint64(job.video->bytesStored), total);
+        const qint64 stored =
+            job.video->videoID.isValid() ? total : qint64(std::min(job.video->bytesStored, quint64(total)));
         return {QString::number(job.id), std::min(stored + request.bytesSent, total), stored, total};
     }
     return {QString::number(job.id), std::min(request.bytesSent, total), 0, total};
@@ -82,7 +83,10 @@ void UploadQueue::retry(const QStringList &ids, const Answer &answer) {
                 job->failingSince = 0;
                 // One that was set aside is tried alone again: one more fatal end sets it aside at once.
                 job->deaths = std::min<qint64>(job->deaths, 1);
-                if (job->video) job->video->commitSent = false; // whoever asks has looked whether the video is there
+                if (job->video) {
+                    job->video->commitSent = false;     // whoever asks has looked whether the video is there,
+                    job->video->mayUseCellular.reset(); // and knows over which network it goes now
+                }
                 jobs.push_back(*job);
             }
             _holds.clear();
@@ -134,6 +138,9 @@ void UploadQueue::setPaused(bool paused, const Answer &answer) {
                 _stopRunning(StopReason::Pause);
             } else {
                 _holds.clear();
+                for (auto &[id, running] : _running)
+                    if (running.stopReason == StopReason::Pause && !running.context->isCancelled())
+                        running.stopReason = StopReason::None;
                 _schedule();
             }
             return QVariant();

@@ -29,7 +29,7 @@ using namespace std::chrono_literals;
 constexpr auto progressInterval = 250ms;
 constexpr auto powerRefreshInterval = 120s;
 constexpr auto idleInterval = 5s;
-constexpr auto stopLimit = 10s;
+constexpr auto stopLimit = 45s;  // a commit may have to be waited for
 constexpr int lockAttempts = 50; // a service that is just ending lets go within seconds
 constexpr int lockAttemptMilliseconds = 100;
 

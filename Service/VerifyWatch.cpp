@@ -16,7 +16,7 @@ bool VerifyWatch::heard(quint64 bytesStored) {
     _withoutRecord = bytesStored > _most ? 0 : _withoutRecord + 1;
     _last = bytesStored;
     _most = std::max(_most, bytesStored);
-    return _withoutAdvance < patience && _withoutRecord < patience + 3 * (_most / chunkSize);
+    return _withoutAdvance < patience && _withoutRecord < patience + _most / chunkSize;
 }
 
 } // namespace korvane

@@ -4,6 +4,9 @@
 #include "Korvane/VimeoPost.h"
 #include "Platform/AVFoundation/AVError.h"
 #include "Platform/Foundation/NSJSONSerialization.h"
+#include "Platform/Foundation/NSNumber.h"
+
+#include <cerrno>
 
 namespace korvane {
 namespace {
@@ -80,29 +83,34 @@ Verdict FailureClassifier::verdictOnVimeoRun(const RunOutcome &outcome) {
     return verdictOnPostError(error, request);
 }
 
-Verdict FailureClassifier::verdictOnRefusedVerify(int status) {
+Verdict FailureClassifier::verdictOnRefusedVerify(const UploadContext::Snapshot &request) {
+    if (request.httpStatus == 401 || request.httpStatus == 403)
+        return verdictOnPostError(NSError(VimeoPublishPostErrorDomain, VimeoPostErrorServiceCode401), request);
     return Verdict::waiting(
         WaitReason::NextTry, NSError(VimeoPublishPostErrorDomain, VimeoPostErrorBadResponse),
-        QStringLiteral("Vimeo did not say how much of the video it has (HTTP status %1).").arg(status));
+        QStringLiteral("Vimeo did not say how much of the video it has (HTTP status %1).").arg(request.httpStatus));
 }
 
 FailureClassifier::CommitFate FailureClassifier::fateOfCommit(const UploadContext::Snapshot &request) {
-    if (const auto &error = request.transportError) {
-        // A job is only cancelled before its commit is sent.
-        const bool neverSent =
-            error->code() == NSURLErrorCannotFindHost || error->code() == NSURLErrorCannotConnectToHost ||
-            error->code() == NSURLErrorNotConnectedToInternet || error->code() == NSURLErrorCancelled ||
-            (error->code() <= NSURLErrorSecureConnectionFailed && error->code() >= NSURLErrorClientCertificateRequired);
-        return neverSent ? CommitFate::NotDone : CommitFate::Unknown;
-    }
-    if (!refusalIn(request).isEmpty()) return CommitFate::Refused;
-    return request.httpStatus == 503 || request.httpStatus == 429 ? CommitFate::NotDone : CommitFate::Unknown;
+    if (request.transportError) return request.wasSent ? CommitFate::Unknown : CommitFate::NotDone;
+    const QVariantMap refusal = refusalIn(request);
+    const int status = request.httpStatus;
+    if (refusal.isEmpty()) return status == 503 || status == 429 ? CommitFate::NotDone : CommitFate::Unknown;
+    const bool concernsTheRequest = isServerTrouble(status) || status == 401 || status == 403 ||
+                                    integerValue(refusal.value(QStringLiteral("code"))) == 401;
+    return concernsTheRequest ? CommitFate::NotDone : CommitFate::Refused;
 }
 
 Verdict FailureClassifier::verdictOnUnansweredCommit() {
     return Verdict::failed(NSError(VimeoPublishPostErrorDomain, VimeoPostErrorEmptyResponse),
                            QStringLiteral("Vimeo did not say whether it has the whole video: the video may be on "
                                           "Vimeo; look there, then retry or remove."));
+}
+
+Verdict FailureClassifier::verdictOnUnrecordedCommit() {
+    return Verdict::waiting(WaitReason::NextTry, NSError(NSPOSIXErrorDomain, ENOSPC),
+                            QStringLiteral("The whole video is at Vimeo, but the upload queue cannot be written. Make "
+                                           "room on the disk; it goes on by itself."));
 }
 
 } // namespace korvane

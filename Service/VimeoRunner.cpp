@@ -15,6 +15,8 @@
 
 #include <QDir>
 
+#include <cerrno>
+
 namespace korvane {
 namespace {
 
@@ -51,9 +53,12 @@ private:
     std::shared_ptr<VimeoPost> _post;
     VerifyWatch _watch;
     const QString _temporaryFolder;
-    std::optional<Verdict> _brokenOff; // from here, and why
-    bool _commitWasHeldBack = false;
 };
+
+// Whether there is more at Vimeo than there was.
+bool hasAdvanced(const std::optional<VimeoCheckpoint> &before, const VimeoCheckpoint &now) {
+    return before && (now.bytesStored > before->bytesStored || now.videoID.isValid());
+}
 
 void VimeoRun::begin() {
     _post = VimeoPost::initWithDictionary(_run.record);
@@ -61,13 +66,18 @@ void VimeoRun::begin() {
     if (const auto objection = PostCheck::prepare(*_post, _run.job))
         return _endWithOutcome(
             {objection->mayPass ? RunOutcome::Hindered : RunOutcome::Unusable, objection->error, {}, 0});
+    if (_run.job.video && _run.job.video->hasTicket())
+        if (const auto objection = TicketCheck::objection(*_run.job.video))
+            return _endWithOutcome({RunOutcome::Unusable, objection, {}, 0});
     const auto account = accountOfJob(_run.job, *_run.accounts);
     if (!account || !account->credential()) return _endWithOutcome(withoutAccount(_run.job));
     account->setUploadContext(_run.context);
-    makePrivateFolder(_temporaryFolder);
+    if (!makePrivateFolder(_temporaryFolder))
+        return _endWithOutcome({RunOutcome::Hindered, NSError::errorWithErrno(errno, _temporaryFolder), {}, 0});
     _post->temporaryDirectory = _temporaryFolder;
     if (!_run.job.exportFile.isEmpty())
         _post->dataReader = KRDataReader::dataReaderWithURL(_run.spool->urlOf(_run.job.exportFile));
+    if (!_post->dataReader) _run.job.exportFile.clear(); // it is gone; the next one will be kept
     _post->checkpointChanged = [self = shared_from_this()](const VimeoCheckpoint &checkpoint,
                                                            const std::function<void()> &proceed) {
         dispatchGlobal([=] { self->_reached(checkpoint, proceed); });
@@ -78,24 +88,18 @@ void VimeoRun::begin() {
         dispatchMain([self = shared_from_this(), error] { self->_finished(error); });
 }
 
-// On a pool thread. Whatever stands against going on, the upload ends through its own failure path.
+// On a pool thread. Where something stands against going on, the upload is simply not told to proceed.
 void VimeoRun::_reached(const VimeoCheckpoint &checkpoint, const std::function<void()> &proceed) {
     _keepExport();
-    _brokenOff = _reasonToBreakOff(checkpoint);
-    if (_brokenOff) {
-        _commitWasHeldBack = checkpoint.commitSent;
-        _run.context->cancel();
-        return dispatchMain(proceed);
-    }
+    if (const auto reason = _reasonToBreakOff(checkpoint)) return _end(*reason);
+    if (hasAdvanced(_run.job.video, checkpoint)) _run.job.failures = _run.job.failingSince = 0;
     _run.job.video = checkpoint;
     _run.job.bytesTotal = _post->postSize();
     const bool mustNotComeTwice = checkpoint.commitSent || checkpoint.videoID.isValid();
-    _run.reached(_run.job, mustNotComeTwice, [self = shared_from_this(), checkpoint, proceed](bool isRecorded) {
-        if (!isRecorded && checkpoint.commitSent) {
-            self->_commitWasHeldBack = true;
-            self->_run.context->cancel();
-        }
-        dispatchMain(proceed);
+    _run.reached(_run.job, mustNotComeTwice, [self = shared_from_this(), proceed](bool isRecorded) {
+        if (isRecorded || !self->_run.job.video->commitSent) return dispatchMain(proceed);
+        self->_run.job.video->commitSent = false;
+        self->_end(FailureClassifier::verdictOnUnrecordedCommit());
     });
 }
 
@@ -111,34 +115,27 @@ void VimeoRun::_keepExport() {
 
 std::optional<Verdict> VimeoRun::_reasonToBreakOff(const VimeoCheckpoint &checkpoint) {
     const auto failed = [](const NSError &error) { return Verdict{UploadState::Failed, WaitReason::None, error}; };
+    if (checkpoint.videoID.isValid() && !checkpoint.commitSent) return std::nullopt; // what matters is there
+    if (checkpoint.commitSent && _run.job.video && _run.job.video->commitSent)
+        return FailureClassifier::verdictOnUnansweredCommit(); // answered, but without the video's id
     if (const auto changed = PostCheck::objectionToChange(*_post, _run.job)) return failed(*changed);
-    if (_post->uploadState() == VimeoUploadStateGettingTicket) {
-        const auto objection = TicketCheck::objection(checkpoint);
-        return objection ? std::optional(failed(*objection)) : std::nullopt;
-    }
-    if (_post->uploadState() != VimeoUploadStateVerifyingChunk || !checkpoint.hasTicket()) return std::nullopt;
+    if (!checkpoint.hasTicket() && _post->uploadState() != VimeoUploadStateGettingTicket) return std::nullopt;
+    if (const auto objection = TicketCheck::objection(checkpoint)) return failed(*objection);
+    if (_post->uploadState() != VimeoUploadStateVerifyingChunk) return std::nullopt;
     // The upload takes a refused verify for an empty endpoint and would send everything again.
-    if (const int status = _run.context->snapshot().httpStatus; status >= 400)
-        return FailureClassifier::verdictOnRefusedVerify(status);
+    const auto request = _run.context->snapshot();
+    if (request.httpStatus >= 400) return FailureClassifier::verdictOnRefusedVerify(request);
     return _watch.heard(checkpoint.bytesStored) ? std::nullopt : std::optional(failed(TicketCheck::stuckError()));
 }
 
 void VimeoRun::_finished(const std::optional<NSError> &error) {
     const auto request = _run.context->snapshot();
     auto &video = _run.job.video;
-    if (_brokenOff) return _end(*_brokenOff);
-    if (video && video->commitSent && _commitWasHeldBack) video->commitSent = false;
     if (error && video && video->commitSent) {
-        switch (FailureClassifier::fateOfCommit(request)) {
-        case FailureClassifier::CommitFate::Unknown:
-            return _end(FailureClassifier::verdictOnUnansweredCommit());
-        case FailureClassifier::CommitFate::NotDone:
-            video->commitSent = false;
-            break;
-        case FailureClassifier::CommitFate::Refused:
-            video.reset(); // a later try begins with a new ticket
-            break;
-        }
+        const auto fate = FailureClassifier::fateOfCommit(request);
+        if (fate == FailureClassifier::CommitFate::Unknown) return _end(FailureClassifier::verdictOnUnansweredCommit());
+        video->commitSent = false;
+        if (fate == FailureClassifier::CommitFate::Refused) video.reset(); // a later try begins with a new ticket
     }
     _endWithOutcome({RunOutcome::Finished, error, request, 0});
 }

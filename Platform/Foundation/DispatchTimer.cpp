@@ -12,7 +12,7 @@ namespace korvane {
 // Kept alive by what is queued for the main thread; the QTimer is touched there alone.
 class DispatchTimer::State : public std::enable_shared_from_this<State> {
 public:
-    State(std::chrono::milliseconds interval, std::chrono::milliseconds leeway, std::function<void()> handler)
+    State(std::chrono::milliseconds interval, std::chrono::milliseconds leeway, std::function<bool()> handler)
         : _interval(interval), _leeway(leeway), _handler(std::move(handler)) {}
 
     void start() {
@@ -40,28 +40,24 @@ private:
         return _suspended;
     }
     void _fire() {
-        if (!_isSuspended()) _handler();
+        if (!_isSuspended() && !_handler()) suspend();
     }
 
     const std::chrono::milliseconds _interval;
     const std::chrono::milliseconds _leeway;
-    const std::function<void()> _handler;
+    const std::function<bool()> _handler;
     std::mutex _mutex;
     bool _suspended = false;
     std::unique_ptr<QTimer> _timer;
 };
 
 DispatchTimer::DispatchTimer(std::chrono::milliseconds interval, std::chrono::milliseconds leeway,
-                             std::function<void()> handler)
+                             std::function<bool()> handler)
     : _state(std::make_shared<State>(interval, leeway, std::move(handler))) {
     _state->start();
 }
 
 DispatchTimer::~DispatchTimer() {
-    _state->suspend();
-}
-
-void DispatchTimer::suspend() {
     _state->suspend();
 }
 

@@ -43,7 +43,10 @@ QString NSURL::scheme() const {
 }
 
 bool NSURL::isLoopback() const {
-    return host().compare(QLatin1String("localhost"), Qt::CaseInsensitive) == 0 || QHostAddress(host()).isLoopback();
+    QString name = host().toLower();
+    if (name.endsWith(u'.')) name.chop(1);
+    return name == QLatin1String("localhost") || name.endsWith(QLatin1String(".localhost")) ||
+           QHostAddress(name).isLoopback();
 }
 
 QString NSURL::query() const {

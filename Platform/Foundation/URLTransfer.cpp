@@ -249,6 +249,7 @@ size_t URLTransfer::_onWrite(char *bytes, size_t size, size_t count, void *self)
 // A request without a body needs no rewinding to be repeated, so it is stopped here.
 int URLTransfer::_onRequest(void *self, char *, char *, int, int) {
     auto *transfer = static_cast<URLTransfer *>(self);
+    if (const auto &context = transfer->_request.uploadContext) context->requestGoesOut();
     if (++transfer->_requests == 1 || transfer->_bodyLength > 0) return CURL_PREREQFUNC_OK;
     transfer->_localError = NSError::errorWithDescription(NSURLErrorDomain, NSURLErrorNetworkConnectionLost,
                                                           QStringLiteral("The web service closed the connection."));

@@ -4,7 +4,7 @@
 namespace korvane {
 namespace {
 
-constexpr qsizetype longestAnswer = 2048; // as much as anybody reads of it
+constexpr qsizetype longestAnswer = 65536; // refusals have room in it, whatever they explain
 
 } // namespace
 
@@ -21,8 +21,13 @@ void UploadContext::cancel() {
 
 void UploadContext::requestBegan(qint64 bytesTotal, std::function<void()> wake) {
     const std::lock_guard lock(_mutex);
-    _snapshot = {0, bytesTotal, 0, std::nullopt, {}};
+    _snapshot = {.bytesTotal = bytesTotal};
     _wake = std::move(wake);
+}
+
+void UploadContext::requestGoesOut() {
+    const std::lock_guard lock(_mutex);
+    _snapshot.wasSent = true;
 }
 
 void UploadContext::requestSent(qint64 bytesSent) {

@@ -19,11 +19,12 @@ namespace korvane {
 class UploadContext {
 public:
     struct Snapshot {
-        qint64 bytesSent = 0;                  // of the current request's body, without what still waits in the socket
-        qint64 bytesTotal = 0;                 // of the current request's body
-        int httpStatus = 0;                    // of the last answer; 0 while the current request has none
-        std::optional<NSError> transportError; // of the last request that ended
-        QByteArray answer;                     // the beginning of its body
+        qint64 bytesSent = 0;  // of the current request's body, without what still waits in the socket
+        qint64 bytesTotal = 0; // of the current request's body
+        bool wasSent = false;  // a connection for the current request stood, and it went out
+        int httpStatus = 0;    // of the last answer; 0 while the current request has none
+        std::optional<NSError> transportError = {}; // of the last request that ended
+        QByteArray answer = {};                     // the beginning of its body
     };
 
     Snapshot snapshot() const;
@@ -36,6 +37,7 @@ public:
 
     // For the send: a request of bytesTotal body bytes begins; wake interrupts its wait when the job is cancelled.
     void requestBegan(qint64 bytesTotal, std::function<void()> wake);
+    void requestGoesOut();
     void requestSent(qint64 bytesSent);
     void requestEnded(int httpStatus, const std::optional<NSError> &error, const QByteArray &answer);
 

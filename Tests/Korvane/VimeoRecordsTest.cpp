@@ -80,8 +80,9 @@ TEST(VimeoCheckpoint, OutlivesBeingWrittenDown) {
     VimeoCheckpoint checkpoint;
     EXPECT_EQ(VimeoCheckpoint::withDictionary(checkpoint.dictionary()), checkpoint);
     EXPECT_EQ(VimeoCheckpoint::withDictionary({}), checkpoint);
-    checkpoint = {QStringLiteral("a1"), NSURL::URLWithString(QStringLiteral("http://v/upload?ticket_id=a1")),
-                  Q_UINT64_C(6'442'450'944), true, qint64(53)};
+    checkpoint = {QStringLiteral("a1"),      NSURL::URLWithString(QStringLiteral("http://v/upload?ticket_id=a1")),
+                  Q_UINT64_C(6'442'450'944), true,
+                  QStringLiteral("53"),      false};
     EXPECT_EQ(VimeoCheckpoint::withDictionary(checkpoint.dictionary()), checkpoint);
 }
 

@@ -98,8 +98,12 @@ TEST_F(Store, KeepsEveryFieldOverAReopening) {
 
     const FileIdentity source{1, 18446744073709551615ULL, 3, 4};
     const NSError error = NSError::errorWithDescription(QStringLiteral("D"), -7, QStringLiteral("text"));
-    const VimeoCheckpoint video{QStringLiteral("t1"), NSURL::URLWithString(QStringLiteral("http://v/u?t=1")), 4, true,
-                                53};
+    const VimeoCheckpoint video{QStringLiteral("t1"),
+                                NSURL::URLWithString(QStringLiteral("http://v/u?t=1")),
+                                4,
+                                true,
+                                QStringLiteral("53"),
+                                true};
     fieldsOf(job) =
         std::tuple(1, vimeoServiceID, UploadState::Waiting, WaitReason::SignIn, QStringLiteral("title"),
                    QStringLiteral("account"), QStringLiteral("name"), QStringLiteral("spooled"), source,

@@ -12,11 +12,12 @@ using namespace korvane::test;
 namespace {
 
 UploadContext::Snapshot answered(int status, const QByteArray &body) {
-    return {0, 0, status, std::nullopt, body};
+    return {.httpStatus = status, .answer = body};
 }
 
-UploadContext::Snapshot failed(qint64 code) {
-    return {0, 0, 0, NSError::errorWithDescription(NSURLErrorDomain, code, QStringLiteral("reason")), {}};
+UploadContext::Snapshot failed(qint64 code, bool wasSent = true) {
+    return {.wasSent = wasSent,
+            .transportError = NSError::errorWithDescription(NSURLErrorDomain, code, QStringLiteral("reason"))};
 }
 
 } // namespace
@@ -62,10 +63,8 @@ TEST(VimeoClassifier, TellsPassingFailuresFromFinalOnesAndSaysWhatToDo) {
 TEST(VimeoClassifier, KnowsWhatBecameOfACommitOrThatNobodyDoes) {
     using enum FailureClassifier::CommitFate;
     const std::pair<UploadContext::Snapshot, FailureClassifier::CommitFate> cases[] = {
-        {failed(NSURLErrorCannotConnectToHost), NotDone},
-        {failed(NSURLErrorNotConnectedToInternet), NotDone},
-        {failed(NSURLErrorServerCertificateUntrusted), NotDone},
-        {failed(NSURLErrorCancelled), NotDone},
+        {failed(NSURLErrorCannotConnectToHost, false), NotDone},
+        {failed(NSURLErrorTimedOut, false), NotDone},
         {failed(NSURLErrorNetworkConnectionLost), Unknown},
         {failed(NSURLErrorTimedOut), Unknown},
         {failed(NSURLErrorUnknown), Unknown},
@@ -73,6 +72,8 @@ TEST(VimeoClassifier, KnowsWhatBecameOfACommitOrThatNobodyDoes) {
         {answered(502, "<html>"), Unknown},
         {answered(200, ""), Unknown},
         {answered(200, R"({"err":{"code":703}})"), Refused},
+        {answered(503, R"({"err":{"code":105}})"), NotDone},
+        {answered(200, R"({"err":{"code":"401"}})"), NotDone},
     };
     for (const auto &[request, fate] : cases)
         EXPECT_EQ(FailureClassifier::fateOfCommit(request), fate)
@@ -83,14 +84,15 @@ TEST(TicketCheck, KeepsVideosOutOfTheLocalNetwork) {
     TemporaryHome home;
     const auto objects = [&](const char *endpoint) {
         return TicketCheck::objection(
-                   {QStringLiteral("1"), NSURL::URLWithString(QLatin1String(endpoint)), 0, false, {}})
+                   {QStringLiteral("1"), NSURL::URLWithString(QLatin1String(endpoint)), 0, false, {}, {}})
             .has_value();
     };
     home.setEnvironment("KORVANE_VIMEO_URL", "https://vimeo.example");
     for (const char *endpoint :
          {"http://localhost/", "http://127.0.0.2/", "http://[::1]/", "http://10.1.2.3/", "http://172.31.0.1/",
           "http://192.168.0.1/", "http://169.254.169.254/", "http://0.0.0.0/", "http://[::ffff:10.0.0.1]/",
-          "http://[fe80::1]/", "http://[fd00::1]/", "ftp://host/"})
+          "http://[fe80::1]/", "http://[fd00::1]/", "http://x.localhost/", "http://localhost./", "http://100.64.0.1/",
+          "http://[::127.0.0.1]/", "ftp://host/"})
         EXPECT_TRUE(objects(endpoint)) << endpoint;
     for (const char *endpoint : {"http://upload.vimeo.example:8080/x", "https://172.32.0.1/", "https://[2001:db8::1]/"})
         EXPECT_FALSE(objects(endpoint)) << endpoint;
