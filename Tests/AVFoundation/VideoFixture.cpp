@@ -3,14 +3,14 @@
 
 #include "Platform/AssetsLibrary/ALAssetsLibrary.h"
 #include "Platform/Foundation/ChildProcess.h"
-#include "Tests/Support/WaitFor.h"
 
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <atomic>
+#include <thread>
 
 namespace korvane::test {
 
@@ -18,52 +18,42 @@ namespace {
 
 // What the program wrote to its standard output; a program that fails says why in the test's own output. QProcess
 // would confuse the thread sanitizer.
-QByteArray outputOf(const char *program, const QString &arguments, const QByteArray &path) {
-    QByteArrayList list;
-    for (const QString &argument : arguments.split(u' ', Qt::SkipEmptyParts))
-        list.append(argument == QLatin1String("FILE") ? path : argument.toUtf8());
+QByteArray outputOf(const char *program, const QByteArray &arguments, const QByteArray &path) {
+    QByteArrayList list = arguments.simplified().split(' ');
+    std::replace(list.begin(), list.end(), QByteArray("FILE"), path);
     ChildProcess child(program, list);
     QByteArray output;
     child.setOutputHandler([&output](const QByteArray &piece) { output += piece; });
     const auto result = child.run();
     EXPECT_TRUE(result && result->succeeded())
-        << qPrintable(arguments) << (result ? result->standardError.constData() : "");
+        << arguments.constData() << (result ? result->standardError.constData() : "");
     return output;
 }
 
-QByteArray ffmpeg(const QString &arguments, const QByteArray &path) {
-    return outputOf("ffmpeg", QStringLiteral("-nostdin -v error -threads 2 ") + arguments, path);
+QByteArray ffmpeg(const QByteArray &arguments, const QByteArray &path) {
+    return outputOf("ffmpeg", "-nostdin -v error -threads 2 " + arguments, path);
 }
 
 } // namespace
 
-VideoTest::VideoTest() {
-    QDir().mkpath(home.path(QStringLiteral("library/Videos")));
-}
-
-QByteArray VideoTest::makeVideo(const QString &name, const QString &arguments) const {
-    const QByteArray path = QFile::encodeName(home.path(QStringLiteral("library/Videos/") + name));
-    ffmpeg(QStringLiteral("-f lavfi -i testsrc2=s=320x240:r=25:d=2,noise=alls=20:allf=t "
-                          "-f lavfi -i anoisesrc=d=2:a=0.3,lowpass=4000 ") +
-               arguments + QStringLiteral(" FILE"),
+QByteArray VideoTest::makeVideo(const QByteArray &name, const QByteArray &arguments) const {
+    const QByteArray path = home.file("library/Videos/" + name, {});
+    ffmpeg("-y -f lavfi -i testsrc2=s=320x240:r=25:d=2,noise=alls=20:allf=t "
+           "-f lavfi -i anoisesrc=d=2:a=0.3,lowpass=4000 " +
+               arguments + " FILE",
            path);
     return path;
 }
 
-QByteArray VideoTest::makeUsualVideo(const QString &name) const {
-    return makeVideo(name,
-                     QStringLiteral("-c:v libx264 -preset ultrafast -pix_fmt yuv420p -c:a aac -movflags +faststart"));
-}
-
 QByteArray VideoTest::turn(const QByteArray &path) const {
     const QByteArray turned = path + ".turned.mp4";
-    ffmpeg(QStringLiteral("-i %1 -c copy -metadata:s:v rotate=90 FILE").arg(QFile::decodeName(path)), turned);
+    ffmpeg("-i " + path + " -c copy -metadata:s:v rotate=90 FILE", turned);
     return turned;
 }
 
 void VideoTest::replaceProgram(const QByteArray &program, const QByteArray &script) {
-    const QByteArray path = home.file(QString::fromLatin1("replaced-" + program),
-                                      "#!/bin/sh\nfor out; do :; done; out=${out#file:}\n" + script);
+    const QByteArray path =
+        home.file("replaced-" + program, "#!/bin/sh\nfor out; do :; done; out=${out#file:}\n" + script);
     QFile::setPermissions(QFile::decodeName(path), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     home.setEnvironment("KORVANE_" + program.toUpper(), path);
 }
@@ -76,25 +66,21 @@ std::shared_ptr<AVAssetExportSession> VideoTest::sessionFor(const NSURL &url, co
     return session;
 }
 
-std::shared_ptr<AVAssetExportSession> VideoTest::sessionFor(const QByteArray &path,
-                                                            const std::optional<QString> &preset) const {
-    return sessionFor(NSURL::fileURLWithPath(path), preset);
-}
-
-void runToEnd(const std::shared_ptr<AVAssetExportSession> &session) {
+std::optional<NSError> runToEnd(const std::shared_ptr<AVAssetExportSession> &session) {
     std::atomic<int> calls = 0;
     std::atomic<bool> onOtherThread = false;
     session->exportAsynchronouslyWithCompletionHandler([&, caller = std::this_thread::get_id()] {
         onOtherThread = std::this_thread::get_id() != caller;
         ++calls;
     });
-    ASSERT_TRUE(waitFor([&] { return calls > 0; }, 60'000));
+    if (!waitFor([&] { return calls > 0; }, 60'000)) qFatal("an export does not end");
     EXPECT_EQ(calls, 1);
     EXPECT_TRUE(onOtherThread);
+    return session->error();
 }
 
-QString streamsOf(const QByteArray &path) {
-    const QByteArray answer = outputOf("ffprobe", QStringLiteral("-v error -of json -show_streams FILE"), path);
+QByteArray streamsOf(const QByteArray &path) {
+    const QByteArray answer = outputOf("ffprobe", "-v error -of json -show_streams FILE", path);
     QStringList words;
     for (const QJsonValue &stream : QJsonDocument::fromJson(answer)[u"streams"].toArray()) {
         words << stream[u"codec_name"].toString();
@@ -104,11 +90,11 @@ QString streamsOf(const QByteArray &path) {
         for (const QJsonValue &data : stream[u"side_data_list"].toArray())
             words << QStringLiteral("turned by %1").arg(data[u"rotation"].toInt());
     }
-    return words.join(u' ');
+    return words.join(u' ').toUtf8();
 }
 
 QByteArray checksumOfVideo(const QByteArray &path) {
-    return ffmpeg(QStringLiteral("-xerror -i FILE -f null - -map 0:v:0 -c copy -f md5 pipe:1"), path);
+    return ffmpeg("-xerror -i FILE -f null - -map 0:v:0 -c copy -f md5 pipe:1", path);
 }
 
 } // namespace korvane::test

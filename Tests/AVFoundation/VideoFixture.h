@@ -2,27 +2,18 @@
 #pragma once
 
 #include "Platform/AVFoundation/AVAssetExportSession.h"
-#include "Tests/Support/TemporaryHome.h"
-
-#include <QByteArray>
-#include <QFile>
-#include <QString>
-
-#include <gtest/gtest.h>
-
-#include <thread>
+#include "Tests/Support/Testing.h"
 
 namespace korvane::test {
 
+// Arguments of ffmpeg for H.264 and AAC.
+inline const QByteArray usualVideo = "-c:v libx264 -preset ultrafast -pix_fmt yuv420p -c:a aac ";
+
 class VideoTest : public testing::Test {
 protected:
-    VideoTest();
-
     // Makes a video with ffmpeg's arguments: two seconds of moving pictures, 320 x 240, are its input 0, a varied sound
     // its input 1. Returns its path below the Videos folder of the photo library.
-    QByteArray makeVideo(const QString &name, const QString &arguments) const;
-    // H.264 and AAC, with the index first.
-    QByteArray makeUsualVideo(const QString &name = QStringLiteral("usual.mp4")) const;
+    QByteArray makeVideo(const QByteArray &name, const QByteArray &arguments = usualVideo) const;
 
     // A copy of a video that players are told to turn by 90 degrees.
     QByteArray turn(const QByteArray &path) const;
@@ -33,18 +24,16 @@ protected:
     // A session that exports to the output.
     std::shared_ptr<AVAssetExportSession> sessionFor(const NSURL &url, const std::optional<QString> &preset = {},
                                                      const std::optional<QByteArray> &fallback = {}) const;
-    std::shared_ptr<AVAssetExportSession> sessionFor(const QByteArray &path,
-                                                     const std::optional<QString> &preset = {}) const;
 
     TemporaryHome home;
     const QByteArray output = QFile::encodeName(home.path(QStringLiteral("made.mp4")));
 };
 
-// Starts the session and waits for its handler.
-void runToEnd(const std::shared_ptr<AVAssetExportSession> &session);
+// Starts the session, waits for its handler, and returns its error.
+std::optional<NSError> runToEnd(const std::shared_ptr<AVAssetExportSession> &session);
 
 // What ffprobe says of a file, in short: "mpeg4 320x240 yuv420p mp3"; a picture that players turn says so.
-QString streamsOf(const QByteArray &path);
+QByteArray streamsOf(const QByteArray &path);
 // Of the file's first video, as it is stored: the same for two files with the same video. Expects that everything in
 // the file can be decoded.
 QByteArray checksumOfVideo(const QByteArray &path);

@@ -1,6 +1,5 @@
 // Changes of the kernel's routes, in a network namespace of the test's own.
 #include "Platform/SystemConfiguration/NetworkWatch.h"
-#include "Platform/SystemConfiguration/NetworkRoute.h"
 #include "Tests/Support/Testing.h"
 
 #include <QProcess>
@@ -38,32 +37,6 @@ TEST(NetworkWatch, TellsOnceOfEachWayOutThatIsGained) {
     ASSERT_TRUE(ip("route add default dev lo"));
     EXPECT_TRUE(regainsMore(1, 5000));
     EXPECT_EQ(regained, 2);
-}
-
-TEST(NetworkRoute, ReadsTheKernelsTables) {
-    const QByteArray head4 = "Iface\tDestination\tGateway\tFlags\tRefCnt\tUse\tMetric\tMask\tMTU\tWindow\tIRTT\n";
-    const QByteArray zero(32, '0'), other = "fe80" + QByteArray(28, '0');
-    const auto route6 = [&zero](const QByteArray &destination, const char *prefix, const char *flags,
-                                const char *device) {
-        return destination + ' ' + prefix + ' ' + zero + " 00 " + zero + " 00000400 00000001 00000000 " + flags + ' ' +
-               device + '\n';
-    };
-    const std::tuple<QByteArray, QByteArray, bool> cases[] = {
-        {"", "", false},
-        {head4 + "eth0\t00000000\t0101A8C0\t0003\t0\t0\t100\t00000000\t0\t0\t0\n", "", true},
-        {head4 + "eth0\t0001A8C0\t00000000\t0001\t0\t0\t100\t00FFFFFF\t0\t0\t0\n", "", false},
-        {head4 + "*\t00000000\t00000000\t0200\t0\t0\t0\t00000000\t0\t0\t0\n", "", false}, // "unreachable default"
-        {head4, route6(zero, "00", "00000003", "eth0"), true},
-        {head4, route6(zero, "00", "00200200", "lo"), false},
-        {head4, route6(other, "40", "00000001", "eth0"), false},
-        {"eth0", "garbage\n\n", false},
-    };
-    const TemporaryHome root;
-    for (const auto &[ipv4, ipv6, wayOut] : cases) {
-        root.file("net/route", ipv4);
-        root.file("net/ipv6_route", ipv6);
-        EXPECT_EQ(NetworkRoute::hasDefaultRoute(root.path()), wayOut) << ipv4.constData() << ipv6.constData();
-    }
 }
 
 } // namespace
