@@ -79,6 +79,7 @@ TEST(Picture, LosesPlaceAndCameraData) {
     const QByteArray original = dataBytes("orientation-6.jpg");
     const PictureRun jpeg = runPicture({"convert", "--to", "jpeg"}, dataPath("orientation-6.jpg"));
     const PictureRun png = runPicture({"convert", "--to", "png"}, dataPath("orientation-6.jpg"));
+    ASSERT_TRUE(jpeg.status == 0 && png.status == 0);
     for (const char *trace : {"Exif", "Fixture", "secret title", "secretcity", "http://ns.adobe.com", "Photoshop"}) {
         ASSERT_TRUE(original.contains(trace)) << trace;
         EXPECT_FALSE(jpeg.output.contains(trace) || png.output.contains(trace)) << trace;
