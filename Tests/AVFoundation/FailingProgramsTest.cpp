@@ -112,6 +112,7 @@ TEST_F(ExportProgram, TellsHowFarItIsAndKeepsItsFileFromAnotherExport) {
     home.file("go", {});
     ASSERT_TRUE(waitFor([&] { return ended.load(); }));
     EXPECT_EQ(first->error(), std::nullopt);
+    EXPECT_EQ(first->status(), AVAssetExportSessionStatusCompleted);
     EXPECT_EQ(first->progress(), 1);
     EXPECT_TRUE(home.contents("made.mp4").startsWith("first"));
 }

@@ -1,18 +1,13 @@
 // Reading a file from any place in it, and removing one.
 #include "Platform/Foundation/NSFileHandle.h"
 #include "Platform/Foundation/NSFileManager.h"
-#include "Tests/Support/TemporaryHome.h"
-
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+#include "Tests/Support/Testing.h"
 
 #include <sys/stat.h>
 
 #include <cerrno>
 #include <limits>
+#include <tuple>
 
 namespace korvane::test {
 namespace {
@@ -20,7 +15,7 @@ namespace {
 TEST(NSFileHandle, ReadsFromWhereItStandsUpToTheEnd) {
     const TemporaryHome home;
     const QByteArray bytes = jpegOfSize(10'000);
-    const QByteArray path = home.file(QStringLiteral("clip #1.mp4"), bytes);
+    const QByteArray path = home.file("clip #1.mp4", bytes);
     const auto handle = NSFileHandle::fileHandleForReadingFromURL(NSURL::fileURLWithPath(path));
     ASSERT_TRUE(handle);
     EXPECT_EQ(handle->offsetInFile(), 0);
@@ -40,26 +35,19 @@ TEST(NSFileHandle, ReadsFromWhereItStandsUpToTheEnd) {
     handle->readDataOfLength(50);
     EXPECT_EQ(handle->readDataOfLength(50).bytes(), bytes.mid(150, 50)) << "one piece after the other";
     EXPECT_EQ(handle->seekToEndOfFile(), 10'000);
-    QFile file(QFile::decodeName(path));
-    ASSERT_TRUE(file.open(QIODevice::Append));
-    file.write("more");
-    file.close();
+    home.file("clip #1.mp4", bytes + "more"); // the same file, grown
     EXPECT_EQ(handle->readDataOfLength(100).bytes(), "more");
     EXPECT_EQ(handle->seekToEndOfFile(), 10'004) << "measured afresh";
 }
 
 TEST(NSFileHandle, GivesDataThatIsReadWhenItIsUsedAndOutlivesHandleAndName) {
     const TemporaryHome home;
-    const QByteArray path = home.file(QStringLiteral("clip.mp4"), "one two three");
+    const QByteArray path = home.file("clip.mp4", "one two three");
     auto handle = NSFileHandle::fileHandleForReadingFromURL(NSURL::fileURLWithPath(path));
     handle->seekToFileOffset(4);
     const NSData data = handle->readDataOfLength(3);
     handle.reset();
-    QFile file(QFile::decodeName(path));
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    file.seek(4);
-    file.write("TWO");
-    file.close();
+    home.file("clip.mp4", "one TWO three"); // the same file
     ASSERT_TRUE(NSFileManager::defaultManager().removeItemAtURL(NSURL::fileURLWithPath(path)));
     EXPECT_EQ(data.bytes(), "TWO");
 }
@@ -67,12 +55,9 @@ TEST(NSFileHandle, GivesDataThatIsReadWhenItIsUsedAndOutlivesHandleAndName) {
 TEST(NSFileHandle, TellsWhyAFileCannotBeReadOrRemoved) {
     const TemporaryHome home;
     const QByteArray folder = QFile::encodeName(home.path());
-    home.file(QStringLiteral("full/inside"), "x");
+    home.file("full/inside", "x");
     ::mkfifo((folder + "/fifo").constData(), 0600);
-    const struct {
-        QByteArray url;
-        int readError, removeError;
-    } table[] = {
+    const std::tuple<QByteArray, int, int> table[] = {
         {"file://" + folder + "/missing.mp4", ENOENT, ENOENT},
         {"file://" + folder + "/full", EISDIR, ENOTEMPTY},
         {"file://" + folder + "/full/inside%00.mp4", ENOENT, EINVAL},
@@ -90,8 +75,8 @@ TEST(NSFileHandle, TellsWhyAFileCannotBeReadOrRemoved) {
         EXPECT_EQ(NSFileManager::defaultManager().removeItemAtURL(*url, &error), removeError == 0);
         EXPECT_EQ(error ? error->code() : 0, removeError) << text.constData();
     }
-    EXPECT_TRUE(QFileInfo::exists(home.path(QStringLiteral("full/inside"))));
-    EXPECT_FALSE(QFileInfo::exists(home.path(QStringLiteral("fifo"))));
+    EXPECT_TRUE(QFile::exists(home.path("full/inside")));
+    EXPECT_FALSE(QFile::exists(home.path("fifo")));
 }
 
 } // namespace

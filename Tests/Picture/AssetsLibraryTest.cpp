@@ -8,7 +8,7 @@
 
 #include <sys/stat.h>
 
-#include <semaphore>
+#include <future>
 
 namespace korvane::test {
 namespace {
@@ -19,17 +19,16 @@ struct Answer {
 };
 
 Answer lookUp(const NSURL &url) {
-    Answer answer;
-    std::binary_semaphore done(0);
-    const auto finish = [&](const std::shared_ptr<ALAsset> &asset, const std::optional<NSError> &error) {
-        answer = {asset, error};
-        done.release();
-    };
+    std::promise<Answer> answer;
     ALAssetsLibrary().assetForURL(
-        url, [&](const std::shared_ptr<ALAsset> &asset) { finish(asset, std::nullopt); },
-        [&](const NSError &error) { finish(nullptr, error); });
-    done.acquire();
-    return answer;
+        url,
+        [&](const std::shared_ptr<ALAsset> &asset) {
+            answer.set_value({asset, std::nullopt});
+        },
+        [&](const NSError &error) {
+            answer.set_value({nullptr, error});
+        });
+    return answer.get_future().get();
 }
 
 class PhotoLibrary : public testing::Test {
@@ -42,7 +41,7 @@ protected:
     ~PhotoLibrary() override { setTemporaryDirectory({}); }
 
     QByteArray addPicture(const char *below) const {
-        return _home.file(QStringLiteral("library/Pictures/") + QLatin1String(below), picture);
+        return _home.file(QByteArray("library/Pictures/") + below, picture);
     }
     static NSURL assetURL(const QByteArray &id) {
         return *NSURL::URLWithString(

@@ -62,7 +62,8 @@ TEST(Reachability, KnowsADefaultRouteAndAModemByTheRoutesDevice) {
         {route4("net0", "9"), route6("wwan0", "00000001"), "", reachable},
         {route4("net0", "100", "0001A8C0"), "", "", 0},
         {route4("*", "0", "00000000", "0200"), "", "", 0}, // "unreachable default"
-        {"", route6("lo", "ffffffff", QByteArray(32, '0'), "00200200"), "", 0},
+        {"", route6("lo", "ffffffff"), "", 0},
+        {"", route6("net0", "ffffffff", QByteArray(32, '0'), "00000200"), "", 0},
         {"", route6("net0", "00000100", "fe80" + QByteArray(28, '0')), "", 0},
     };
     for (const auto &[ipv4, ipv6, uevent, flags] : table) {
