@@ -21,7 +21,12 @@ void UploadContext::cancel() {
 
 void UploadContext::requestBegan(qint64 bytesTotal, std::function<void()> wake) {
     const std::lock_guard lock(_mutex);
-    _snapshot = {.bytesTotal = bytesTotal};
+    _snapshot.bytesSent = 0;
+    _snapshot.bytesTotal = bytesTotal;
+    _snapshot.wasSent = false;
+    _snapshot.httpStatus = 0;
+    _snapshot.transportError.reset();
+    _snapshot.answer.clear();
     _wake = std::move(wake);
 }
 
