@@ -10,6 +10,7 @@ namespace {
 
 constexpr qint64 unusableTicket = 20;
 constexpr qint64 stuck = 21;
+constexpr qint64 senselessCount = 22;
 
 NSError errorWithText(qint64 code, const QString &text) {
     return NSError::errorWithDescription(PostCheck::ErrorDomain, code, text);
@@ -38,6 +39,11 @@ std::optional<NSError> TicketCheck::objection(const VimeoCheckpoint &checkpoint)
 NSError TicketCheck::stuckError() {
     return errorWithText(stuck,
                          QStringLiteral("Vimeo takes the video's parts but stores nothing of them. Retry later."));
+}
+
+NSError TicketCheck::senselessCountError() {
+    return errorWithText(senselessCount,
+                         QStringLiteral("Vimeo says that it has more of the video than there is. Retry later."));
 }
 
 } // namespace korvane

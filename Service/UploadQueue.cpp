@@ -261,12 +261,14 @@ void UploadQueue::_wait(UploadJob &job, const Verdict &verdict) {
         hold.until = now() + _policy.delayAfter(++hold.failures);
 }
 
-void UploadQueue::_forget(const std::vector<UploadJob> &jobs) {
-    _store->remove(jobs);
+// False, and nothing is changed, where the disk does not take it.
+bool UploadQueue::_forget(const std::vector<UploadJob> &jobs) {
+    if (!_store->remove(jobs)) return false;
     for (const UploadJob &job : jobs) {
         if (!_running.contains(job.id)) _dropSpoolFiles(job);
         if (_observer.removed) _observer.removed(QString::number(job.id));
     }
+    return true;
 }
 
 // A spool file holds the data of all posts of a message; the last of them takes it along.

@@ -101,7 +101,7 @@ private:
     void _wait(UploadJob &job, const Verdict &verdict);
     bool _record(const UploadJob &job);
     void _recordAgain();
-    void _forget(const std::vector<UploadJob> &jobs);
+    bool _forget(const std::vector<UploadJob> &jobs);
     void _endIfStopped();
     void _dropSpoolFiles(const UploadJob &job);
     void _requeue(std::vector<UploadJob> jobs);

@@ -104,13 +104,15 @@ void UploadQueue::remove(const QStringList &ids, const Answer &answer) {
                 const auto job = _store->job(id.toLongLong());
                 if (!job) continue;
                 jobs.push_back(*job);
-                _unrecorded.erase(job->id);
-                const auto running = _running.find(job->id);
+            }
+            if (!_forget(jobs)) return QVariant(quint32(0));
+            for (const UploadJob &job : jobs) {
+                _unrecorded.erase(job.id);
+                const auto running = _running.find(job.id);
                 if (running == _running.end()) continue;
                 running->second.stopReason = StopReason::Remove;
                 running->second.context->cancel();
             }
-            _forget(jobs);
             if (_store->waiting(WaitReason::Network).empty()) _holds.clear();
             _schedule();
             _armWake();
@@ -123,8 +125,7 @@ void UploadQueue::clear(const Answer &answer) {
     _answerWhenDone(
         [this] {
             const auto done = _store->done();
-            _forget(done);
-            return QVariant(quint32(done.size()));
+            return QVariant(quint32(_forget(done) ? done.size() : 0));
         },
         answer);
 }
@@ -199,6 +200,10 @@ QVariantMap UploadQueue::_dictionary(const UploadJob &job) const {
     const auto running = _running.find(job.id);
     UploadProgress bytes =
         progressOf(job, running == _running.end() ? UploadContext::Snapshot{} : running->second.context->snapshot());
+    if (running != _running.end()) {
+        const std::lock_guard lock(_runningMutex);
+        running->second.mostSent = bytes.bytesSent = std::max(bytes.bytesSent, running->second.mostSent);
+    }
     if (job.state == UploadState::Done) bytes.bytesSent = bytes.bytesConfirmed = bytes.bytesTotal;
     return dictionaryOfJob(job, bytes.bytesSent, bytes.bytesConfirmed, bytes.bytesTotal);
 }

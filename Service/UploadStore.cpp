@@ -285,16 +285,18 @@ bool UploadStore::update(const UploadJob &job, bool durable) {
     return _run(query);
 }
 
-void UploadStore::remove(const std::vector<UploadJob> &jobs) {
+bool UploadStore::remove(const std::vector<UploadJob> &jobs) {
     _setDurable(true);
-    _database.transaction();
+    bool removed = _database.transaction();
     QSqlQuery query(_database);
     query.prepare(QStringLiteral("DELETE FROM uploads WHERE id = ?"));
     for (const UploadJob &job : jobs) {
         query.addBindValue(job.id);
-        _run(query);
+        removed = removed && _run(query);
     }
-    _database.commit();
+    if (removed && _database.commit()) return true;
+    _database.rollback();
+    return false;
 }
 
 std::vector<UploadJob> UploadStore::done() {

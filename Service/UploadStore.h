@@ -52,7 +52,7 @@ public:
     // Writes all of the job's fields but its record. durable: on disk when it returns, else only safe from a death of
     // the process.
     bool update(const UploadJob &job, bool durable);
-    void remove(const std::vector<UploadJob> &jobs); // all at once
+    bool remove(const std::vector<UploadJob> &jobs); // all or none
     // The done ones, oldest first.
     std::vector<UploadJob> done();
     // True also where the database does not say.

@@ -125,6 +125,8 @@ std::optional<Verdict> VimeoRun::_reasonToBreakOff(const VimeoCheckpoint &checkp
     // The upload takes a refused verify for an empty endpoint and would send everything again.
     const auto request = _run.context->snapshot();
     if (request.httpStatus >= 400) return FailureClassifier::verdictOnRefusedVerify(request);
+    // More than the video has would be committed at once, whatever is there.
+    if (checkpoint.bytesStored > quint64(_post->postSize())) return failed(TicketCheck::senselessCountError());
     return _watch.heard(checkpoint.bytesStored) ? std::nullopt : std::optional(failed(TicketCheck::stuckError()));
 }
 

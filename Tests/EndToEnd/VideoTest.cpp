@@ -169,6 +169,17 @@ TEST_F(Video, AnEndpointThatStoresNothingIsGivenUp) {
     EXPECT_GE(vimeo.videos()[0].operations.count("verify"), 20);
 }
 
+TEST_F(Video, ACountBeyondTheVideoIsNeverCommitted) {
+    int count = 0;
+    for (const char *range : {"bytes=0-4000000000", "bytes=--1", "bytes=0-18446744073709551615"}) {
+        vimeo.on("verify").reportRange(QByteArray(range));
+        ASSERT_TRUE(shareVideo(video(QStringLiteral("%1.mp4").arg(count), variedBytes(5'000'000))));
+        ASSERT_TRUE(waitForState("failed", ++count)) << range;
+        EXPECT_TRUE(says(errorOf(count - 1), "more of the video than there is"));
+        EXPECT_EQ(vimeo.videos().back().commits(), 0);
+    }
+}
+
 TEST_F(Video, AFileThatChangesUnderwayIsNeverCommitted) {
     vimeo.on("verify").thenOk().hang();
     ASSERT_TRUE(shareVideo(video("a.mp4", variedBytes(5'000'000))));
