@@ -4,8 +4,8 @@
 #include "Platform/Accounts/ACError.h"
 #include "Platform/Accounts/SecretKeyring.h"
 #include "Platform/Foundation/Folders.h"
-#include "Platform/Foundation/NSLog.h"
 #include "Platform/Foundation/NSJSONSerialization.h"
+#include "Platform/Foundation/NSLog.h"
 #include "Platform/Preferences/LockedJSONFile.h"
 #include "Platform/Preferences/LogOnce.h"
 
@@ -61,7 +61,8 @@ std::optional<ACAccountCredential> loadFromKeyring(const QString &identifier, st
     const SecretKeyring::Answer answer = SecretKeyring::load(identifier);
     switch (answer.outcome) {
     case Outcome::Done:
-        return credentialOf(NSJSONSerialization::JSONObjectWithData(answer.text.toUtf8()).value_or(QVariant()).toMap(), error);
+        return credentialOf(NSJSONSerialization::JSONObjectWithData(answer.text.toUtf8()).value_or(QVariant()).toMap(),
+                            error);
     case Outcome::Locked:
         return missing(error, QStringLiteral("The keyring is locked. Unlock it and try again."));
     case Outcome::Missing:
@@ -103,7 +104,8 @@ std::optional<SecretPlace> CredentialStore::store(const QString &identifier, con
                                                   const ACAccountCredential &credential,
                                                   std::optional<NSError> *error) {
     if (keyringForbidden()) return storeInFile(identifier, credential, QStringLiteral("KORVANE_SECRETS=file"), error);
-    const QString secret = QString::fromUtf8(NSJSONSerialization::dataWithJSONObject(mapOf(credential)).value_or(QByteArray()));
+    const QString secret =
+        QString::fromUtf8(NSJSONSerialization::dataWithJSONObject(mapOf(credential)).value_or(QByteArray()));
     const SecretKeyring::Answer answer = SecretKeyring::store(identifier, label, secret);
     if (answer.outcome == Outcome::Done) return SecretPlace::Keyring;
     if (answer.outcome == Outcome::Unavailable) return storeInFile(identifier, credential, answer.text, error);

@@ -2,8 +2,8 @@
 #include "Platform/Preferences/PreferenceDomain.h"
 
 #include "Platform/Foundation/Folders.h"
-#include "Platform/Foundation/NSLog.h"
 #include "Platform/Foundation/NSJSONSerialization.h"
+#include "Platform/Foundation/NSLog.h"
 #include "Platform/Preferences/LogOnce.h"
 
 #include <QFile>
