@@ -7,18 +7,7 @@
 #include <QProcess>
 #include <QThread>
 
-#include <algorithm>
-
 namespace korvane::bench {
-namespace {
-
-size_t answeredRequests(test::ServiceHarness &harness) {
-    const auto requests = harness.flickr.server.requests();
-    return size_t(
-        std::count_if(requests.begin(), requests.end(), [](const auto &request) { return request.status != 0; }));
-}
-
-} // namespace
 
 QByteArrayList makeFiles(const test::TemporaryHome &home, int count, qint64 bytes) {
     QByteArrayList paths;
@@ -53,10 +42,11 @@ void shareOrEnd(test::ServiceHarness &harness, const std::vector<std::shared_ptr
 double uploadAll(test::ServiceHarness &harness, const QByteArrayList &paths) {
     harness.ask(QStringLiteral("Pause"));
     shareOrEnd(harness, postsOf(paths));
-    const size_t before = answeredRequests(harness);
+    const standin::StandIn &server = harness.flickr.server;
+    const size_t before = server.countOfAnsweredRequests();
     const double seconds = secondsOf([&] {
         harness.ask(QStringLiteral("Resume"));
-        while (answeredRequests(harness) < before + size_t(paths.size()))
+        while (server.countOfAnsweredRequests() < before + size_t(paths.size()))
             QThread::msleep(2);
     });
     if (!harness.waitForState(QStringLiteral("done"), int(paths.size()))) qFatal("uploads did not end");

@@ -5,12 +5,20 @@
 
 namespace korvane {
 
+class VimeoPost;
+
 namespace FailureClassifier {
 
 // wantsPhotoSet: the post is to be added to a photo set after its upload.
 Verdict verdictOnFlickrRun(const RunOutcome &outcome, bool wantsPhotoSet);
 
 Verdict verdictOnVimeoRun(const RunOutcome &outcome);
+
+// Of a video whose commit was answered, so that it is on Vimeo. post: as the run left it.
+Verdict verdictAfterCommit(const RunOutcome &outcome, const VimeoPost &post);
+
+// A ticket that leads nowhere while Vimeo itself answers is of no use; the next run gets a new one.
+Verdict verdictOnDeadEndpoint(const NSError &error);
 
 // A verify that was answered with an error: what is stored is not known now, and will be asked for again.
 Verdict verdictOnRefusedVerify(const UploadContext::Snapshot &request);

@@ -48,6 +48,12 @@ struct UploadJob {
     std::optional<NSError> error;
 };
 
+// Nobody could tell whether a commit that is broken off has been obeyed, and before its last call a private video is
+// public.
+inline bool mayBeBrokenOff(const UploadJob &job) {
+    return !job.video || !(job.video->commitSent || job.video->videoID.isValid());
+}
+
 // As the status interface shows it; the byte counts of a running job come from its context.
 QVariantMap dictionaryOfJob(const UploadJob &job, qint64 bytesSent, qint64 bytesConfirmed, qint64 bytesTotal);
 

@@ -41,13 +41,29 @@ bool UploadQueue::open(bool fatalDeath, std::optional<NSError> *error) {
         _store = std::make_unique<UploadStore>();
         opened = _store->open(_folder + QStringLiteral("/queue.sqlite"), error);
         if (!opened) return;
-        for (const UploadJob &job : _store->recover(fatalDeath, now(), _policy.delays.back()))
-            NSLog("Upload %lli was set aside: the service ended fatally while it ran, twice.", job.id);
+        _store->drawWaitsIn(now(), _policy.delays.back());
+        for (UploadJob &job : _store->running())
+            _recover(job, fatalDeath);
         _store->forgetMessagesBefore(now() - messageMemory);
         if (const auto known = _store->spoolFiles()) _spool.sweep(*known);
         _paused = _store->isPaused();
     });
     return opened;
+}
+
+// What was running is queued again. After a fatal death each of them is suspected; one suspected before is set aside.
+void UploadQueue::_recover(UploadJob &job, bool fatalDeath) {
+    job.state = UploadState::Queued;
+    if (fatalDeath && ++job.deaths > 1) {
+        NSLog("Upload %lli was set aside: the service ended fatally while it ran, twice.", job.id);
+        const QString text = QStringLiteral(
+            "The upload service ended unexpectedly each time it tried this upload, so it was set aside. Check the "
+            "file, then retry or remove the upload.");
+        job.state = UploadState::Failed;
+        job.finishedAt = now();
+        job.error = NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable, text);
+    }
+    _record(job);
 }
 
 void UploadQueue::start() {
@@ -171,9 +187,8 @@ bool UploadQueue::_reached(const UploadJob &reached, bool durably) {
         found->second.job = reached;
     }
     if (reached.failures == 0) _holds[reached.service].failures = 0;
-    // What was spared during its commit can be stopped now.
-    const bool isAwaitingCommit = reached.video && reached.video->commitSent;
-    if (found->second.stopReason != StopReason::None && !isAwaitingCommit) found->second.context->cancel();
+    // What was spared during its commit can be stopped where Vimeo has refused it.
+    if (found->second.stopReason != StopReason::None && mayBeBrokenOff(reached)) found->second.context->cancel();
     return _store->update(reached, durably);
 }
 
@@ -257,7 +272,7 @@ void UploadQueue::_wait(UploadJob &job, const Verdict &verdict) {
     }
     job.nextTryAt = now() + _policy.delayAfter(job.failures);
     Hold &hold = _holds[job.service];
-    if (verdict.waitReason == WaitReason::Network && hold.until <= now())
+    if (verdict.waitReason == WaitReason::Network && verdict.holdsOthers && hold.until <= now())
         hold.until = now() + _policy.delayAfter(++hold.failures);
 }
 

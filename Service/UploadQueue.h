@@ -89,6 +89,7 @@ private:
     };
 
     void _taken(const QString &messageID, const TakenMessage &taken, const XPCTransferCompletion &reply);
+    void _recover(UploadJob &job, bool fatalDeath);
     void _schedule();
     void _scheduleService(const QString &service, int limit);
     bool _start(UploadJob job);

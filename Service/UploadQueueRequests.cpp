@@ -111,7 +111,7 @@ void UploadQueue::remove(const QStringList &ids, const Answer &answer) {
                 const auto running = _running.find(job.id);
                 if (running == _running.end()) continue;
                 running->second.stopReason = StopReason::Remove;
-                running->second.context->cancel();
+                if (mayBeBrokenOff(running->second.job)) running->second.context->cancel();
             }
             if (_store->waiting(WaitReason::Network).empty()) _holds.clear();
             _schedule();
@@ -181,8 +181,7 @@ void UploadQueue::stop(const std::function<void()> &stopped) {
 void UploadQueue::_stopRunning(StopReason reason) {
     for (auto &[id, running] : _running) {
         if (running.stopReason == StopReason::None) running.stopReason = reason;
-        // Nobody could tell any more whether a commit that is broken off has been obeyed.
-        if (!running.job.video || !running.job.video->commitSent) running.context->cancel();
+        if (mayBeBrokenOff(running.job)) running.context->cancel();
     }
 }
 

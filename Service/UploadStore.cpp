@@ -320,33 +320,18 @@ std::optional<QSet<QString>> UploadStore::spoolFiles() {
     return query.lastError().isValid() ? std::nullopt : std::optional(names);
 }
 
-std::vector<UploadJob> UploadStore::recover(bool fatal, qint64 now, qint64 longestWait) {
-    std::vector<UploadJob> setAside;
-    _setDurable(true);
-    _database.transaction();
-    _exec(
-        QStringLiteral(
-            "UPDATE uploads SET next_try = min(next_try, %1), failing_since = min(failing_since, %2) WHERE state = %3")
-            .arg(now + longestWait)
-            .arg(now)
-            .arg(int(UploadState::Waiting)));
-    for (UploadJob &job : _select(QStringLiteral("state = ?"), {int(UploadState::Running)})) {
-        job.state = UploadState::Queued;
-        if (fatal) ++job.deaths;
-        if (job.deaths > 1 && fatal) {
-            job.state = UploadState::Failed;
-            job.finishedAt = now;
-            job.error = NSError::errorWithDescription(
-                RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable,
-                QStringLiteral(
-                    "The upload service ended unexpectedly each time it tried this upload, so it was set aside. "
-                    "Check the file, then retry or remove the upload."));
-            setAside.push_back(job);
-        }
-        update(job, true);
-    }
-    _database.commit();
-    return setAside;
+std::vector<UploadJob> UploadStore::running() {
+    return _select(QStringLiteral("state = ?"), {int(UploadState::Running)});
+}
+
+void UploadStore::drawWaitsIn(qint64 now, qint64 longestWait) {
+    QSqlQuery query(_database);
+    query.prepare(
+        QStringLiteral("UPDATE uploads SET next_try = min(next_try, ?), failing_since = min(failing_since, ?) "
+                       "WHERE state = ?"));
+    for (const QVariant &value : QVariantList{now + longestWait, now, int(UploadState::Waiting)})
+        query.addBindValue(value);
+    _run(query);
 }
 
 bool UploadStore::isPaused() {

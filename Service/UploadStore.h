@@ -60,10 +60,10 @@ public:
     // Null where the database does not say.
     std::optional<QSet<QString>> spoolFiles();
 
-    // After a death of the service: what was running is queued again. fatal: the death was of the service's own making,
-    // so each of them is suspected; those suspected before are set aside as failed. Returns those set aside. Times that
-    // a wrong clock has put into the future are drawn in: nothing waits longer than longestWait.
-    std::vector<UploadJob> recover(bool fatal, qint64 now, qint64 longestWait);
+    // What was running when the service's last life ended.
+    std::vector<UploadJob> running();
+    // Times that a wrong clock has put into the future are drawn in: nothing waits longer than longestWait.
+    void drawWaitsIn(qint64 now, qint64 longestWait);
 
     bool isPaused();
     void setPaused(bool paused);

@@ -10,6 +10,7 @@ struct Verdict {
     UploadState state = UploadState::Done;    // Done, Waiting or Failed
     WaitReason waitReason = WaitReason::None; // with Waiting
     std::optional<NSError> error;             // for people: what happened and what to do
+    bool holdsOthers = true;                  // with Network: the service's other uploads need not try just now
 
     // With the error's domain and code and a text for people.
     static Verdict waiting(WaitReason reason, const NSError &error, const QString &text);

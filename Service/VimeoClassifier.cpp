@@ -59,6 +59,19 @@ Verdict verdictOnPostError(const NSError &error, const UploadContext::Snapshot &
     }
 }
 
+// What an upload that failed after its commit has not set.
+QString missingOf(const VimeoPost &post) {
+    QStringList missing;
+    if (post.uploadState() < VimeoUploadStateSettingDescription) {
+        missing.append(QStringLiteral("title"));
+        if (post.postDescription) missing.append(QStringLiteral("description"));
+    }
+    if (post.uploadState() < VimeoUploadStateSettingPrivacy && post.tags) missing.append(QStringLiteral("tags"));
+    missing.append(QStringLiteral("privacy setting"));
+    const QString last = missing.takeLast();
+    return missing.isEmpty() ? last : missing.join(QStringLiteral(", ")) + QStringLiteral(" and ") + last;
+}
+
 Verdict verdictOnExport(const NSError &error) {
     const bool mayPass = error.code() == AVErrorDiskFull || error.code() == AVErrorExportFailed;
     return mayPass ? Verdict::waiting(WaitReason::NextTry, error, error.localizedDescription())
@@ -81,6 +94,28 @@ Verdict FailureClassifier::verdictOnVimeoRun(const RunOutcome &outcome) {
         return Verdict::waiting(WaitReason::NextTry, error,
                                 QStringLiteral("Vimeo is in trouble (HTTP status %1).").arg(request.httpStatus));
     return verdictOnPostError(error, request);
+}
+
+Verdict FailureClassifier::verdictAfterCommit(const RunOutcome &outcome, const VimeoPost &post) {
+    Verdict verdict = verdictOnVimeoRun(outcome);
+    if (!verdict.error) return verdict;
+    const QVariantMap refusal = refusalIn(outcome.lastRequest);
+    const bool isRefused = verdict.state == UploadState::Failed && !refusal.isEmpty() &&
+                           verdict.error->code() != VimeoPostErrorServiceCode401;
+    const QString reason = isRefused ? QStringLiteral("Vimeo refused it: %1 (code %2). Retry.")
+                                           .arg(wordsOf(refusal), refusal.value(QStringLiteral("code")).toString())
+                                     : verdict.error->localizedDescription();
+    QString text = QStringLiteral("The video is on Vimeo, but without its %1. %2").arg(missingOf(post), reason);
+    if (post.privacySettings != VimeoPrivacyPublic) text += QStringLiteral(" Until then others may see the video.");
+    verdict.error = NSError::errorWithDescription(verdict.error->domain(), verdict.error->code(), text);
+    return verdict;
+}
+
+Verdict FailureClassifier::verdictOnDeadEndpoint(const NSError &error) {
+    return Verdict::waiting(WaitReason::NextTry, error,
+                            QStringLiteral("The server that Vimeo named for this video cannot be reached: %1 Vimeo "
+                                           "will be asked for another one.")
+                                .arg(error.localizedDescription()));
 }
 
 Verdict FailureClassifier::verdictOnRefusedVerify(const UploadContext::Snapshot &request) {

@@ -20,6 +20,9 @@
 namespace korvane {
 namespace {
 
+// In a row, before a ticket is given up, and with it what is stored: three quarters of an hour.
+constexpr qint64 triesOfEndpoint = 7;
+
 // One step follows another, each handed over from thread to thread, so nothing here needs a lock.
 class VimeoRun : public VimeoPostDelegate, public std::enable_shared_from_this<VimeoRun> {
 public:
@@ -46,6 +49,7 @@ private:
     void _keepExport();
     std::optional<Verdict> _reasonToBreakOff(const VimeoCheckpoint &checkpoint);
     void _finished(const std::optional<NSError> &error);
+    void _endpointUnreachable(Verdict verdict);
     void _end(const Verdict &verdict);
     void _endWithOutcome(const RunOutcome &outcome);
 
@@ -139,7 +143,24 @@ void VimeoRun::_finished(const std::optional<NSError> &error) {
         video->commitSent = false;
         if (fate == FailureClassifier::CommitFate::Refused) video.reset(); // a later try begins with a new ticket
     }
-    _endWithOutcome({RunOutcome::Finished, error, request, 0});
+    const RunOutcome outcome{RunOutcome::Finished, error, request, 0};
+    if (error && video && video->videoID.isValid()) return _end(FailureClassifier::verdictAfterCommit(outcome, *_post));
+    const Verdict verdict = FailureClassifier::verdictOnVimeoRun(outcome);
+    const bool isAtEndpoint = _post->uploadState() == VimeoUploadStateUploadingChunk ||
+                              _post->uploadState() == VimeoUploadStateVerifyingChunk;
+    isAtEndpoint &&verdict.waitReason == WaitReason::Network ? _endpointUnreachable(verdict) : _end(verdict);
+}
+
+// The endpoint is a server of its own: that it is out of reach says nothing about Vimeo, nor about other videos.
+void VimeoRun::_endpointUnreachable(Verdict verdict) {
+    verdict.holdsOthers = false;
+    if (_run.job.failures < triesOfEndpoint) return _end(verdict);
+    VimeoPost::getAvailableQuotaForAccount(
+        _post->account, [self = shared_from_this(), verdict](qint64, bool, bool, const auto &quotaError) {
+            if (quotaError) return self->_end(verdict);
+            self->_run.job.video.reset();
+            self->_end(FailureClassifier::verdictOnDeadEndpoint(*verdict.error));
+        });
 }
 
 void VimeoRun::_endWithOutcome(const RunOutcome &outcome) {

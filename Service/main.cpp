@@ -7,6 +7,7 @@
 #include <QSocketNotifier>
 
 #include <sys/signalfd.h>
+#include <sys/stat.h>
 
 #include <csignal>
 
@@ -26,6 +27,7 @@ int endSignals() {
 
 int main(int argc, char **argv) {
     const int signals = endSignals();
+    ::umask(077); // what people share is nobody else's business
     ::signal(SIGPIPE, SIG_IGN);
     ::signal(SIGIO, SIG_IGN); // a broken lease on a client's file is no reason to end
     QCoreApplication application(argc, argv);

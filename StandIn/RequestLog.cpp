@@ -1,5 +1,7 @@
 #include "StandIn/RequestLog.h"
 
+#include <algorithm>
+
 namespace standin {
 
 size_t RequestLog::begin(const Request &request) {
@@ -16,6 +18,11 @@ void RequestLog::update(size_t index, const Request &request) {
 std::vector<Request> RequestLog::requests() const {
     const std::lock_guard lock(_mutex);
     return _requests;
+}
+
+size_t RequestLog::countOfAnswered() const {
+    const std::lock_guard lock(_mutex);
+    return size_t(std::ranges::count_if(_requests, [](const Request &request) { return request.status != 0; }));
 }
 
 } // namespace standin

@@ -34,6 +34,7 @@ public:
     size_t begin(const Request &request);
     void update(size_t index, const Request &request);
     std::vector<Request> requests() const;
+    size_t countOfAnswered() const;
 
 private:
     const bool _enabled;

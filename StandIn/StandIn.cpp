@@ -157,6 +157,10 @@ std::vector<Request> StandIn::requests() const {
     return requests;
 }
 
+size_t StandIn::countOfAnsweredRequests() const {
+    return _context->log.countOfAnswered();
+}
+
 std::vector<Photo> StandIn::photos() const {
     std::vector<Photo> photos = _context->photos.photos();
     for (Photo &photo : photos)

@@ -71,6 +71,7 @@ public:
 
     // All so far, in the order of arrival; SHA-256 is computed here.
     std::vector<Request> requests() const;
+    size_t countOfAnsweredRequests() const;
     std::vector<Photo> photos() const;
     std::vector<Album> albums() const;
     // From their tickets on.

@@ -123,7 +123,7 @@ TEST_F(Store, DrawsInTimesThatAWrongClockLeft) {
     job.nextTryAt = 1'000'000;
     job.failingSince = 1'000'000;
     store.update(job, true);
-    store.recover(false, 500, 1000);
+    store.drawWaitsIn(500, 1000);
     EXPECT_EQ(store.job(job.id)->nextTryAt, 1500);
     EXPECT_EQ(store.job(job.id)->failingSince, 500);
 }
