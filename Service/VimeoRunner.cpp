@@ -68,16 +68,15 @@ void VimeoRun::begin() {
     _post = VimeoPost::initWithDictionary(_run.record);
     if (_run.job.video && _run.job.video->commitSent) return _end(FailureClassifier::verdictOnUnansweredCommit());
     if (const auto objection = PostCheck::prepare(*_post, _run.job))
-        return _endWithOutcome(
-            {objection->mayPass ? RunOutcome::Hindered : RunOutcome::Unusable, objection->error, {}, 0});
+        return _endWithOutcome(PostCheck::outcomeOfObjection(*objection));
     if (_run.job.video && _run.job.video->hasTicket())
         if (const auto objection = TicketCheck::objection(*_run.job.video))
-            return _endWithOutcome({RunOutcome::Unusable, objection, {}, 0});
+            return _endWithOutcome({RunOutcome::Unusable, objection});
     const auto account = accountOfJob(_run.job, *_run.accounts);
     if (!account || !account->credential()) return _endWithOutcome(withoutAccount(_run.job));
     account->setUploadContext(_run.context);
     if (!makePrivateFolder(_temporaryFolder))
-        return _endWithOutcome({RunOutcome::Hindered, NSError::errorWithErrno(errno, _temporaryFolder), {}, 0});
+        return _endWithOutcome({RunOutcome::Hindered, NSError::errorWithErrno(errno, _temporaryFolder)});
     _post->temporaryDirectory = _temporaryFolder;
     if (!_run.job.exportFile.isEmpty())
         _post->dataReader = KRDataReader::dataReaderWithURL(_run.spool->urlOf(_run.job.exportFile));
@@ -143,7 +142,7 @@ void VimeoRun::_finished(const std::optional<NSError> &error) {
         video->commitSent = false;
         if (fate == FailureClassifier::CommitFate::Refused) video.reset(); // a later try begins with a new ticket
     }
-    const RunOutcome outcome{RunOutcome::Finished, error, request, 0};
+    const RunOutcome outcome{RunOutcome::Finished, error, request};
     if (error && video && video->videoID.isValid()) return _end(FailureClassifier::verdictAfterCommit(outcome, *_post));
     const Verdict verdict = FailureClassifier::verdictOnVimeoRun(outcome);
     const bool isAtEndpoint = _post->uploadState() == VimeoUploadStateUploadingChunk ||
