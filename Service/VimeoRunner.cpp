@@ -117,20 +117,20 @@ void VimeoRun::_keepExport() {
 }
 
 std::optional<Verdict> VimeoRun::_reasonToBreakOff(const VimeoCheckpoint &checkpoint) {
-    const auto failed = [](const NSError &error) { return Verdict{UploadState::Failed, WaitReason::None, error}; };
     if (checkpoint.videoID.isValid() && !checkpoint.commitSent) return std::nullopt; // what matters is there
     if (checkpoint.commitSent && _run.job.video && _run.job.video->commitSent)
         return FailureClassifier::verdictOnUnansweredCommit(); // answered, but without the video's id
-    if (const auto changed = PostCheck::objectionToChange(*_post, _run.job)) return failed(*changed);
+    if (const auto changed = PostCheck::objectionToChange(*_post, _run.job)) return Verdict::failed(*changed);
     if (!checkpoint.hasTicket() && _post->uploadState() != VimeoUploadStateGettingTicket) return std::nullopt;
-    if (const auto objection = TicketCheck::objection(checkpoint)) return failed(*objection);
+    if (const auto objection = TicketCheck::objection(checkpoint)) return Verdict::failed(*objection);
     if (_post->uploadState() != VimeoUploadStateVerifyingChunk) return std::nullopt;
     // The upload takes a refused verify for an empty endpoint and would send everything again.
     const auto request = _run.context->snapshot();
     if (request.httpStatus >= 400) return FailureClassifier::verdictOnRefusedVerify(request);
     // More than the video has would be committed at once, whatever is there.
-    if (checkpoint.bytesStored > quint64(_post->postSize())) return failed(TicketCheck::senselessCountError());
-    return _watch.heard(checkpoint.bytesStored) ? std::nullopt : std::optional(failed(TicketCheck::stuckError()));
+    if (checkpoint.bytesStored > quint64(_post->postSize())) return Verdict::failed(TicketCheck::senselessCountError());
+    return _watch.heard(checkpoint.bytesStored) ? std::nullopt
+                                                : std::optional(Verdict::failed(TicketCheck::stuckError()));
 }
 
 void VimeoRun::_finished(const std::optional<NSError> &error) {
