@@ -58,16 +58,12 @@ void UploadQueue::idsOfMessage(const QString &messageID, const Answer &answer) {
 void UploadQueue::counts(const Answer &answer) {
     _answerWhenDone(
         [this] {
-            const auto counts = _store->counts();
-            const auto of = [&](UploadState state) {
-                const auto found = counts.find(state);
-                return QVariant(found == counts.end() ? qint64(0) : found->second);
-            };
-            return QVariant(QVariantMap{{QStringLiteral("queued"), of(UploadState::Queued)},
-                                        {QStringLiteral("running"), of(UploadState::Running)},
-                                        {QStringLiteral("waiting"), of(UploadState::Waiting)},
-                                        {QStringLiteral("done"), of(UploadState::Done)},
-                                        {QStringLiteral("failed"), of(UploadState::Failed)}});
+            auto counts = _store->counts();
+            QVariantMap named;
+            for (const UploadState state : {UploadState::Queued, UploadState::Running, UploadState::Waiting,
+                                            UploadState::Done, UploadState::Failed})
+                named.insert(stateText(state), counts[state]);
+            return QVariant(named);
         },
         answer);
 }
