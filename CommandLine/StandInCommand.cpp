@@ -3,7 +3,7 @@
 
 #include "CommandLine/ExitStatus.h"
 #include "CommandLine/Output.h"
-#include "Platform/Foundation/ChildProcess.h"
+#include "Platform/Foundation/ProgramPath.h"
 
 #include <CLI/CLI.hpp>
 
@@ -31,7 +31,7 @@ bool StandInCommand::isChosen() const {
 }
 
 int StandInCommand::run() {
-    QByteArray program = ChildProcess::pathOfProgram("korvane-standin");
+    QByteArray program = pathOfProgram("korvane-standin");
     if (program.isEmpty()) {
         Output::problem(QStringLiteral("The program korvane-standin is not installed beside korvane, nor in PATH."));
         return ExitUploadFailed;

@@ -58,10 +58,6 @@ public:
     // Blocks the calling thread until the child has ended. Null, with the error placed, if it could not be started.
     std::optional<Result> run(std::optional<NSError> *error = nullptr) const;
 
-    // Where a program of ours is: beside the running program, in the bin folder of the installation that this library
-    // belongs to, or in $PATH. Empty if nowhere.
-    static QByteArray pathOfProgram(const QByteArray &name);
-
 private:
     QByteArray _program;
     QByteArrayList _arguments;

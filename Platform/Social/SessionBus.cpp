@@ -1,9 +1,9 @@
 // Which message bus the programs meet on.
 #include "Platform/Social/SessionBus.h"
 
-#include "Platform/Foundation/ChildProcess.h"
 #include "Platform/Foundation/FileDescriptor.h"
 #include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/ProgramPath.h"
 #include "Platform/Social/RemoteServiceError.h"
 
 #include <QFile>
@@ -56,7 +56,7 @@ std::optional<QString> SessionBus::address() {
 
 std::optional<QString> SessionBus::addressStartingService(std::optional<NSError> *error) {
     if (const auto present = address()) return present;
-    const QString program = QFile::decodeName(ChildProcess::pathOfProgram("korvane-uploadd"));
+    const QString program = QFile::decodeName(pathOfProgram("korvane-uploadd"));
     QProcess service;
     service.setProgram(program);
     service.setArguments({QStringLiteral("--private-bus")});
