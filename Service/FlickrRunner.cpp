@@ -31,7 +31,7 @@ void upload(const std::shared_ptr<UploadRun> &run) {
     account->setUploadContext(run->context);
     post->checkpoint = [run, wantsPhotoSet = post->photoSetID != 0](qint64 photoID) {
         run->job.photoID = photoID;
-        run->reached(run->job, wantsPhotoSet, {}); // without a set the outcome follows at once and is kept durably
+        if (wantsPhotoSet) run->reached(run->job, true, {}); // else the outcome follows at once
     };
     post->uploadToAccount(account, [run, post](const std::optional<NSError> &error) {
         if (post->photoData) run->job.bytesTotal = post->photoData->length();
@@ -43,10 +43,8 @@ void upload(const std::shared_ptr<UploadRun> &run) {
 } // namespace
 
 void FlickrRunner::start(UploadRun run) {
-    dispatchMain([shared = std::make_shared<UploadRun>(std::move(run))] {
-        KRRemoteSession::incrementPowerAssertion();
-        dispatchGlobal([shared] { upload(shared); });
-    });
+    dispatchMain([] { KRRemoteSession::incrementPowerAssertion(); });
+    dispatchGlobal([shared = std::make_shared<UploadRun>(std::move(run))] { upload(shared); });
 }
 
 } // namespace korvane

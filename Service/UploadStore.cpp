@@ -285,6 +285,12 @@ bool UploadStore::update(const UploadJob &job, bool durable) {
     return _run(query);
 }
 
+// A durable write takes along what was written before it.
+bool UploadStore::makeDurable() {
+    _setDurable(true);
+    return _exec(QStringLiteral("INSERT OR REPLACE INTO settings (name, value) VALUES ('durable', 1)"));
+}
+
 bool UploadStore::remove(const std::vector<UploadJob> &jobs) {
     _setDurable(true);
     bool removed = _database.transaction();

@@ -52,6 +52,8 @@ public:
     // Writes all of the job's fields but its record. durable: on disk when it returns, else only safe from a death of
     // the process.
     bool update(const UploadJob &job, bool durable);
+    // All that was written before is on the disk when it returns.
+    bool makeDurable();
     bool remove(const std::vector<UploadJob> &jobs); // all or none
     // The done ones, oldest first.
     std::vector<UploadJob> done();
