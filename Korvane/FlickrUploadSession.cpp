@@ -4,8 +4,6 @@
 #include "Korvane/FlickrPost.h"
 #include "Platform/Social/RemoteServiceProxy.h"
 
-#include <semaphore>
-
 namespace korvane {
 namespace {
 
@@ -38,20 +36,10 @@ std::shared_ptr<FlickrUploadSession> FlickrUploadSession::init() {
 
 bool FlickrUploadSession::uploadPosts(const std::vector<std::shared_ptr<FlickrPost>> &posts,
                                       std::optional<NSError> *error) {
-    std::binary_semaphore replied(0);
-    bool succeeded = false;
-    std::optional<NSError> replyError;
     QVariantList dictionaries;
     for (const auto &post : posts)
         dictionaries.append(post->serializedDictionary());
-    _remoteSession->uploadPosts(dictionaries, [&](std::optional<bool> success, const std::optional<NSError> &failure) {
-        succeeded = success.value_or(false);
-        replyError = failure;
-        replied.release();
-    });
-    replied.acquire();
-    setError(error, replyError);
-    return succeeded;
+    return waitForReply([&](const auto &reply) { _remoteSession->uploadPosts(dictionaries, reply); }, error);
 }
 
 QString FlickrUploadSession::lastMessageID() const {

@@ -130,10 +130,13 @@ private:
     static NSURL _endpointURL();
     static bool _isUsingCellular();
 
-    using AnswerHandler =
-        std::function<void(const std::optional<QVariantMap> &answer, const std::optional<NSError> &parseError,
-                           const std::optional<NSError> &requestError)>;
-    void _call(const QVariantMap &parameters, const AnswerHandler &handler);
+    struct Answer {
+        std::optional<QVariantMap> object;
+        std::optional<NSError> parseError;   // where there is no object
+        std::optional<NSError> requestError; // of the request layer
+    };
+    // method: without "vimeo.videos.".
+    void _call(const char *method, const QVariantMap &parameters, const std::function<void(const Answer &)> &handler);
 
     void _exportVideo();
     void _exportEnded(const std::shared_ptr<AVAssetExportSession> &session, const NSURL &outputURL);
@@ -149,8 +152,7 @@ private:
     void _verified(const NSHTTPURLResponse &response);
     void _ticketRefused(int status);
     void _commit();
-    void _committed(const std::optional<QVariantMap> &answer, const std::optional<NSError> &parseError,
-                    const std::optional<NSError> &requestError);
+    void _committed(const Answer &answer);
     void _setTitle();
     void _setDescription();
     void _setTags();

@@ -28,6 +28,14 @@ QString jsonText(const QVariantMap &dictionary) {
         .simplified();
 }
 
+std::shared_ptr<SLRequest> requestOfCall(const NSURL &url, const char *method, QVariantMap parameters,
+                                         const std::shared_ptr<ACAccount> &account) {
+    parameters.insert(QStringLiteral("method"), QStringLiteral("vimeo.videos.") + QLatin1String(method));
+    const auto request = SLRequest::requestForServiceType(SLServiceTypeVimeo, SLRequestMethodPOST, url, parameters);
+    request->setAccount(account);
+    return request;
+}
+
 } // namespace
 
 NSURL VimeoPost::_endpointURL() {
@@ -35,16 +43,16 @@ NSURL VimeoPost::_endpointURL() {
 }
 
 // The status of the answer says nothing here: refusals come with 200 as well.
-void VimeoPost::_call(const QVariantMap &parameters, const AnswerHandler &handler) {
-    const auto request =
-        SLRequest::requestForServiceType(SLServiceTypeVimeo, SLRequestMethodPOST, *_baseURL, parameters);
-    request->setAccount(account);
-    request->performRequestWithHandler([handler](const std::optional<NSData> &body, const NSHTTPURLResponse &,
-                                                 const std::optional<NSError> &requestError) {
-        std::optional<NSError> parseError;
-        const auto answer = dictionaryWithResponseData(body, &parseError);
-        handler(answer, parseError, requestError);
-    });
+void VimeoPost::_call(const char *method, const QVariantMap &parameters,
+                      const std::function<void(const Answer &)> &handler) {
+    requestOfCall(*_baseURL, method, parameters, account)
+        ->performRequestWithHandler([handler](const std::optional<NSData> &body, const NSHTTPURLResponse &,
+                                              const std::optional<NSError> &requestError) {
+            Answer answer;
+            answer.object = dictionaryWithResponseData(body, &answer.parseError);
+            answer.requestError = requestError;
+            handler(answer);
+        });
 }
 
 std::optional<QVariantMap> VimeoPost::dictionaryWithResponseData(const std::optional<NSData> &data,
@@ -76,10 +84,7 @@ std::optional<QVariantMap> VimeoPost::dictionaryWithResponseData(const std::opti
 
 void VimeoPost::getAvailableQuotaForAccount(const std::shared_ptr<ACAccount> &account,
                                             const VimeoQuotaCompletion &completion) {
-    const auto request =
-        SLRequest::requestForServiceType(SLServiceTypeVimeo, SLRequestMethodPOST, _endpointURL(),
-                                         {{QStringLiteral("method"), QStringLiteral("vimeo.videos.upload.getQuota")}});
-    request->setAccount(account);
+    const auto request = requestOfCall(_endpointURL(), "upload.getQuota", {}, account);
     request->performRequestWithHandler([completion](const std::optional<NSData> &body, const NSHTTPURLResponse &,
                                                     const std::optional<NSError> &requestError) {
         if (!body) return completion(-1, false, false, requestError);

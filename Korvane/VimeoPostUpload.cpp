@@ -18,10 +18,6 @@ namespace {
 constexpr quint64 maximumChunkSize = 2'097'152;
 constexpr int maximumRestarts = 3;
 
-QString method(const char *name) {
-    return QStringLiteral("vimeo.videos.") + QLatin1String(name);
-}
-
 // The number behind the first "-" of a Range header: what the endpoint counts as stored.
 quint64 bytesStoredOfRange(const QByteArray &range) {
     const qsizetype dash = range.indexOf('-');
@@ -115,11 +111,10 @@ void VimeoPost::_checkQuota() {
 void VimeoPost::_getTicket() {
     KRLog("Get Ticket");
     _uploadState = VimeoUploadStateGettingTicket;
-    _call({{QStringLiteral("method"), method("upload.getTicket")},
-           {QStringLiteral("upload_method"), QStringLiteral("streaming")}},
-          [self = shared_from_this()](const auto &answer, const auto &parseError, const auto &) {
-              if (!answer) return self->failWithError(*parseError);
-              const QVariantMap ticket = answer->value(QStringLiteral("ticket")).toMap();
+    _call("upload.getTicket", {{QStringLiteral("upload_method"), QStringLiteral("streaming")}},
+          [self = shared_from_this()](const Answer &answer) {
+              if (!answer.object) return self->failWithError(*answer.parseError);
+              const QVariantMap ticket = answer.object->value(QStringLiteral("ticket")).toMap();
               self->_ticketID = ticket.value(QStringLiteral("id"));
               self->_uploadEndpoint = NSURL::URLWithString(ticket.value(QStringLiteral("endpoint")).toString());
               self->_proceedAfterCheckpoint([self] { self->_uploadData(); });
@@ -220,27 +215,24 @@ void VimeoPost::_commit() {
     _uploadState = VimeoUploadStateCommitting;
     _commitSent = true;
     _proceedAfterCheckpoint([self = shared_from_this()] {
-        self->_call({{QStringLiteral("method"), method("upload.complete")},
-                     {QStringLiteral("ticket_id"), self->_ticketID},
-                     {QStringLiteral("filename"), self->_fileName()}},
-                    [self](const auto &answer, const auto &parseError, const auto &requestError) {
-                        self->_committed(answer, parseError, requestError);
-                    });
+        self->_call("upload.complete",
+                    {{QStringLiteral("ticket_id"), self->_ticketID}, {QStringLiteral("filename"), self->_fileName()}},
+                    [self](const Answer &answer) { self->_committed(answer); });
     });
 }
 
-void VimeoPost::_committed(const std::optional<QVariantMap> &answer, const std::optional<NSError> &parseError,
-                           const std::optional<NSError> &requestError) {
-    if (answer) {
-        _videoID = answer->value(QStringLiteral("ticket")).toMap().value(QStringLiteral("video_id"));
+void VimeoPost::_committed(const Answer &answer) {
+    if (answer.object) {
+        _videoID = answer.object->value(QStringLiteral("ticket")).toMap().value(QStringLiteral("video_id"));
         _commitSent = textValue(_videoID).isEmpty(); // an answer without an id leaves it open
         return _proceedAfterCheckpoint([self = shared_from_this()] { self->_setTitle(); });
     }
     // Only the request layer's own error starts anew; Vimeo's word for it, found by the parser, is final.
+    const auto &requestError = answer.requestError;
     const bool asksForRestart = requestError && requestError->domain() == VimeoPublishPostErrorDomain &&
                                 requestError->code() == VimeoPostErrorServiceCode708;
     if (!asksForRestart || _retryCount++ >= maximumRestarts)
-        return failWithError(requestError ? *requestError : *parseError);
+        return failWithError(requestError ? *requestError : *answer.parseError);
     std::optional<NSError> startError;
     if (!uploadToAccount(account, &startError)) failWithError(*startError);
 }
@@ -255,11 +247,9 @@ QString VimeoPost::_fileName() const {
 void VimeoPost::_setTitle() {
     KRLog("Setting title to \"%@\"", title);
     _uploadState = VimeoUploadStateSettingTitle;
-    _call({{QStringLiteral("method"), method("setTitle")},
-           {QStringLiteral("video_id"), _videoID},
-           {QStringLiteral("title"), *title}},
-          [self = shared_from_this()](const auto &answer, const auto &parseError, const auto &) {
-              if (!answer) return self->failWithError(*parseError);
+    _call("setTitle", {{QStringLiteral("video_id"), _videoID}, {QStringLiteral("title"), *title}},
+          [self = shared_from_this()](const Answer &answer) {
+              if (!answer.object) return self->failWithError(*answer.parseError);
               self->_setDescription();
           });
 }
@@ -269,10 +259,8 @@ void VimeoPost::_setDescription() {
     KRLog("Setting description to \"%@\"", postDescription);
     _uploadState = VimeoUploadStateSettingDescription;
     if (!postDescription) return _setTags();
-    _call({{QStringLiteral("method"), method("setDescription")},
-           {QStringLiteral("video_id"), _videoID},
-           {QStringLiteral("description"), *postDescription}},
-          [self = shared_from_this()](const auto &, const auto &, const auto &) { self->_setTags(); });
+    _call("setDescription", {{QStringLiteral("video_id"), _videoID}, {QStringLiteral("description"), *postDescription}},
+          [self = shared_from_this()](const Answer &) { self->_setTags(); });
 }
 
 std::optional<QString> VimeoPost::_tags() const {
@@ -284,11 +272,9 @@ void VimeoPost::_setTags() {
     KRLog("Setting tags to \"%@\"", joined);
     if (!joined) return _setPrivacy();
     _uploadState = VimeoUploadStateAddingTags;
-    _call({{QStringLiteral("method"), method("addTags")},
-           {QStringLiteral("video_id"), _videoID},
-           {QStringLiteral("tags"), *joined}},
-          [self = shared_from_this()](const auto &answer, const auto &parseError, const auto &) {
-              if (!answer) return self->failWithError(*parseError);
+    _call("addTags", {{QStringLiteral("video_id"), _videoID}, {QStringLiteral("tags"), *joined}},
+          [self = shared_from_this()](const Answer &answer) {
+              if (!answer.object) return self->failWithError(*answer.parseError);
               self->_setPrivacy();
           });
 }
@@ -296,12 +282,11 @@ void VimeoPost::_setTags() {
 void VimeoPost::_setPrivacy() {
     _uploadState = VimeoUploadStateSettingPrivacy;
     KRLog("Setting privacy to %i", privacySettings);
-    _call({{QStringLiteral("method"), method("setPrivacy")},
-           {QStringLiteral("video_id"), _videoID},
-           {QStringLiteral("privacy"),
-            privacySettings != VimeoPrivacyPublic ? QStringLiteral("nobody") : QStringLiteral("anybody")}},
-          [self = shared_from_this()](const auto &answer, const auto &parseError, const auto &) {
-              if (!answer) return self->failWithError(*parseError);
+    const QString viewers =
+        privacySettings == VimeoPrivacyPublic ? QStringLiteral("anybody") : QStringLiteral("nobody");
+    _call("setPrivacy", {{QStringLiteral("video_id"), _videoID}, {QStringLiteral("privacy"), viewers}},
+          [self = shared_from_this()](const Answer &answer) {
+              if (!answer.object) return self->failWithError(*answer.parseError);
               if (const auto delegate = self->_delegate.lock()) delegate->vimeoPostUploadSucceeded(self);
               self->_cleanup();
           });

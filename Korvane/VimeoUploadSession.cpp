@@ -5,8 +5,6 @@
 #include "Platform/Foundation/KRAssert.h"
 #include "Platform/Social/RemoteServiceProxy.h"
 
-#include <semaphore>
-
 namespace korvane {
 namespace {
 
@@ -38,20 +36,10 @@ std::shared_ptr<VimeoUploadSession> VimeoUploadSession::init() {
 }
 
 bool VimeoUploadSession::uploadPost(const std::shared_ptr<VimeoPost> &post, std::optional<NSError> *error) {
-    std::binary_semaphore replied(0);
-    bool succeeded = false;
-    std::optional<NSError> replyError;
     KRAssert(_remoteSession != nullptr, "_remoteSession", "-[VimeoUploadSession uploadPost:error:]",
              "Korvane/VimeoUploadSession", 53);
-    _remoteSession->uploadPost(post->serializedDictionary(),
-                               [&](std::optional<bool> success, const std::optional<NSError> &failure) {
-                                   succeeded = success.value_or(false);
-                                   replyError = failure;
-                                   replied.release();
-                               });
-    replied.acquire();
-    setError(error, replyError);
-    return succeeded;
+    return waitForReply([&](const auto &reply) { _remoteSession->uploadPost(post->serializedDictionary(), reply); },
+                        error);
 }
 
 QString VimeoUploadSession::lastMessageID() const {

@@ -10,6 +10,8 @@
 namespace korvane {
 namespace {
 
+const QString serviceName = QStringLiteral("Flickr");
+
 // Codes of flickr.com/services/api/upload.api.html; those not listed here are final and have only Flickr's own words.
 QString adviceOnCode(qint64 code) {
     static const QHash<qint64, QString> advice{
@@ -43,9 +45,7 @@ std::optional<Verdict> verdictOnOAuthProblem(const NSError &error) {
 
 Verdict verdictOnAnswer(const NSError &error, int status) {
     if (const auto verdict = error.code() == -1 ? verdictOnOAuthProblem(error) : std::nullopt) return *verdict;
-    if (isServerTrouble(status))
-        return Verdict::waiting(WaitReason::NextTry, error,
-                                QStringLiteral("Flickr is in trouble (HTTP status %1).").arg(status));
+    if (const auto verdict = Verdict::onServerTrouble(error, status, serviceName)) return *verdict;
     const QString message = shownAnswer(error.localizedDescription());
     if (error.code() == 105 || error.code() == 106)
         return Verdict::waiting(WaitReason::NextTry, error,
@@ -70,10 +70,9 @@ Verdict verdictOnPhotoSet(const RunOutcome &outcome) {
     if (request.transportError)
         return Verdict::waiting(WaitReason::Network, *request.transportError,
                                 text.arg(request.transportError->localizedDescription()));
-    if (isServerTrouble(request.httpStatus))
-        return Verdict::waiting(
-            WaitReason::NextTry, NSError(FlickrResponseErrorDomain, -1),
-            text.arg(QStringLiteral("Flickr is in trouble (HTTP status %1).").arg(request.httpStatus)));
+    const NSError error(FlickrResponseErrorDomain, -1);
+    if (const auto trouble = Verdict::onServerTrouble(error, request.httpStatus, serviceName))
+        return Verdict::waiting(WaitReason::NextTry, error, text.arg(trouble->error->localizedDescription()));
     return {};
 }
 
@@ -83,12 +82,12 @@ Verdict FailureClassifier::verdictOnFlickrRun(const RunOutcome &outcome, bool wa
     if (const auto verdict = Verdict::onUnbegunRun(outcome)) return *verdict;
     if (!outcome.error) return wantsPhotoSet ? verdictOnPhotoSet(outcome) : Verdict{};
     const NSError &error = *outcome.error;
-    if (error.domain() == NSURLErrorDomain) return Verdict::onTransport(error, QStringLiteral("Flickr"));
+    if (error.domain() == NSURLErrorDomain) return Verdict::onTransport(error, serviceName);
     if (error.domain() == FlickrResponseErrorDomain) return verdictOnAnswer(error, outcome.lastRequest.httpStatus);
     if (error.domain() == FlickrPostErrorDomain)
         return Verdict::failed(
             error, QStringLiteral("The photo is no longer in the photo library. Share it again from where it is now."));
-    return Verdict::failed(error, error.localizedDescription());
+    return Verdict::failed(error);
 }
 
 } // namespace korvane

@@ -24,8 +24,7 @@ void upload(const std::shared_ptr<UploadRun> &run) {
     const auto post = FlickrPost::initWithDictionary(run->record);
     post->photoID = run->job.photoID;
     if (const auto objection = PostCheck::prepare(*post, run->job))
-        return end(run, *post,
-                   {objection->mayPass ? RunOutcome::Hindered : RunOutcome::Unusable, objection->error, {}, 0});
+        return end(run, *post, PostCheck::outcomeOfObjection(*objection));
     const auto account = accountOfJob(run->job, *run->accounts);
     if (!account || !account->credential()) return end(run, *post, withoutAccount(run->job));
     account->setUploadContext(run->context);

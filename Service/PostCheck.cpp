@@ -104,6 +104,10 @@ std::optional<PostCheck::Objection> objectionToData(const std::optional<NSData> 
 
 } // namespace
 
+RunOutcome PostCheck::outcomeOfObjection(const Objection &objection) {
+    return {objection.mayPass ? RunOutcome::Hindered : RunOutcome::Unusable, objection.error};
+}
+
 std::optional<PostCheck::Objection> PostCheck::prepare(FlickrPost &post, const UploadJob &job) {
     const QString scheme = post.assetURL ? post.assetURL->scheme() : QString();
     if (post.photoID != 0) return std::nullopt;

@@ -3,6 +3,7 @@
 
 #include "Korvane/FlickrPost.h"
 #include "Korvane/VimeoPost.h"
+#include "Service/RunOutcome.h"
 #include "Service/UploadJob.h"
 
 #include <optional>
@@ -17,6 +18,8 @@ struct Objection {
     NSError error;        // why the post cannot be uploaded, and what to do
     bool mayPass = false; // it may be possible later without anybody doing anything
 };
+// How a run ends that is not begun because of it.
+RunOutcome outcomeOfObjection(const Objection &objection);
 
 // Makes the post ready: a file is opened here, compared with the one that was shared, and stays the one that is sent,
 // whatever happens to its name. Null if the post can be uploaded. May block on a slow disk.

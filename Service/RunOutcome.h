@@ -4,7 +4,6 @@
 #include "Platform/Foundation/NSError.h"
 #include "Platform/Foundation/UploadContext.h"
 
-#include <functional>
 #include <optional>
 
 namespace korvane {
@@ -18,8 +17,8 @@ struct RunOutcome {
     };
 
     End end = Finished;
-    std::optional<NSError> error;
-    UploadContext::Snapshot lastRequest; // of a run that got to the network
+    std::optional<NSError> error = {};
+    UploadContext::Snapshot lastRequest = {}; // of a run that got to the network
     qint64 photoID = 0;
 };
 

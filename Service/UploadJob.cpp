@@ -15,13 +15,6 @@ QString timeText(qint64 milliseconds) {
     return QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC).toString(Qt::ISODate);
 }
 
-QString stateText(UploadState state) {
-    static const std::array<QString, 5> names{QStringLiteral("queued"), QStringLiteral("running"),
-                                              QStringLiteral("waiting"), QStringLiteral("done"),
-                                              QStringLiteral("failed")};
-    return names.at(size_t(state));
-}
-
 QString waitText(WaitReason reason) {
     static const std::array<QString, 4> names{QString(), QStringLiteral("network"), QStringLiteral("sign-in"),
                                               QStringLiteral("next try")};
@@ -29,6 +22,13 @@ QString waitText(WaitReason reason) {
 }
 
 } // namespace
+
+QString stateText(UploadState state) {
+    static const std::array<QString, 5> names{QStringLiteral("queued"), QStringLiteral("running"),
+                                              QStringLiteral("waiting"), QStringLiteral("done"),
+                                              QStringLiteral("failed")};
+    return names.at(size_t(state));
+}
 
 QVariantMap dictionaryOfJob(const UploadJob &job, qint64 bytesSent, qint64 bytesConfirmed, qint64 bytesTotal) {
     QVariantMap dictionary{{QStringLiteral("id"), QString::number(job.id)},

@@ -15,6 +15,9 @@ namespace korvane {
 enum class UploadState { Queued = 0, Running = 1, Waiting = 2, Done = 3, Failed = 4 };
 enum class WaitReason { None = 0, Network = 1, SignIn = 2, NextTry = 3 };
 
+// As the status interface names it.
+QString stateText(UploadState state);
+
 inline const QString flickrServiceID = QStringLiteral("flickr");
 inline const QString vimeoServiceID = QStringLiteral("vimeo");
 

@@ -141,7 +141,7 @@ bool UploadQueue::_start(UploadJob job) {
         _running[job.id] = {job, context};
     }
     const auto data = job.spoolFile.isEmpty() ? nullptr : _spool.open(job.spoolFile);
-    UploadRun run{job, RecordCodec::decode(_store->record(job.id), data), context, _accounts, &_spool, {}, {}};
+    UploadRun run{job, RecordCodec::decode(_store->record(job.id), data), context, _accounts, &_spool};
     run.reached = [this](const UploadJob &reached, bool durably, const std::function<void(bool)> &recorded) {
         _queue.async([=, this] {
             const bool isRecorded = _reached(reached, durably);

@@ -79,7 +79,7 @@ private:
         UploadJob job;
         std::shared_ptr<UploadContext> context;
         StopReason stopReason = StopReason::None;
-        mutable qint64 mostSent = 0; // bytes; the bar does not go back while a chunk is verified
+        mutable qint64 mostSent = 0; // bytes
     };
 
     // While a service cannot be reached, its queued uploads need not all find that out by themselves.
@@ -109,6 +109,7 @@ private:
     void _stopRunning(StopReason reason);
     void _armWake();
     void _announce(const UploadJob &job);
+    static UploadProgress _progressOfRun(const UploadJob &job, const Running &running);
     QVariantMap _dictionary(const UploadJob &job) const;
     size_t _runningOf(const QString &service) const;
     void _answerWhenDone(std::function<QVariant()> work, const Answer &answer);

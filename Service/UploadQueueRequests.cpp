@@ -58,16 +58,12 @@ void UploadQueue::idsOfMessage(const QString &messageID, const Answer &answer) {
 void UploadQueue::counts(const Answer &answer) {
     _answerWhenDone(
         [this] {
-            const auto counts = _store->counts();
-            const auto of = [&](UploadState state) {
-                const auto found = counts.find(state);
-                return QVariant(found == counts.end() ? qint64(0) : found->second);
-            };
-            return QVariant(QVariantMap{{QStringLiteral("queued"), of(UploadState::Queued)},
-                                        {QStringLiteral("running"), of(UploadState::Running)},
-                                        {QStringLiteral("waiting"), of(UploadState::Waiting)},
-                                        {QStringLiteral("done"), of(UploadState::Done)},
-                                        {QStringLiteral("failed"), of(UploadState::Failed)}});
+            auto counts = _store->counts();
+            QVariantMap named;
+            for (const UploadState state : {UploadState::Queued, UploadState::Running, UploadState::Waiting,
+                                            UploadState::Done, UploadState::Failed})
+                named.insert(stateText(state), counts[state]);
+            return QVariant(named);
         },
         answer);
 }
@@ -188,20 +184,23 @@ void UploadQueue::_stopRunning(StopReason reason) {
 std::vector<UploadProgress> UploadQueue::progress() const {
     const std::lock_guard lock(_runningMutex);
     std::vector<UploadProgress> all;
-    for (const auto &[id, running] : _running) {
-        all.push_back(progressOf(running.job, running.context->snapshot()));
-        running.mostSent = all.back().bytesSent = std::max(all.back().bytesSent, running.mostSent);
-    }
+    for (const auto &[id, running] : _running)
+        all.push_back(_progressOfRun(running.job, running));
     return all;
 }
 
+// The bar does not go back while a chunk is verified. Under the mutex.
+UploadProgress UploadQueue::_progressOfRun(const UploadJob &job, const Running &running) {
+    UploadProgress progress = progressOf(job, running.context->snapshot());
+    running.mostSent = progress.bytesSent = std::max(progress.bytesSent, running.mostSent);
+    return progress;
+}
+
 QVariantMap UploadQueue::_dictionary(const UploadJob &job) const {
-    const auto running = _running.find(job.id);
-    UploadProgress bytes =
-        progressOf(job, running == _running.end() ? UploadContext::Snapshot{} : running->second.context->snapshot());
-    if (running != _running.end()) {
+    UploadProgress bytes = progressOf(job, {});
+    if (const auto running = _running.find(job.id); running != _running.end()) {
         const std::lock_guard lock(_runningMutex);
-        running->second.mostSent = bytes.bytesSent = std::max(bytes.bytesSent, running->second.mostSent);
+        bytes = _progressOfRun(job, running->second);
     }
     if (job.state == UploadState::Done) bytes.bytesSent = bytes.bytesConfirmed = bytes.bytesTotal;
     return dictionaryOfJob(job, bytes.bytesSent, bytes.bytesConfirmed, bytes.bytesTotal);

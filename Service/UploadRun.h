@@ -25,9 +25,9 @@ struct UploadRun {
     // be taken twice, so this has to outlive a power cut too. recorded (may be empty) hears whether it is on the disk,
     // on a thread of the queue's. Thread: any, one call at a time.
     std::function<void(const UploadJob &job, bool durably, const std::function<void(bool isRecorded)> &recorded)>
-        reached;
+        reached = {};
     // Exactly once; the job carries what was reached and the size, if it became known. Main thread.
-    std::function<void(const Verdict &verdict, const UploadJob &job)> ended;
+    std::function<void(const Verdict &verdict, const UploadJob &job)> ended = {};
 };
 
 } // namespace korvane

@@ -162,8 +162,8 @@ void UploadService::_endWhenIdle() {
     _queue->counts([this](const QVariant &value) {
         const QVariantMap counts = value.toMap();
         qint64 pending = 0;
-        for (const QString &state : {QStringLiteral("queued"), QStringLiteral("running"), QStringLiteral("waiting")})
-            pending += counts.value(state).toLongLong();
+        for (const UploadState state : {UploadState::Queued, UploadState::Running, UploadState::Waiting})
+            pending += counts.value(stateText(state)).toLongLong();
         dispatchMain([this, idle = pending == 0] {
             if (idle && _wasIdle) stop(0);
             _wasIdle = idle;

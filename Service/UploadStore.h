@@ -71,11 +71,12 @@ public:
     void setPaused(bool paused);
 
 private:
+    QSqlQuery _prepared(const QString &statement, const QVariantList &values = {});
     bool _run(QSqlQuery &query);
     bool _exec(const QString &statement);
     std::vector<UploadJob> _select(const QString &condition, const QVariantList &values);
     void _setDurable(bool durable);
-    bool _bringUpToDate(int version);
+    bool _bringUpToDate(const QStringList &statements);
     bool _isSound();
     NSError _lastError() const;
 

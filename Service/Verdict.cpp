@@ -18,10 +18,14 @@ Verdict Verdict::failed(const NSError &error, const QString &text) {
     return {UploadState::Failed, WaitReason::None, NSError::errorWithDescription(error.domain(), error.code(), text)};
 }
 
+Verdict Verdict::failed(const NSError &error) {
+    return failed(error, error.localizedDescription());
+}
+
 std::optional<Verdict> Verdict::onUnbegunRun(const RunOutcome &outcome) {
     switch (outcome.end) {
     case RunOutcome::Unusable:
-        return Verdict{UploadState::Failed, WaitReason::None, outcome.error};
+        return failed(*outcome.error);
     case RunOutcome::Hindered:
         return Verdict{UploadState::Waiting, WaitReason::NextTry, outcome.error};
     case RunOutcome::NoAccount:
@@ -45,6 +49,12 @@ Verdict Verdict::onTransport(const NSError &error, const QString &service) {
         return waiting(WaitReason::NextTry, error,
                        QStringLiteral("The connection to %1 failed: %2").arg(service, error.localizedDescription()));
     }
+}
+
+std::optional<Verdict> Verdict::onServerTrouble(const NSError &error, int status, const QString &service) {
+    if (!isServerTrouble(status)) return std::nullopt;
+    return waiting(WaitReason::NextTry, error,
+                   QStringLiteral("%1 is in trouble (HTTP status %2).").arg(service).arg(status));
 }
 
 bool isServerTrouble(int status) {

@@ -15,10 +15,14 @@ struct Verdict {
     // With the error's domain and code and a text for people.
     static Verdict waiting(WaitReason reason, const NSError &error, const QString &text);
     static Verdict failed(const NSError &error, const QString &text);
+    // With the error's own text.
+    static Verdict failed(const NSError &error);
     // Of a run that did not get to the web service; null for one that did.
     static std::optional<Verdict> onUnbegunRun(const RunOutcome &outcome);
     // Of an error of NSURLErrorDomain. service: its name for people.
     static Verdict onTransport(const NSError &error, const QString &service);
+    // Of an HTTP status; null for one that speaks of no trouble of the service's own.
+    static std::optional<Verdict> onServerTrouble(const NSError &error, int status, const QString &service);
 };
 
 // Whether the HTTP status speaks of a trouble of the service's own that will pass.

@@ -75,7 +75,7 @@ QString missingOf(const VimeoPost &post) {
 Verdict verdictOnExport(const NSError &error) {
     const bool mayPass = error.code() == AVErrorDiskFull || error.code() == AVErrorExportFailed;
     return mayPass ? Verdict::waiting(WaitReason::NextTry, error, error.localizedDescription())
-                   : Verdict::failed(error, error.localizedDescription());
+                   : Verdict::failed(error);
 }
 
 } // namespace
@@ -87,12 +87,10 @@ Verdict FailureClassifier::verdictOnVimeoRun(const RunOutcome &outcome) {
     const auto &request = outcome.lastRequest;
     if (error.domain() == AVFoundationErrorDomain) return verdictOnExport(error);
     if (error.domain() == NSURLErrorDomain) return Verdict::onTransport(error, serviceName);
-    if (error.domain() != VimeoPublishPostErrorDomain) return Verdict::failed(error, error.localizedDescription());
+    if (error.domain() != VimeoPublishPostErrorDomain) return Verdict::failed(error);
     // The upload's own codes for an answer that did not come say nothing of why.
     if (request.transportError) return Verdict::onTransport(*request.transportError, serviceName);
-    if (isServerTrouble(request.httpStatus))
-        return Verdict::waiting(WaitReason::NextTry, error,
-                                QStringLiteral("Vimeo is in trouble (HTTP status %1).").arg(request.httpStatus));
+    if (const auto verdict = Verdict::onServerTrouble(error, request.httpStatus, serviceName)) return *verdict;
     return verdictOnPostError(error, request);
 }
 

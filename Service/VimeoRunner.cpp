@@ -68,16 +68,15 @@ void VimeoRun::begin() {
     _post = VimeoPost::initWithDictionary(_run.record);
     if (_run.job.video && _run.job.video->commitSent) return _end(FailureClassifier::verdictOnUnansweredCommit());
     if (const auto objection = PostCheck::prepare(*_post, _run.job))
-        return _endWithOutcome(
-            {objection->mayPass ? RunOutcome::Hindered : RunOutcome::Unusable, objection->error, {}, 0});
+        return _endWithOutcome(PostCheck::outcomeOfObjection(*objection));
     if (_run.job.video && _run.job.video->hasTicket())
         if (const auto objection = TicketCheck::objection(*_run.job.video))
-            return _endWithOutcome({RunOutcome::Unusable, objection, {}, 0});
+            return _endWithOutcome({RunOutcome::Unusable, objection});
     const auto account = accountOfJob(_run.job, *_run.accounts);
     if (!account || !account->credential()) return _endWithOutcome(withoutAccount(_run.job));
     account->setUploadContext(_run.context);
     if (!makePrivateFolder(_temporaryFolder))
-        return _endWithOutcome({RunOutcome::Hindered, NSError::errorWithErrno(errno, _temporaryFolder), {}, 0});
+        return _endWithOutcome({RunOutcome::Hindered, NSError::errorWithErrno(errno, _temporaryFolder)});
     _post->temporaryDirectory = _temporaryFolder;
     if (!_run.job.exportFile.isEmpty())
         _post->dataReader = KRDataReader::dataReaderWithURL(_run.spool->urlOf(_run.job.exportFile));
@@ -118,20 +117,20 @@ void VimeoRun::_keepExport() {
 }
 
 std::optional<Verdict> VimeoRun::_reasonToBreakOff(const VimeoCheckpoint &checkpoint) {
-    const auto failed = [](const NSError &error) { return Verdict{UploadState::Failed, WaitReason::None, error}; };
     if (checkpoint.videoID.isValid() && !checkpoint.commitSent) return std::nullopt; // what matters is there
     if (checkpoint.commitSent && _run.job.video && _run.job.video->commitSent)
         return FailureClassifier::verdictOnUnansweredCommit(); // answered, but without the video's id
-    if (const auto changed = PostCheck::objectionToChange(*_post, _run.job)) return failed(*changed);
+    if (const auto changed = PostCheck::objectionToChange(*_post, _run.job)) return Verdict::failed(*changed);
     if (!checkpoint.hasTicket() && _post->uploadState() != VimeoUploadStateGettingTicket) return std::nullopt;
-    if (const auto objection = TicketCheck::objection(checkpoint)) return failed(*objection);
+    if (const auto objection = TicketCheck::objection(checkpoint)) return Verdict::failed(*objection);
     if (_post->uploadState() != VimeoUploadStateVerifyingChunk) return std::nullopt;
     // The upload takes a refused verify for an empty endpoint and would send everything again.
     const auto request = _run.context->snapshot();
     if (request.httpStatus >= 400) return FailureClassifier::verdictOnRefusedVerify(request);
     // More than the video has would be committed at once, whatever is there.
-    if (checkpoint.bytesStored > quint64(_post->postSize())) return failed(TicketCheck::senselessCountError());
-    return _watch.heard(checkpoint.bytesStored) ? std::nullopt : std::optional(failed(TicketCheck::stuckError()));
+    if (checkpoint.bytesStored > quint64(_post->postSize())) return Verdict::failed(TicketCheck::senselessCountError());
+    return _watch.heard(checkpoint.bytesStored) ? std::nullopt
+                                                : std::optional(Verdict::failed(TicketCheck::stuckError()));
 }
 
 void VimeoRun::_finished(const std::optional<NSError> &error) {
@@ -143,7 +142,7 @@ void VimeoRun::_finished(const std::optional<NSError> &error) {
         video->commitSent = false;
         if (fate == FailureClassifier::CommitFate::Refused) video.reset(); // a later try begins with a new ticket
     }
-    const RunOutcome outcome{RunOutcome::Finished, error, request, 0};
+    const RunOutcome outcome{RunOutcome::Finished, error, request};
     if (error && video && video->videoID.isValid()) return _end(FailureClassifier::verdictAfterCommit(outcome, *_post));
     const Verdict verdict = FailureClassifier::verdictOnVimeoRun(outcome);
     const bool isAtEndpoint = _post->uploadState() == VimeoUploadStateUploadingChunk ||

@@ -85,4 +85,14 @@ private:
     BodyReader *_body = nullptr;
 };
 
+// A route on which a service's function serves each request.
+template <typename Service>
+auto routeTo(Service &service, void (Service::*serve)(Exchange &), ServiceContext &context) {
+    return [&service, serve, &context](const httplib::Request &request, httplib::Response &response,
+                                       const httplib::ContentReader &) {
+        Exchange exchange(context, request, response, *Connection::current());
+        (service.*serve)(exchange);
+    };
+}
+
 } // namespace standin

@@ -22,13 +22,7 @@ bool isStored(const QByteArray &name) {
 FlickrService::FlickrService(ServiceContext &context) : _context(context), _check(credential()) {}
 
 void FlickrService::addRoutes(HttpServer &server) {
-    const auto route = [this](void (FlickrService::*serve)(Exchange &)) {
-        return [this, serve](const httplib::Request &request, httplib::Response &response,
-                             const httplib::ContentReader &) {
-            Exchange exchange(_context, request, response, *Connection::current());
-            (this->*serve)(exchange);
-        };
-    };
+    const auto route = [this](auto serve) { return routeTo(*this, serve, _context); };
     server.Post("/services/upload/?", route(&FlickrService::_upload));
     server.Post("/services/rest/?", route(&FlickrService::_rest));
 }

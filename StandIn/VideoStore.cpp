@@ -31,6 +31,15 @@ QByteArray problemOf(const Video &video, const PutHead &head) {
     return head.start + head.length > video.totalBytes ? "its body reaches past the video's end" : "";
 }
 
+// Whose member has the value; requests are about the newest ticket mostly. Null if there is none, or it is without
+// value: the id before the commit.
+template <typename Entries, typename Value>
+auto *newest(Entries &entries, Value Video::*member, const Value &value) {
+    const auto found =
+        std::find_if(entries.rbegin(), entries.rend(), [&](const auto &entry) { return entry.video.*member == value; });
+    return value == Value() || found == entries.rend() ? nullptr : &*found;
+}
+
 } // namespace
 
 bool VideoStore::open(const QString &folder, bool keepBodies, QString *error) {
@@ -140,8 +149,8 @@ std::vector<Video> VideoStore::videos() const {
 
 std::optional<Video> VideoStore::video(qint64 id) const {
     const std::lock_guard lock(_mutex);
-    const auto found = std::find_if(_entries.begin(), _entries.end(), [&](const Entry &e) { return e.video.id == id; });
-    return id == 0 || found == _entries.end() ? std::nullopt : std::optional(found->video);
+    const Entry *entry = newest(_entries, &Video::id, id);
+    return entry ? std::optional(entry->video) : std::nullopt;
 }
 
 QByteArray VideoStore::sha256(const QByteArray &ticketId) {
@@ -178,22 +187,16 @@ void VideoStore::setQuota(const std::optional<Quota> &quota) {
     _quota = quota;
 }
 
-// Requests are about the newest ticket mostly.
 VideoStore::Entry *VideoStore::_withTicket(const QByteArray &ticketId) {
-    const auto found =
-        std::find_if(_entries.rbegin(), _entries.rend(), [&](const Entry &e) { return e.video.ticketId == ticketId; });
-    return found == _entries.rend() ? nullptr : &*found;
+    return newest(_entries, &Video::ticketId, ticketId);
 }
 
 const VideoStore::Entry *VideoStore::_withTicket(const QByteArray &ticketId) const {
-    return const_cast<VideoStore *>(this)->_withTicket(ticketId);
+    return newest(_entries, &Video::ticketId, ticketId);
 }
 
 VideoStore::Entry *VideoStore::_withVideo(const QByteArray &videoId) {
-    const qint64 id = videoId.toLongLong();
-    const auto found =
-        std::find_if(_entries.rbegin(), _entries.rend(), [&](const Entry &e) { return e.video.id == id; });
-    return id == 0 || found == _entries.rend() ? nullptr : &*found;
+    return newest(_entries, &Video::id, videoId.toLongLong());
 }
 
 VideoStore::Entry &VideoStore::_add(const QByteArray &ticketId) {

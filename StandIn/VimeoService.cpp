@@ -42,13 +42,7 @@ void addTags(Video &video, const QString &tags) {
 VimeoService::VimeoService(ServiceContext &context) : _context(context), _check(credential()) {}
 
 void VimeoService::addRoutes(HttpServer &server) {
-    const auto route = [this](void (VimeoService::*serve)(Exchange &)) {
-        return [this, serve](const httplib::Request &request, httplib::Response &response,
-                             const httplib::ContentReader &) {
-            Exchange exchange(_context, request, response, *Connection::current());
-            (this->*serve)(exchange);
-        };
-    };
+    const auto route = [this](auto serve) { return routeTo(*this, serve, _context); };
     server.Post("/api/rest/v2", route(&VimeoService::_rest));
     server.Put("/upload", route(&VimeoService::_put));
     server.Post("/upload", route(&VimeoService::_put));

@@ -8,19 +8,7 @@ seconds=${1:-60}
 targets=("${@:2}")
 [ ${#targets[@]} -gt 0 ] || targets=(OAuthQuery FlickrResponse WireRecord)
 
-scripts/setup.sh
-missing=()
-for package in clang-14 libclang-rt-14-dev; do
-  dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
-done
-if [ ${#missing[@]} -gt 0 ]; then
-  echo "Installing: ${missing[*]}"
-  sudo=()
-  [ "$(id -u)" -eq 0 ] || sudo=(sudo)
-  export DEBIAN_FRONTEND=noninteractive
-  "${sudo[@]}" apt-get update -qq
-  "${sudo[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" </dev/null
-fi
+scripts/setup.sh clang-14 libclang-rt-14-dev
 scripts/build.sh fuzz fuzzers
 
 export ASAN_OPTIONS="detect_leaks=1:${ASAN_OPTIONS:-}"

@@ -1,13 +1,15 @@
 #!/usr/bin/env bash
-# Installs what building, testing and trying out Korvane need on Debian 12. Quick when nothing is missing.
+# Installs what building, testing and trying out Korvane need on Debian 12: scripts/setup.sh [MORE PACKAGES...]
+# Quick when nothing is missing.
 set -euo pipefail
 
 packages=(
-  ca-certificates g++ cmake ninja-build ccache pkg-config gettext-base
+  ca-certificates g++ cmake ninja-build ccache pkg-config
   qt6-base-dev qt6-tools-dev qt6-l10n-tools libqt6sql6-sqlite
   libsecret-1-dev libcurl4-openssl-dev libvips-dev libcpp-httplib-dev libcli11-dev libfmt-dev nlohmann-json3-dev
   shared-mime-info dbus ffmpeg file
   libgtest-dev libgmock-dev libbenchmark-dev curl
+  "$@"
 )
 
 missing=()

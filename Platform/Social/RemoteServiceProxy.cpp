@@ -5,6 +5,7 @@
 
 #include <QUuid>
 
+#include <semaphore>
 #include <thread>
 
 namespace korvane {
@@ -32,6 +33,20 @@ void RemoteServiceProxy::send(const QVariantList &records, const XPCTransferComp
 QString RemoteServiceProxy::lastMessageID() const {
     const std::lock_guard lock(_mutex);
     return _lastMessageID;
+}
+
+bool waitForReply(const std::function<void(const XPCTransferCompletion &reply)> &send, std::optional<NSError> *error) {
+    std::binary_semaphore replied(0);
+    bool succeeded = false;
+    std::optional<NSError> replyError;
+    send([&](std::optional<bool> success, const std::optional<NSError> &failure) {
+        succeeded = success.value_or(false);
+        replyError = failure;
+        replied.release();
+    });
+    replied.acquire();
+    setError(error, replyError);
+    return succeeded;
 }
 
 } // namespace korvane

@@ -32,4 +32,8 @@ private:
     QString _lastMessageID;
 };
 
+// Hands a reply block to send and blocks, without a time limit, until it has run. Returns what was replied; the error
+// is placed also with a YES.
+bool waitForReply(const std::function<void(const XPCTransferCompletion &reply)> &send, std::optional<NSError> *error);
+
 } // namespace korvane
