@@ -1,6 +1,7 @@
 // The queue of uploads: taking over, scheduling and outcomes.
 #include "Service/UploadQueue.h"
 
+#include "Korvane/KRRemoteSession.h"
 #include "Platform/Accounts/ACAccountStore.h"
 #include "Platform/Foundation/NSLog.h"
 #include "Platform/Preferences/KorvaneSettings.h"
@@ -151,6 +152,7 @@ bool UploadQueue::_start(UploadJob job) {
     run.ended = [this](const Verdict &verdict, const UploadJob &reached) {
         _queue.async([=, this] { _ended(verdict, reached); });
     };
+    dispatchMain([] { KRRemoteSession::incrementPowerAssertion(); });
     job.service == flickrServiceID ? FlickrRunner::start(std::move(run)) : VimeoRunner::start(std::move(run));
     _announce(job);
     return true;
@@ -214,6 +216,8 @@ void UploadQueue::_ended(const Verdict &verdict, const UploadJob &reached) {
     }
     _schedule();
     _armWake();
+    // After the next run has begun, so that the device stays awake between the two.
+    dispatchMain([] { KRRemoteSession::decrementPowerAssertion(); });
     _endIfStopped();
 }
 
