@@ -2,7 +2,6 @@
 #include "Service/FlickrRunner.h"
 
 #include "Korvane/FlickrPost.h"
-#include "Korvane/KRRemoteSession.h"
 #include "Platform/Accounts/ACAccountStore.h"
 #include "Platform/Foundation/Dispatch.h"
 #include "Service/JobAccount.h"
@@ -12,11 +11,7 @@ namespace korvane {
 namespace {
 
 void end(const std::shared_ptr<UploadRun> &run, const FlickrPost &post, const RunOutcome &outcome) {
-    const Verdict verdict = FailureClassifier::verdictOnFlickrRun(outcome, post.photoSetID != 0);
-    dispatchMain([run, verdict] {
-        KRRemoteSession::decrementPowerAssertion();
-        run->ended(verdict, run->job);
-    });
+    run->ended(FailureClassifier::verdictOnFlickrRun(outcome, post.photoSetID != 0), run->job);
 }
 
 // From the start of the upload on, the run's job is changed on the main thread alone.
@@ -30,7 +25,7 @@ void upload(const std::shared_ptr<UploadRun> &run) {
     account->setUploadContext(run->context);
     post->checkpoint = [run, wantsPhotoSet = post->photoSetID != 0](qint64 photoID) {
         run->job.photoID = photoID;
-        run->reached(run->job, wantsPhotoSet, {}); // without a set the outcome follows at once and is kept durably
+        if (wantsPhotoSet) run->reached(run->job, true, {}); // else the outcome follows at once
     };
     post->uploadToAccount(account, [run, post](const std::optional<NSError> &error) {
         if (post->photoData) run->job.bytesTotal = post->photoData->length();
@@ -42,10 +37,7 @@ void upload(const std::shared_ptr<UploadRun> &run) {
 } // namespace
 
 void FlickrRunner::start(UploadRun run) {
-    dispatchMain([shared = std::make_shared<UploadRun>(std::move(run))] {
-        KRRemoteSession::incrementPowerAssertion();
-        dispatchGlobal([shared] { upload(shared); });
-    });
+    dispatchGlobal([shared = std::make_shared<UploadRun>(std::move(run))] { upload(shared); });
 }
 
 } // namespace korvane

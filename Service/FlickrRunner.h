@@ -7,7 +7,7 @@ namespace korvane {
 
 namespace FlickrRunner {
 
-// Checks the post, then uploads it with the device kept awake. Returns at once. Thread: any; disk and key ring are read
+// Checks the post, then uploads it. Returns at once. Thread: any; disk and key ring are read
 // on a pool thread.
 void start(UploadRun run);
 

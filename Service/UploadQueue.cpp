@@ -1,6 +1,7 @@
 // The queue of uploads: taking over, scheduling and outcomes.
 #include "Service/UploadQueue.h"
 
+#include "Korvane/KRRemoteSession.h"
 #include "Platform/Accounts/ACAccountStore.h"
 #include "Platform/Foundation/NSLog.h"
 #include "Platform/Preferences/KorvaneSettings.h"
@@ -140,7 +141,6 @@ bool UploadQueue::_start(UploadJob job) {
         const std::lock_guard lock(_runningMutex);
         _running[job.id] = {job, context};
     }
-    _announce(job);
     const auto data = job.spoolFile.isEmpty() ? nullptr : _spool.open(job.spoolFile);
     UploadRun run{job, RecordCodec::decode(_store->record(job.id), data), context, _accounts, &_spool};
     run.reached = [this](const UploadJob &reached, bool durably, const std::function<void(bool)> &recorded) {
@@ -152,7 +152,9 @@ bool UploadQueue::_start(UploadJob job) {
     run.ended = [this](const Verdict &verdict, const UploadJob &reached) {
         _queue.async([=, this] { _ended(verdict, reached); });
     };
+    dispatchMain([] { KRRemoteSession::incrementPowerAssertion(); });
     job.service == flickrServiceID ? FlickrRunner::start(std::move(run)) : VimeoRunner::start(std::move(run));
+    _announce(job);
     return true;
 }
 
@@ -214,6 +216,8 @@ void UploadQueue::_ended(const Verdict &verdict, const UploadJob &reached) {
     }
     _schedule();
     _armWake();
+    // After the next run has begun, so that the device stays awake between the two.
+    dispatchMain([] { KRRemoteSession::decrementPowerAssertion(); });
     _endIfStopped();
 }
 
@@ -224,9 +228,12 @@ void UploadQueue::_conclude(const Verdict &verdict, UploadJob job) {
         job.spoolFile.clear();
         job.exportFile.clear();
         _holds.erase(job.service);
-        _schedule(); // what was reached is recorded: the next run need not wait until the outcome is on the disk
     }
-    if (_record(job) && job.state == UploadState::Done) _dropSpoolFiles(before);
+    const bool isWritten = _store->update(job, false);
+    if (isWritten && job.state == UploadState::Done) _schedule(); // the next run need not wait for the disk
+    const bool isRecorded = isWritten && _store->makeDurable();
+    if (!isRecorded) _unrecorded[job.id] = job;
+    if (isRecorded && job.state == UploadState::Done) _dropSpoolFiles(before);
     _announce(job);
     if (job.finishedAt != 0 && _observer.finished) _observer.finished(job);
 }

@@ -26,7 +26,7 @@ struct UploadRun {
     // on a thread of the queue's. Thread: any, one call at a time.
     std::function<void(const UploadJob &job, bool durably, const std::function<void(bool isRecorded)> &recorded)>
         reached = {};
-    // Exactly once; the job carries what was reached and the size, if it became known. Main thread.
+    // Exactly once; the job carries what was reached and the size, if it became known. Thread: any.
     std::function<void(const Verdict &verdict, const UploadJob &job)> ended = {};
 };
 

@@ -31,6 +31,7 @@ QString placeholders(qsizetype count) {
 UploadStore::UploadStore() : _connectionName(QUuid::createUuid().toString()) {}
 
 UploadStore::~UploadStore() {
+    _statements.clear();
     _database.close();
     _database = QSqlDatabase();
     QSqlDatabase::removeDatabase(_connectionName);
@@ -75,16 +76,16 @@ bool UploadStore::_isSound() {
 bool UploadStore::take(const QString &messageID, const std::vector<NewUpload> &uploads, std::optional<NSError> *error) {
     _setDurable(true);
     bool taken = _database.transaction();
-    QSqlQuery message = _prepared(QStringLiteral("INSERT INTO messages (id, taken) VALUES (?, ?)"),
-                                  {messageID, QDateTime::currentMSecsSinceEpoch()});
-    taken = taken && _run(message);
+    Query message = _prepared(QStringLiteral("INSERT INTO messages (id, taken) VALUES (?, ?)"),
+                              {messageID, QDateTime::currentMSecsSinceEpoch()});
+    taken = taken && _run(*message);
     const QStringList columns = UploadRow::columns + QStringList{QStringLiteral("message"), QStringLiteral("record")};
-    QSqlQuery query = _prepared(QStringLiteral("INSERT INTO uploads (%1) VALUES (%2)")
-                                    .arg(columns.join(QStringLiteral(", ")), placeholders(columns.size())));
+    Query query = _prepared(QStringLiteral("INSERT INTO uploads (%1) VALUES (%2)")
+                                .arg(columns.join(QStringLiteral(", ")), placeholders(columns.size())));
     for (const NewUpload &upload : uploads) {
         if (!taken) break;
-        bind(query, UploadRow::valuesOfJob(upload.job) + QVariantList{messageID, upload.record});
-        taken = _run(query);
+        bind(*query, UploadRow::valuesOfJob(upload.job) + QVariantList{messageID, upload.record});
+        taken = _run(*query);
     }
     if (taken && _database.commit()) return true;
     if (taken) _errorText = _database.lastError().text();
@@ -94,22 +95,22 @@ bool UploadStore::take(const QString &messageID, const std::vector<NewUpload> &u
 }
 
 bool UploadStore::knowsMessage(const QString &messageID) {
-    QSqlQuery query = _prepared(QStringLiteral("SELECT 1 FROM messages WHERE id = ?"), {messageID});
-    return _run(query) && query.next();
+    Query query = _prepared(QStringLiteral("SELECT 1 FROM messages WHERE id = ?"), {messageID});
+    return _run(*query) && query->next();
 }
 
 QStringList UploadStore::idsOfMessage(const QString &messageID) {
-    QSqlQuery query = _prepared(QStringLiteral("SELECT id FROM uploads WHERE message = ? ORDER BY id"), {messageID});
+    Query query = _prepared(QStringLiteral("SELECT id FROM uploads WHERE message = ? ORDER BY id"), {messageID});
     QStringList ids;
-    if (_run(query))
-        while (query.next())
-            ids.append(query.value(0).toString());
+    if (_run(*query))
+        while (query->next())
+            ids.append(query->value(0).toString());
     return ids;
 }
 
 void UploadStore::forgetMessagesBefore(qint64 time) {
-    QSqlQuery query = _prepared(QStringLiteral("DELETE FROM messages WHERE taken < ?"), {time});
-    _run(query);
+    Query query = _prepared(QStringLiteral("DELETE FROM messages WHERE taken < ?"), {time});
+    _run(*query);
 }
 
 std::optional<UploadJob> UploadStore::job(qint64 id) {
@@ -118,8 +119,8 @@ std::optional<UploadJob> UploadStore::job(qint64 id) {
 }
 
 QByteArray UploadStore::record(qint64 id) {
-    QSqlQuery query = _prepared(QStringLiteral("SELECT record FROM uploads WHERE id = ?"), {id});
-    return _run(query) && query.next() ? query.value(0).toByteArray() : QByteArray();
+    Query query = _prepared(QStringLiteral("SELECT record FROM uploads WHERE id = ?"), {id});
+    return _run(*query) && query->next() ? query->value(0).toByteArray() : QByteArray();
 }
 
 std::vector<UploadJob> UploadStore::jobsAfter(qint64 id, int limit) {
@@ -128,10 +129,10 @@ std::vector<UploadJob> UploadStore::jobsAfter(qint64 id, int limit) {
 
 std::map<UploadState, qint64> UploadStore::counts() {
     std::map<UploadState, qint64> counts;
-    QSqlQuery query = _prepared(QStringLiteral("SELECT state, uploads FROM counts"));
-    if (!_run(query)) return counts;
-    while (query.next())
-        counts[UploadState(query.value(0).toInt())] = query.value(1).toLongLong();
+    Query query = _prepared(QStringLiteral("SELECT state, uploads FROM counts"));
+    if (!_run(*query)) return counts;
+    while (query->next())
+        counts[UploadState(query->value(0).toInt())] = query->value(1).toLongLong();
     return counts;
 }
 
@@ -155,27 +156,33 @@ std::vector<UploadJob> UploadStore::dueBefore(qint64 time) {
 }
 
 std::optional<qint64> UploadStore::nextDue() {
-    QSqlQuery query =
+    Query query =
         _prepared(QStringLiteral("SELECT min(next_try) FROM uploads WHERE state = ?"), {int(UploadState::Waiting)});
-    if (!_run(query) || !query.next() || query.value(0).isNull()) return std::nullopt;
-    return query.value(0).toLongLong();
+    if (!_run(*query) || !query->next() || query->value(0).isNull()) return std::nullopt;
+    return query->value(0).toLongLong();
 }
 
 bool UploadStore::update(const UploadJob &job, bool durable) {
     _setDurable(durable);
-    QSqlQuery query = _prepared(
+    Query query = _prepared(
         QStringLiteral("UPDATE uploads SET %1 = ? WHERE id = ?").arg(UploadRow::columns.join(QStringLiteral(" = ?, "))),
         UploadRow::valuesOfJob(job) + QVariantList{job.id});
-    return _run(query);
+    return _run(*query);
+}
+
+// A durable write takes along what was written before it.
+bool UploadStore::makeDurable() {
+    _setDurable(true);
+    return _exec(QStringLiteral("INSERT OR REPLACE INTO settings (name, value) VALUES ('durable', 1)"));
 }
 
 bool UploadStore::remove(const std::vector<UploadJob> &jobs) {
     _setDurable(true);
     bool removed = _database.transaction();
-    QSqlQuery query = _prepared(QStringLiteral("DELETE FROM uploads WHERE id = ?"));
+    Query query = _prepared(QStringLiteral("DELETE FROM uploads WHERE id = ?"));
     for (const UploadJob &job : jobs) {
-        query.addBindValue(job.id);
-        removed = removed && _run(query);
+        query->addBindValue(job.id);
+        removed = removed && _run(*query);
     }
     if (removed && _database.commit()) return true;
     _database.rollback();
@@ -187,17 +194,17 @@ std::vector<UploadJob> UploadStore::done() {
 }
 
 bool UploadStore::spoolFileIsNeeded(const QString &name) {
-    QSqlQuery query = _prepared(QStringLiteral("SELECT count(*) FROM uploads WHERE spool = ?"), {name});
-    return !_run(query) || !query.next() || query.value(0).toInt() > 0;
+    Query query = _prepared(QStringLiteral("SELECT count(*) FROM uploads WHERE spool = ?"), {name});
+    return !_run(*query) || !query->next() || query->value(0).toInt() > 0;
 }
 
 std::optional<QSet<QString>> UploadStore::spoolFiles() {
     QSet<QString> names;
-    QSqlQuery query = _prepared(QStringLiteral("SELECT spool FROM uploads UNION SELECT export FROM uploads"));
-    if (!_run(query)) return std::nullopt;
-    while (query.next())
-        names.insert(query.value(0).toString());
-    return query.lastError().isValid() ? std::nullopt : std::optional(names);
+    Query query = _prepared(QStringLiteral("SELECT spool FROM uploads UNION SELECT export FROM uploads"));
+    if (!_run(*query)) return std::nullopt;
+    while (query->next())
+        names.insert(query->value(0).toString());
+    return query->lastError().isValid() ? std::nullopt : std::optional(names);
 }
 
 std::vector<UploadJob> UploadStore::running() {
@@ -205,31 +212,33 @@ std::vector<UploadJob> UploadStore::running() {
 }
 
 void UploadStore::drawWaitsIn(qint64 now, qint64 longestWait) {
-    QSqlQuery query = _prepared(
+    Query query = _prepared(
         QStringLiteral("UPDATE uploads SET next_try = min(next_try, ?), failing_since = min(failing_since, ?) "
                        "WHERE state = ?"),
         {now + longestWait, now, int(UploadState::Waiting)});
-    _run(query);
+    _run(*query);
 }
 
 bool UploadStore::isPaused() {
-    QSqlQuery query = _prepared(QStringLiteral("SELECT value FROM settings WHERE name = 'paused'"));
-    return _run(query) && query.next() && query.value(0).toBool();
+    Query query = _prepared(QStringLiteral("SELECT value FROM settings WHERE name = 'paused'"));
+    return _run(*query) && query->next() && query->value(0).toBool();
 }
 
 void UploadStore::setPaused(bool paused) {
     _setDurable(true);
-    QSqlQuery query =
+    Query query =
         _prepared(QStringLiteral("INSERT OR REPLACE INTO settings (name, value) VALUES ('paused', ?)"), {int(paused)});
-    _run(query);
+    _run(*query);
 }
 
-QSqlQuery UploadStore::_prepared(const QString &statement, const QVariantList &values) {
-    QSqlQuery query(_database);
-    query.setForwardOnly(true);
-    query.prepare(statement);
-    bind(query, values);
-    return query;
+UploadStore::Query UploadStore::_prepared(const QString &statement, const QVariantList &values) {
+    const auto [found, isNew] = _statements.try_emplace(statement, _database);
+    if (isNew) {
+        found->second.setForwardOnly(true);
+        found->second.prepare(statement);
+    }
+    bind(found->second, values);
+    return Query(&found->second);
 }
 
 bool UploadStore::_run(QSqlQuery &query) {
@@ -247,13 +256,13 @@ bool UploadStore::_exec(const QString &statement) {
 }
 
 std::vector<UploadJob> UploadStore::_select(const QString &condition, const QVariantList &values) {
-    QSqlQuery query = _prepared(QStringLiteral("SELECT id, %1 FROM uploads WHERE %2")
-                                    .arg(UploadRow::columns.join(QStringLiteral(", ")), condition),
-                                values);
+    Query query = _prepared(QStringLiteral("SELECT id, %1 FROM uploads WHERE %2")
+                                .arg(UploadRow::columns.join(QStringLiteral(", ")), condition),
+                            values);
     std::vector<UploadJob> jobs;
-    if (_run(query))
-        while (query.next())
-            jobs.push_back(UploadRow::jobOfRow(query));
+    if (_run(*query))
+        while (query->next())
+            jobs.push_back(UploadRow::jobOfRow(*query));
     return jobs;
 }
 

@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -52,6 +53,8 @@ public:
     // Writes all of the job's fields but its record. durable: on disk when it returns, else only safe from a death of
     // the process.
     bool update(const UploadJob &job, bool durable);
+    // All that was written before is on the disk when it returns.
+    bool makeDurable();
     bool remove(const std::vector<UploadJob> &jobs); // all or none
     // The done ones, oldest first.
     std::vector<UploadJob> done();
@@ -69,7 +72,12 @@ public:
     void setPaused(bool paused);
 
 private:
-    QSqlQuery _prepared(const QString &statement, const QVariantList &values = {});
+    // Each statement is prepared once; it is free again for its next use when the pointer goes.
+    struct Finish {
+        void operator()(QSqlQuery *query) const { query->finish(); }
+    };
+    using Query = std::unique_ptr<QSqlQuery, Finish>;
+    Query _prepared(const QString &statement, const QVariantList &values = {});
     bool _run(QSqlQuery &query);
     bool _exec(const QString &statement);
     std::vector<UploadJob> _select(const QString &condition, const QVariantList &values);
@@ -80,6 +88,7 @@ private:
 
     QSqlDatabase _database;
     QString _connectionName;
+    std::map<QString, QSqlQuery> _statements;
     QString _errorText;
     bool _isDurable = true;
 };

@@ -1,7 +1,6 @@
 // Runs one Vimeo upload.
 #include "Service/VimeoRunner.h"
 
-#include "Korvane/KRRemoteSession.h"
 #include "Korvane/VimeoPost.h"
 #include "Platform/Accounts/ACAccountStore.h"
 #include "Platform/Foundation/Dispatch.h"
@@ -170,7 +169,6 @@ void VimeoRun::_end(const Verdict &verdict) {
     dispatchMain([self = shared_from_this(), verdict] {
         self->_post->checkpointChanged = nullptr;
         QDir(self->_temporaryFolder).removeRecursively();
-        KRRemoteSession::decrementPowerAssertion();
         self->_run.ended(verdict, self->_run.job);
     });
 }
@@ -178,10 +176,7 @@ void VimeoRun::_end(const Verdict &verdict) {
 } // namespace
 
 void VimeoRunner::start(UploadRun run) {
-    dispatchMain([shared = std::make_shared<VimeoRun>(std::move(run))] {
-        KRRemoteSession::incrementPowerAssertion();
-        dispatchGlobal([shared] { shared->begin(); });
-    });
+    dispatchGlobal([shared = std::make_shared<VimeoRun>(std::move(run))] { shared->begin(); });
 }
 
 } // namespace korvane

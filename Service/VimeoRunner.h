@@ -7,7 +7,7 @@ namespace korvane {
 
 namespace VimeoRunner {
 
-// Checks the post, then uploads it with the device kept awake, going on where the run before got to. Returns at once.
+// Checks the post, then uploads it, going on where the run before got to. Returns at once.
 // Thread: any; disk and key ring are read on pool threads.
 void start(UploadRun run);
 

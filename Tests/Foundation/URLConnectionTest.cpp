@@ -1,6 +1,7 @@
 // The blocking URL send against servers that misbehave.
 #include "Platform/Foundation/Dispatch.h"
 #include "Platform/Foundation/NSURLConnection.h"
+#include "Tests/Support/DefaultRoute.h"
 #include "Tests/Support/ScriptedServer.h"
 #include "Tests/Support/Testing.h"
 
@@ -129,6 +130,36 @@ TEST(URLConnection, DoesNotRepeatARequestThatTheServiceMayHaveActedOn) {
     ASSERT_TRUE(second.error);
     EXPECT_EQ(second.error->code(), NSURLErrorNetworkConnectionLost);
     EXPECT_EQ(requests, 2);
+}
+
+TEST(URLConnection, KeepsOffTheCellularNetworkWhereTheRequestHasTo) {
+    const ScriptedServer server([](ScriptedConnection &connection, int) {
+        connection.readHead();
+        connection.write(okAnswer);
+    });
+    const QString elsewhere = DefaultRoute::notLoopback(server.url());
+    const struct {
+        const char *device;
+        bool isAllowed;
+        QString url;
+        bool isSent;
+    } cases[] = {
+        {"wwan0", false, elsewhere, false},
+        {"wwan0", true, elsewhere, true},
+        {"wwan0", false, server.url(), true}, // this machine
+        {"eth0", false, elsewhere, true},
+    };
+    for (const auto &test : cases) {
+        const DefaultRoute route(test.device);
+        auto request = post(test.url, {});
+        request.allowsCellularAccess = test.isAllowed;
+        const Answer answer = send(request);
+        EXPECT_EQ(answer.body.has_value(), test.isSent) << test.device << ' ' << test.url.toStdString();
+        if (test.isSent) continue;
+        EXPECT_TRUE(says(answer.error, "only the cellular network"));
+        EXPECT_EQ(answer.error->code(), NSURLErrorNotConnectedToInternet);
+    }
+    EXPECT_EQ(server.connections(), 3);
 }
 
 TEST(URLConnection, AFileThatChangesWhileItIsSentNeverArrivesWhole) {

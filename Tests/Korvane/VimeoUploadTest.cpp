@@ -3,6 +3,7 @@
 #include "Platform/Accounts/ACAccount.h"
 #include "Platform/AssetsLibrary/ALAssetsLibrary.h"
 #include "Platform/Foundation/Dispatch.h"
+#include "Tests/Support/DefaultRoute.h"
 #include "Tests/Support/LogCapture.h"
 #include "Tests/Support/Printing.h"
 #include "Tests/Support/StandInAccount.h"
@@ -18,6 +19,17 @@ using namespace korvane;
 using namespace korvane::test;
 
 namespace {
+
+// The request layer has no error of its own that asks for a restart, so the answer to a commit is put in its place.
+void commitFailed(VimeoPost &post, const NSError &requestError);
+template <auto Committed>
+struct CommitOf {
+    friend void commitFailed(VimeoPost &post, const NSError &requestError) {
+        (post.*Committed)(std::nullopt, NSError(VimeoPublishPostErrorDomain, VimeoPostErrorEmptyResponse),
+                          requestError);
+    }
+};
+template struct CommitOf<&VimeoPost::_committed>;
 
 class Delegate : public VimeoPostDelegate {
 public:
@@ -261,6 +273,41 @@ TEST_F(VimeoUpload, EndsWithTheErrorOfTheStepThatFailed) {
     EXPECT_EQ(vimeo.videos().back().commits(), 1);
 }
 
+TEST_F(VimeoUpload, StartsAnewThreeTimesInAllWhenTheRequestLayerAsksForIt) {
+    NSError requestError = postError(VimeoPostErrorServiceCode708);
+    int failures = 0; // still to come
+    const auto video = post(bytes.left(2'500'000));
+    video->checkpointChanged = [&, post = video.get()](const VimeoCheckpoint &reached, const auto &proceed) {
+        if (!reached.commitSent || failures == 0) return proceed();
+        --failures;
+        commitFailed(*post, requestError);
+    };
+    const auto uploadWith = [&](const NSError &error, int count) {
+        requestError = error;
+        failures = count;
+        return upload(video);
+    };
+    EXPECT_EQ(uploadWith(postError(VimeoPostErrorServiceCode401), 1), requestError);
+    EXPECT_EQ(uploadWith(NSError(NSURLErrorDomain, VimeoPostErrorServiceCode708), 1), requestError);
+    EXPECT_EQ(vimeo.videos().size(), 2u) << "other errors are final";
+
+    EXPECT_EQ(uploadWith(postError(VimeoPostErrorServiceCode708), 2), std::nullopt);
+    ASSERT_EQ(vimeo.videos().size(), 5u) << "a ticket for each start";
+    EXPECT_EQ(vimeo.videos()[3].commits(), 0);
+    EXPECT_EQ(vimeo.videos()[4].sha256, sha256Of(bytes.left(2'500'000)));
+
+    EXPECT_EQ(uploadWith(postError(VimeoPostErrorServiceCode708), 2), requestError) << "the count is for good";
+    EXPECT_EQ(vimeo.videos().size(), 7u);
+
+    const auto gone = post(bytes.left(10));
+    gone->checkpointChanged = [&, post = gone.get()](const VimeoCheckpoint &reached, const auto &proceed) {
+        if (!reached.commitSent) return proceed();
+        QFile::remove(home.path(QStringLiteral("ein film.mp4")));
+        commitFailed(*post, requestError);
+    };
+    EXPECT_EQ(upload(gone).value_or(postError(0)).domain(), NSPOSIXErrorDomain);
+}
+
 TEST_F(VimeoUpload, ResumesWhereAnEarlierUploadGotTo) {
     VimeoCheckpoint reached;
     vimeo.on("chunk").thenOk().dropAfterBytes(1'000'000);
@@ -287,6 +334,26 @@ TEST_F(VimeoUpload, ResumesWhereAnEarlierUploadGotTo) {
     EXPECT_EQ(resume(post(bytes), reached), std::nullopt) << "the ticket is used up, so there is a new one";
     EXPECT_EQ(vimeo.videos().size(), 2u);
     EXPECT_EQ(vimeo.videos()[1].sha256, sha256Of(bytes));
+}
+
+TEST_F(VimeoUpload, NeverMovesOntoTheCellularNetworkWhereItBeganElsewhere) {
+    vimeo.on("chunk").thenOk().dropAfterBytes(0);
+    const auto first = post(bytes);
+    {
+        const DefaultRoute route("eth0");
+        EXPECT_TRUE(upload(first).has_value());
+    }
+    const DefaultRoute route("wwan0");
+    VimeoCheckpoint reached = first->checkpoint();
+    EXPECT_EQ(reached.mayUseCellular, false);
+    reached.endpoint = NSURL::URLWithString(DefaultRoute::notLoopback(reached.endpoint->absoluteString()));
+    const auto error = resume(post(bytes), reached).value_or(postError(0));
+    EXPECT_EQ(error.domain(), NSURLErrorDomain);
+    EXPECT_EQ(error.code(), NSURLErrorNotConnectedToInternet);
+    EXPECT_EQ(vimeo.videos()[0].chunks.size(), 2u);
+    reached.mayUseCellular.reset();
+    EXPECT_EQ(resume(post(bytes), reached), std::nullopt) << "begun here";
+    EXPECT_EQ(vimeo.videos()[0].sha256, sha256Of(bytes));
 }
 
 TEST_F(VimeoUpload, WaitsWithTheCommitUntilItIsRecorded) {
