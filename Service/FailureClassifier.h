@@ -20,9 +20,6 @@ Verdict verdictAfterCommit(const RunOutcome &outcome, const VimeoPost &post);
 // A ticket that leads nowhere while Vimeo itself answers is of no use; the next run gets a new one.
 Verdict verdictOnDeadEndpoint(const NSError &error);
 
-// A verify that was answered with an error: what is stored is not known now, and will be asked for again.
-Verdict verdictOnRefusedVerify(const UploadContext::Snapshot &request);
-
 // What is known of a commit that did not end with a video id.
 enum class CommitFate {
     NotDone, // it did not reach Vimeo, or Vimeo could not look at it just now

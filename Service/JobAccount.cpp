@@ -2,7 +2,7 @@
 #include "Service/JobAccount.h"
 
 #include "Platform/Accounts/ACAccountStore.h"
-#include "Service/PostCheck.h"
+#include "Service/JobError.h"
 
 #include <algorithm>
 
@@ -24,7 +24,7 @@ RunOutcome withoutAccount(const UploadJob &job) {
     const QString text = QStringLiteral("There is no usable sign-in for the %1 account of %2, from which this was "
                                         "shared. Add it with: korvane accounts add %3")
                              .arg(nameOfService(job.service), job.accountName, job.service);
-    return {RunOutcome::NoAccount, NSError::errorWithDescription(PostCheck::ErrorDomain, 10, text)};
+    return {RunOutcome::NoAccount, jobError(JobErrorNoAccount, text)};
 }
 
 } // namespace korvane

@@ -4,33 +4,20 @@
 #include "Platform/AssetsLibrary/AssetLocation.h"
 #include "Platform/Foundation/Folders.h"
 #include "Platform/MobileCoreServices/UTType.h"
+#include "Service/JobError.h"
 
 #include <QFile>
 
 #include <sys/statvfs.h>
 
 namespace korvane {
-
-const QString PostCheck::ErrorDomain = QStringLiteral("KorvanePostCheckErrorDomain");
-
 namespace {
 
 constexpr qint64 typeProbe = 4096; // bytes that tell what a file holds
 constexpr qint64 smallestRoom = 32 * 1024 * 1024;
 
-enum Reason {
-    NothingToUpload = 1,
-    FileUnreadable = 2,
-    FileEmpty = 3,
-    FileChanged = 4,
-    DataLost = 5,
-    NoPicture = 6,
-    NoRoom = 7,
-    NoTitle = 8
-};
-
-PostCheck::Objection objectionWithText(Reason code, const QString &text) {
-    return {NSError::errorWithDescription(PostCheck::ErrorDomain, code, text), code == NoRoom};
+PostCheck::Objection objectionWithText(JobErrorCode code, const QString &text) {
+    return {jobError(code, text), code == JobErrorNoRoom};
 }
 
 // Devices have other numbers after a restart, so what was noted in an earlier life is compared without them.
@@ -40,9 +27,8 @@ bool isSameFile(const std::optional<FileIdentity> &now, const std::optional<File
 }
 
 NSError changedError(const QString &name) {
-    return objectionWithText(FileChanged,
-                             QStringLiteral("The file %1 has changed since it was shared. Share it again.").arg(name))
-        .error;
+    return jobError(JobErrorFileChanged,
+                    QStringLiteral("The file %1 has changed since it was shared. Share it again.").arg(name));
 }
 
 // data: the file, opened.
@@ -52,10 +38,11 @@ std::optional<PostCheck::Objection> objectionToFile(const NSURL &url, const Uplo
     std::optional<NSError> error;
     const auto contents = NSData::dataWithContentsOfURL(url, &error);
     if (!contents)
-        return objectionWithText(FileUnreadable,
+        return objectionWithText(JobErrorFileUnreadable,
                                  QStringLiteral("The file cannot be read (%1). Bring it back, then retry.")
                                      .arg(error->localizedDescription()));
-    if (contents->length() == 0) return objectionWithText(FileEmpty, QStringLiteral("The file %1 is empty.").arg(name));
+    if (contents->length() == 0)
+        return objectionWithText(JobErrorFileEmpty, QStringLiteral("The file %1 is empty.").arg(name));
     if (!isSameFile(contents->identity(), job.source)) return PostCheck::Objection{changedError(name)};
     if (data) *data = contents;
     return std::nullopt;
@@ -77,27 +64,27 @@ std::optional<PostCheck::Objection> objectionToAsset(const NSURL &url) {
     auto file = std::make_shared<FileDescriptor>(location ? location->open() : FileDescriptor());
     if (!*file) return std::nullopt;
     if (!hasRoomToEncode(FileIdentity::ofDescriptor(file->get()).value_or(FileIdentity{}).size))
-        return objectionWithText(NoRoom, QStringLiteral("There is no room to convert %1 in %2.")
-                                             .arg(QFile::decodeName(location->path), NSTemporaryDirectory()));
+        return objectionWithText(JobErrorNoRoom, QStringLiteral("There is no room to convert %1 in %2.")
+                                                     .arg(QFile::decodeName(location->path), NSTemporaryDirectory()));
     if (!UTTypeConformsTo(typeIdentifierForData(NSData::dataWithFile(file, 0, typeProbe)), kUTTypeMovie))
         return std::nullopt;
     return objectionWithText(
-        NoPicture, QStringLiteral("%1 is a video. Share it to Vimeo.").arg(QFile::decodeName(location->path)));
+        JobErrorNoPicture, QStringLiteral("%1 is a video. Share it to Vimeo.").arg(QFile::decodeName(location->path)));
 }
 
 // what: "photo" or "video".
 std::optional<PostCheck::Objection> objectionToData(const std::optional<NSData> &data, const UploadJob &job,
                                                     const QString &what) {
     if (!data && job.spoolFile.isEmpty())
-        return objectionWithText(NothingToUpload,
+        return objectionWithText(JobErrorNothingToUpload,
                                  QStringLiteral("The post holds no %1. Share the %1 again.").arg(what));
     if (!data)
-        return objectionWithText(DataLost,
+        return objectionWithText(JobErrorDataLost,
                                  QStringLiteral("The %1's data is gone from this device. Share it again.").arg(what));
-    if (data->length() == 0) return objectionWithText(FileEmpty, QStringLiteral("The %1 is empty.").arg(what));
+    if (data->length() == 0) return objectionWithText(JobErrorFileEmpty, QStringLiteral("The %1 is empty.").arg(what));
     const auto file = data->file() ? FileIdentity::ofDescriptor(data->file()->get()) : std::nullopt;
     if (file && file->size < data->fileOffset() + data->length())
-        return objectionWithText(DataLost,
+        return objectionWithText(JobErrorDataLost,
                                  QStringLiteral("The %1's data was damaged on this device. Share it again.").arg(what));
     return std::nullopt;
 }
@@ -121,7 +108,8 @@ std::optional<PostCheck::Objection> PostCheck::prepare(FlickrPost &post, const U
 std::optional<PostCheck::Objection> PostCheck::prepare(const VimeoPost &post, const UploadJob &job) {
     const QString scheme = post.assetURL ? post.assetURL->scheme() : QString();
     if (!post.title || post.title->isEmpty())
-        return objectionWithText(NoTitle, QStringLiteral("A video on Vimeo needs a title. Share it again with one."));
+        return objectionWithText(JobErrorNoTitle,
+                                 QStringLiteral("A video on Vimeo needs a title. Share it again with one."));
     if (job.video && job.video->videoID.isValid()) return std::nullopt; // its bytes are there
     if (scheme == QLatin1String("assets-library")) return std::nullopt; // the export says what is wrong with it
     if (scheme == QLatin1String("file")) return objectionToFile(*post.assetURL, job);

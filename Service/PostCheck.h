@@ -12,8 +12,6 @@ namespace korvane {
 
 namespace PostCheck {
 
-extern const QString ErrorDomain;
-
 struct Objection {
     NSError error;        // why the post cannot be uploaded, and what to do
     bool mayPass = false; // it may be possible later without anybody doing anything

@@ -3,25 +3,14 @@
 
 #include "Platform/Foundation/LocalNetwork.h"
 #include "Platform/Preferences/KorvaneSettings.h"
-#include "Service/PostCheck.h"
+#include "Service/JobError.h"
 
 namespace korvane {
-namespace {
-
-constexpr qint64 unusableTicket = 20;
-constexpr qint64 stuck = 21;
-constexpr qint64 senselessCount = 22;
-
-NSError errorWithText(qint64 code, const QString &text) {
-    return NSError::errorWithDescription(PostCheck::ErrorDomain, code, text);
-}
-
-} // namespace
 
 std::optional<NSError> TicketCheck::objection(const VimeoCheckpoint &checkpoint) {
     const auto unusable = [](const QString &what) {
-        return errorWithText(unusableTicket,
-                             QStringLiteral("Vimeo's upload ticket cannot be used: %1. Retry later.").arg(what));
+        return jobError(JobErrorUnusableTicket,
+                        QStringLiteral("Vimeo's upload ticket cannot be used: %1. Retry later.").arg(what));
     };
     if (!checkpoint.ticketID.isValid() || checkpoint.ticketID.toString().isEmpty())
         return unusable(QStringLiteral("it has no id"));
@@ -34,16 +23,6 @@ std::optional<NSError> TicketCheck::objection(const VimeoCheckpoint &checkpoint)
     if (isInLocalNetwork(*checkpoint.endpoint) && !(api && isInLocalNetwork(*api)))
         return unusable(QStringLiteral("it points into the local network (%1)").arg(checkpoint.endpoint->host()));
     return std::nullopt;
-}
-
-NSError TicketCheck::stuckError() {
-    return errorWithText(stuck,
-                         QStringLiteral("Vimeo takes the video's parts but stores nothing of them. Retry later."));
-}
-
-NSError TicketCheck::senselessCountError() {
-    return errorWithText(senselessCount,
-                         QStringLiteral("Vimeo says that it has more of the video than there is. Retry later."));
 }
 
 } // namespace korvane

@@ -14,10 +14,6 @@ namespace TicketCheck {
 // the API's host is: an answer from outside must not steer uploads into the inside.
 std::optional<NSError> objection(const VimeoCheckpoint &checkpoint);
 
-// Of an endpoint that takes chunks and stores nothing, and of one that claims more than the video has.
-NSError stuckError();
-NSError senselessCountError();
-
 } // namespace TicketCheck
 
 } // namespace korvane

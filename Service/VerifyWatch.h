@@ -1,21 +1,23 @@
-// Tells a video that is getting nowhere from one that is slow.
+// What the verifies of a video's chunks say about going on.
 #pragma once
 
-#include <QtGlobal>
+#include "Service/Verdict.h"
 
 namespace korvane {
 
-// The upload sends the same range again and again to an endpoint that never reports more bytes; somebody has to notice.
+// The upload believes whatever it is told: it takes a refused verify for an empty endpoint, commits a video of which
+// too much is reported, and sends the same range again and again where nothing is stored. Somebody has to notice.
 class VerifyWatch {
 public:
     // Bytes that an earlier run had confirmed.
     explicit VerifyWatch(quint64 bytesStored = 0) : _last(bytesStored), _most(bytesStored) {}
 
-    // Of one more verify. False once 20 in a row have reported nothing new. Where an endpoint has lost what it had,
-    // what is sent once more is not new, but it may take as many verifies as it has chunks to come back.
-    bool heard(quint64 bytesStored);
+    // Of one more verify, which reported bytesStored of a video of size bytes. Null where the upload may go on.
+    std::optional<Verdict> objection(const UploadContext::Snapshot &request, quint64 bytesStored, quint64 size);
 
 private:
+    bool _getsOn(quint64 bytesStored);
+
     quint64 _last;
     quint64 _most;
     int _withoutAdvance = 0;    // over the verify before

@@ -116,14 +116,6 @@ Verdict FailureClassifier::verdictOnDeadEndpoint(const NSError &error) {
                                 .arg(error.localizedDescription()));
 }
 
-Verdict FailureClassifier::verdictOnRefusedVerify(const UploadContext::Snapshot &request) {
-    if (request.httpStatus == 401 || request.httpStatus == 403)
-        return verdictOnPostError(NSError(VimeoPublishPostErrorDomain, VimeoPostErrorServiceCode401), request);
-    return Verdict::waiting(
-        WaitReason::NextTry, NSError(VimeoPublishPostErrorDomain, VimeoPostErrorBadResponse),
-        QStringLiteral("Vimeo did not say how much of the video it has (HTTP status %1).").arg(request.httpStatus));
-}
-
 FailureClassifier::CommitFate FailureClassifier::fateOfCommit(const UploadContext::Snapshot &request) {
     if (request.transportError) return request.wasSent ? CommitFate::Unknown : CommitFate::NotDone;
     const QVariantMap refusal = refusalIn(request);

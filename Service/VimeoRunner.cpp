@@ -123,13 +123,7 @@ std::optional<Verdict> VimeoRun::_reasonToBreakOff(const VimeoCheckpoint &checkp
     if (!checkpoint.hasTicket() && _post->uploadState() != VimeoUploadStateGettingTicket) return std::nullopt;
     if (const auto objection = TicketCheck::objection(checkpoint)) return Verdict::failed(*objection);
     if (_post->uploadState() != VimeoUploadStateVerifyingChunk) return std::nullopt;
-    // The upload takes a refused verify for an empty endpoint and would send everything again.
-    const auto request = _run.context->snapshot();
-    if (request.httpStatus >= 400) return FailureClassifier::verdictOnRefusedVerify(request);
-    // More than the video has would be committed at once, whatever is there.
-    if (checkpoint.bytesStored > quint64(_post->postSize())) return Verdict::failed(TicketCheck::senselessCountError());
-    return _watch.heard(checkpoint.bytesStored) ? std::nullopt
-                                                : std::optional(Verdict::failed(TicketCheck::stuckError()));
+    return _watch.objection(_run.context->snapshot(), checkpoint.bytesStored, quint64(_post->postSize()));
 }
 
 void VimeoRun::_finished(const std::optional<NSError> &error) {
