@@ -4,6 +4,7 @@
 #include "Korvane/FlickrPost.h"
 #include "Platform/Accounts/ACAccountStore.h"
 #include "Platform/Foundation/Dispatch.h"
+#include "Service/FailureClassifier.h"
 #include "Service/JobAccount.h"
 #include "Service/PostCheck.h"
 

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "Platform/Foundation/UploadContext.h"
-#include "Service/FailureClassifier.h"
-#include "Service/UploadJob.h"
+#include "Service/Verdict.h"
 
 #include <QVariantMap>
 

@@ -6,6 +6,7 @@
 #include "Platform/Foundation/Dispatch.h"
 #include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/NSLog.h"
+#include "Service/FailureClassifier.h"
 #include "Service/JobAccount.h"
 #include "Service/PostCheck.h"
 #include "Service/Spool.h"
