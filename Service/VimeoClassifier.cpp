@@ -50,10 +50,6 @@ Verdict verdictOnPostError(const NSError &error, const UploadContext::Snapshot &
     case VimeoPostErrorNoSDQuota:
         return Verdict::failed(error, QStringLiteral("The Vimeo account can take no more videos just now. Retry when "
                                                      "its quota is renewed."));
-    case VimeoPostErrorUnsupportedAsset:
-        return Verdict::failed(error, QStringLiteral("The post names no video that can be read. Share it again."));
-    case VimeoPostErrorMissingAccountOrTitle:
-        return Verdict::failed(error, QStringLiteral("A video on Vimeo needs a title. Share it again with one."));
     default:
         return verdictOnBadAnswer(error, request);
     }
