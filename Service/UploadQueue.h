@@ -106,7 +106,7 @@ private:
     void _endIfStopped();
     void _dropSpoolFiles(const UploadJob &job);
     void _requeue(std::vector<UploadJob> jobs);
-    void _stopRunning(StopReason reason);
+    void _pauseRunning();
     void _armWake();
     void _announce(const UploadJob &job);
     static UploadProgress _progressOfRun(const UploadJob &job, const Running &running);

@@ -132,7 +132,7 @@ void UploadQueue::setPaused(bool paused, const Answer &answer) {
             _paused = paused;
             _store->setPaused(paused);
             if (paused) {
-                _stopRunning(StopReason::Pause);
+                _pauseRunning();
             } else {
                 _holds.clear();
                 for (auto &[id, running] : _running)
@@ -169,14 +169,14 @@ void UploadQueue::accountsChanged() {
 void UploadQueue::stop(const std::function<void()> &stopped) {
     _queue.async([=, this] {
         _stopped = stopped;
-        _stopRunning(StopReason::Pause);
+        _pauseRunning();
         _endIfStopped();
     });
 }
 
-void UploadQueue::_stopRunning(StopReason reason) {
+void UploadQueue::_pauseRunning() {
     for (auto &[id, running] : _running) {
-        if (running.stopReason == StopReason::None) running.stopReason = reason;
+        if (running.stopReason == StopReason::None) running.stopReason = StopReason::Pause;
         if (mayBeBrokenOff(running.job)) running.context->cancel();
     }
 }

@@ -49,8 +49,8 @@ QByteArray problemOf(const Parameters &headers, PutHead *head) {
     if (!valuesOf(headers, "Transfer-Encoding").isEmpty()) return "it has a Transfer-Encoding";
     head->length = numberIn(QString::fromLatin1(valuesOf(headers, "Content-Length").value(0)));
     const QByteArrayList ranges = valuesOf(headers, "Content-Range");
-    head->isVerify = ranges.value(0) == Question;
-    if (head->isVerify) return head->length == 0 ? "" : "it asks how much is stored, but its Content-Length is not 0";
+    if (ranges.value(0) == Question)
+        return head->length == 0 ? "" : "it asks how much is stored, but its Content-Length is not 0";
     if (valuesOf(headers, "Content-Type").value(0) != "video/mp4") return "its Content-Type is not video/mp4";
     if (head->length < 1 || head->length > ChunkBody::LargestChunk)
         return "its Content-Length is not from 1 to " + QByteArray::number(ChunkBody::LargestChunk);

@@ -8,7 +8,6 @@
 namespace standin {
 
 struct PutHead {
-    bool isVerify = false;
     qint64 length = 0; // of the body, bytes
     qint64 start = 0;
     qint64 total = 0; // of the video, bytes; 0 when the head does not say

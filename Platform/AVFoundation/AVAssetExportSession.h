@@ -47,7 +47,6 @@ public:
     // The file to make. One that is there already is replaced, unless another session is at it: from its start until
     // its handler has returned.
     void setOutputURL(const NSURL &url) { _outputURL = url; }
-    const std::optional<NSURL> &outputURL() const { return _outputURL; }
     // Ends the export when the job is cancelled; a job that is cancelled already starts none.
     void setUploadContext(std::shared_ptr<UploadContext> context) { _context = std::move(context); }
     // The program is given up when neither its word nor the file has changed for so long. 120 seconds unless set.
