@@ -33,9 +33,7 @@ public:
     void begin();
 
     void vimeoPostWarningDuringUpload(const std::shared_ptr<VimeoPost> &, qint64) override {
-        dispatchMain([id = _run.job.id] {
-            NSLog("Upload %lli: the Vimeo account has no quota for high definition left; the video goes on.", id);
-        });
+        NSLog("Upload %lli: the Vimeo account has no quota for high definition left; the video goes on.", _run.job.id);
     }
     void vimeoPostUploadFailedWithError(const std::shared_ptr<VimeoPost> &, const NSError &error) override {
         dispatchMain([self = shared_from_this(), error] { self->_finished(error); });
