@@ -153,11 +153,7 @@ void VimeoPost::_uploadData() {
 }
 
 std::optional<NSData> VimeoPost::_chunk(quint64 start, quint64 size) const {
-    if (asset) {
-        QByteArray buffer(qsizetype(size), Qt::Uninitialized);
-        const qint64 count = asset->defaultRepresentation()->getBytes(buffer.data(), qint64(start), buffer.size());
-        return NSData(buffer.left(std::max<qint64>(0, count)));
-    }
+    if (asset) return asset->defaultRepresentation()->data().subdata(qint64(start), qint64(size));
     if (assetData) return assetData->subdata(qint64(start), qint64(size));
     return dataReader ? dataReader->dataWithRange(start, size) : std::nullopt;
 }

@@ -22,8 +22,6 @@ public:
     const QString &filename() const { return _filename; }
     qint64 size() const { return _data.length(); } // bytes
 
-    // Reads up to length bytes of the file from offset on; fewer at its end. -1 with errno on a read error.
-    qint64 getBytes(char *buffer, qint64 offset, qint64 length) const { return _data.getBytes(buffer, offset, length); }
     const NSData &data() const { return _data; }
 
 private:
