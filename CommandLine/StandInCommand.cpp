@@ -6,6 +6,7 @@
 #include "Platform/Foundation/ProgramPath.h"
 
 #include <CLI/CLI.hpp>
+#include <QByteArrayList>
 
 #include <cerrno>
 #include <cstring>
