@@ -25,8 +25,8 @@ void commitFailed(VimeoPost &post, const NSError &requestError);
 template <auto Committed>
 struct CommitOf {
     friend void commitFailed(VimeoPost &post, const NSError &requestError) {
-        (post.*Committed)(
-            {std::nullopt, NSError(VimeoPublishPostErrorDomain, VimeoPostErrorEmptyResponse), requestError});
+        (post.*
+         Committed)({std::nullopt, NSError(VimeoPublishPostErrorDomain, VimeoPostErrorEmptyResponse), requestError});
     }
 };
 template struct CommitOf<&VimeoPost::_committed>;
