@@ -4,6 +4,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 preset=${1:-dev}
-cmake --preset "$preset" >"/tmp/korvane-configure-$$.log" || { cat "/tmp/korvane-configure-$$.log"; exit 1; }
-rm -f "/tmp/korvane-configure-$$.log"
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+cmake --preset "$preset" >"$log" || { cat "$log"; exit 1; }
 cmake --build "build/$preset" -- "${@:2}"
