@@ -26,8 +26,8 @@ extern const QString VimeoPublishPostErrorDomain;
 
 // All without details: the code carries the meaning.
 enum VimeoPostErrorCode : qint64 {
-    VimeoPostErrorUnsupportedAsset = 1,      // neither a usable URL nor data
-    VimeoPostErrorMissingAccountOrTitle = 2, //
+    VimeoPostErrorUnsupportedAsset = 1, // neither a usable URL nor data
+    VimeoPostErrorMissingAccountOrTitle = 2,
     VimeoPostErrorBadResponse = 3,    // an answer that is no JSON object, another refusal, or a verify unanswered
     VimeoPostErrorServiceCode401 = 4, // Vimeo's code 401
     VimeoPostErrorServiceCode708 = 5, // Vimeo's code 708

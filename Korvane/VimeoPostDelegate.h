@@ -13,7 +13,8 @@ enum VimeoPostWarningCode : qint64 {
     VimeoPostWarningNoHDQuota = 1, // a large video on an account without quota for high definition
 };
 
-// Calls that follow a chunk or a verify come on the main thread, all others on the job's queue of the request layer.
+// Calls that follow a chunk or a verify come on the main thread, the failure of an export on the export session's own
+// queue, all others on the job's queue of the request layer.
 class VimeoPostDelegate {
 public:
     virtual ~VimeoPostDelegate() = default;

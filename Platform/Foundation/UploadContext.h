@@ -18,13 +18,15 @@ namespace korvane {
 // code above knows nothing of it. Thread: any; one mutex guards the numbers.
 class UploadContext {
 public:
+    // Of the current request.
     struct Snapshot {
-        qint64 bytesSent = 0;  // of the current request's body, without what still waits in the socket
-        qint64 bytesTotal = 0; // of the current request's body
-        bool wasSent = false;  // a connection for the current request stood, and it went out
-        int httpStatus = 0;    // of the last answer; 0 while the current request has none
-        std::optional<NSError> transportError = {}; // of the last request that ended
-        QByteArray answer = {};                     // the beginning of its body
+        qint64 bytesSent = 0;  // of the body, without what still waits in the socket
+        qint64 bytesTotal = 0; // of the body
+        bool wasSent = false;  // a connection for the request stood, and it went out
+        // 0, null and empty until the request has ended.
+        int httpStatus = 0; // 0 also where it was not answered
+        std::optional<NSError> transportError = {};
+        QByteArray answer = {}; // the first 64 KiB of what it was answered
     };
 
     Snapshot snapshot() const;
