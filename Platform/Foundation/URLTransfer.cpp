@@ -56,6 +56,10 @@ qint64 errorCode(CURLcode code, long osError, const NSURL &url) {
     }
 }
 
+NSError failure(qint64 code, const QString &text) {
+    return NSError::errorWithDescription(NSURLErrorDomain, code, text);
+}
+
 QByteArray proxyExceptions() {
     return qgetenv("no_proxy") + ',' + qgetenv("NO_PROXY") + ",localhost,127.0.0.1,::1";
 }
@@ -124,51 +128,45 @@ std::optional<NSError> URLTransfer::run() {
 // What is known before anything is sent.
 std::optional<NSError> URLTransfer::_objection() const {
     if (!_request.allowsCellularAccess && !_request.URL.isLoopback() && isDefaultRouteCellular())
-        return NSError::errorWithDescription(
-            NSURLErrorDomain, NSURLErrorNotConnectedToInternet,
-            QStringLiteral("There is only the cellular network, which this upload may not use."));
+        return failure(NSURLErrorNotConnectedToInternet,
+                       QStringLiteral("There is only the cellular network, which this upload may not use."));
     const auto announced = _request.valueForHTTPHeaderField("Content-Length");
     if (!announced || announced->toLongLong() == _bodyLength) return std::nullopt;
-    return NSError::errorWithDescription(NSURLErrorDomain, NSURLErrorUnknown,
-                                         QStringLiteral("The file became shorter while it was being sent."));
+    return failure(NSURLErrorUnknown, QStringLiteral("The file became shorter while it was being sent."));
 }
 
 std::optional<NSError> URLTransfer::_drive() {
-    const auto end = [](NSURLErrorCode code, const QString &text) {
-        return NSError::errorWithDescription(NSURLErrorDomain, code, text);
-    };
     for (;;) {
         if (_request.uploadContext && _request.uploadContext->isCancelled())
-            return end(NSURLErrorCancelled, QStringLiteral("The upload was stopped."));
+            return failure(NSURLErrorCancelled, QStringLiteral("The upload was stopped."));
         int running = 0;
         curl_multi_perform(_handle.multi, &running);
         int waiting = 0;
         if (const CURLMsg *message = curl_multi_info_read(_handle.multi, &waiting))
             return _result(message->data.result);
-        if (_hasStalled()) return end(NSURLErrorTimedOut, QStringLiteral("The web service did not respond in time."));
+        _noteProgress();
+        if (_hasStalled())
+            return failure(NSURLErrorTimedOut, QStringLiteral("The web service did not respond in time."));
         curl_multi_poll(_handle.multi, nullptr, 0, longestWaitMilliseconds, nullptr);
     }
 }
 
 std::optional<NSError> URLTransfer::_result(CURLcode code) const {
     if (_localError) return _localError;
-    const auto lost = [](const QString &text) {
-        return NSError::errorWithDescription(NSURLErrorDomain, NSURLErrorNetworkConnectionLost, text);
-    };
     if (code == CURLE_OK) {
         // curl is content with an early answer; an answer that claims success for half a body is none.
         if (_bodyRead < _bodyLength && _response.statusCode < 400)
-            return lost(QStringLiteral("The web service answered before it had everything."));
+            return failure(NSURLErrorNetworkConnectionLost,
+                           QStringLiteral("The web service answered before it had everything."));
         return std::nullopt;
     }
     long osError = 0;
     curl_easy_getinfo(_handle.easy, CURLINFO_OS_ERRNO, &osError);
-    return NSError::errorWithDescription(NSURLErrorDomain, errorCode(code, osError, _request.URL),
-                                         QString::fromUtf8(curl_easy_strerror(code)));
+    return failure(errorCode(code, osError, _request.URL), QString::fromUtf8(curl_easy_strerror(code)));
 }
 
 // What still waits in the socket's buffer has not moved: on a slow line that is many seconds' worth.
-bool URLTransfer::_hasStalled() {
+void URLTransfer::_noteProgress() {
     curl_off_t up = 0;
     curl_off_t down = 0;
     curl_easy_getinfo(_handle.easy, CURLINFO_SIZE_UPLOAD_T, &up);
@@ -183,6 +181,9 @@ bool URLTransfer::_hasStalled() {
         _lastMoved = sent + down;
         _lastMove = Clock::now();
     }
+}
+
+bool URLTransfer::_hasStalled() const {
     return std::chrono::duration<double>(Clock::now() - _lastMove).count() > _request.timeoutInterval;
 }
 
@@ -197,8 +198,7 @@ size_t URLTransfer::_readBody(char *buffer, size_t capacity) {
     const bool ends = _pieceRead + count == piece.length();
     // A file that changed must not arrive as a mixture: its last bytes are held back.
     if (count <= 0 || (ends && !piece.isIntact())) {
-        _localError = NSError::errorWithDescription(NSURLErrorDomain, NSURLErrorUnknown,
-                                                    QStringLiteral("The file changed while it was being sent."));
+        _localError = failure(NSURLErrorUnknown, QStringLiteral("The file changed while it was being sent."));
         return CURL_READFUNC_ABORT;
     }
     _pieceRead += count;
@@ -238,8 +238,7 @@ size_t URLTransfer::_onWrite(char *bytes, size_t size, size_t count, void *self)
     auto *transfer = static_cast<URLTransfer *>(self);
     const size_t length = size * count;
     if (transfer->_body.size() + qint64(length) > largestAnswer) {
-        transfer->_localError = NSError::errorWithDescription(NSURLErrorDomain, NSURLErrorUnknown,
-                                                              QStringLiteral("The web service's answer is too large."));
+        transfer->_localError = failure(NSURLErrorUnknown, QStringLiteral("The web service's answer is too large."));
         return 0;
     }
     transfer->_body.append(bytes, qsizetype(length));
@@ -251,8 +250,8 @@ int URLTransfer::_onRequest(void *self, char *, char *, int, int) {
     auto *transfer = static_cast<URLTransfer *>(self);
     if (const auto &context = transfer->_request.uploadContext) context->requestGoesOut();
     if (++transfer->_requests == 1 || transfer->_bodyLength > 0) return CURL_PREREQFUNC_OK;
-    transfer->_localError = NSError::errorWithDescription(NSURLErrorDomain, NSURLErrorNetworkConnectionLost,
-                                                          QStringLiteral("The web service closed the connection."));
+    transfer->_localError =
+        failure(NSURLErrorNetworkConnectionLost, QStringLiteral("The web service closed the connection."));
     return CURL_PREREQFUNC_ABORT;
 }
 

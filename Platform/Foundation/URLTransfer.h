@@ -31,7 +31,8 @@ private:
     std::optional<NSError> _objection() const;
     std::optional<NSError> _drive();
     std::optional<NSError> _result(CURLcode code) const;
-    bool _hasStalled();
+    void _noteProgress();
+    bool _hasStalled() const;
     size_t _readBody(char *buffer, size_t capacity);
     bool _rewind(qint64 position);
     void _readHeader(const QByteArray &line);
