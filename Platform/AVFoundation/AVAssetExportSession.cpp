@@ -26,21 +26,16 @@ using Clock = std::chrono::steady_clock;
 constexpr std::chrono::milliseconds longestLook(1000);
 constexpr float almostDone = 0.999F;
 
-NSError errorWith(AVErrorCode code, const QString &text) {
-    return NSError::errorWithDescription(AVFoundationErrorDomain, code, text);
-}
-
 NSError damaged(const QString &name) {
-    return errorWith(AVErrorFileFailedToParse, QStringLiteral("“%1” ends too early: it is damaged or incomplete. Check "
-                                                              "that it plays to its end, or copy it again from where "
-                                                              "it was made.")
-                                                   .arg(name));
+    return avError(AVErrorFileFailedToParse, QStringLiteral("“%1” ends too early: it is damaged or incomplete. Check "
+                                                            "that it plays to its end, or copy it again from where "
+                                                            "it was made.")
+                                                 .arg(name));
 }
 
 NSError notUnderstood(const QString &name) {
-    return errorWith(
-        AVErrorExportFailed,
-        QStringLiteral("What ffmpeg says of “%1” is not understood. Check the package “ffmpeg”.").arg(name));
+    return avError(AVErrorExportFailed,
+                   QStringLiteral("What ffmpeg says of “%1” is not understood. Check the package “ffmpeg”.").arg(name));
 }
 
 // Whether a program that failed to copy did not blame the source.
@@ -131,10 +126,10 @@ std::optional<NSError> AVAssetExportSession::_export() {
 std::optional<NSError> AVAssetExportSession::_checkRequest() const {
     if (_asset.error) return _asset.error;
     if (_outputFileType != AVFileTypeMPEG4)
-        return errorWith(AVErrorInvalidOutputURLParameter, QStringLiteral("Only MP4 files can be exported."));
+        return avError(AVErrorInvalidOutputURLParameter, QStringLiteral("Only MP4 files can be exported."));
     if (!_outputURL || !_outputURL->isFileURL() || _outputURL->fileSystemRepresentation().contains('\0'))
-        return errorWith(AVErrorInvalidOutputURLParameter,
-                         QStringLiteral("There is no file to export “%1” to.").arg(_asset.name));
+        return avError(AVErrorInvalidOutputURLParameter,
+                       QStringLiteral("There is no file to export “%1” to.").arg(_asset.name));
     return std::nullopt;
 }
 
@@ -142,17 +137,14 @@ std::optional<NSError> AVAssetExportSession::_claimOutput() {
     const QByteArray path = _outputURL->fileSystemRepresentation();
     const FileDescriptor earlier(::open(path.constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
     if (earlier && ::flock(earlier.get(), LOCK_EX | LOCK_NB) != 0)
-        return errorWith(AVErrorFileAlreadyExists,
-                         QStringLiteral("Another export writes to %1. Try again.").arg(_outputURL->path()));
+        return avError(AVErrorFileAlreadyExists,
+                       QStringLiteral("Another export writes to %1. Try again.").arg(_outputURL->path()));
     if (earlier) ::unlink(path.constData());
     FileDescriptor output(::open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
-    if (!output && (errno == ENOSPC || errno == EDQUOT))
-        return errorWith(AVErrorDiskFull, QStringLiteral("There is not enough disk space to export “%1”. Free some "
-                                                         "space and try again.")
-                                              .arg(_asset.name));
+    if (!output && (errno == ENOSPC || errno == EDQUOT)) return diskFullError(_asset.name);
     if (!output || ::flock(output.get(), LOCK_EX | LOCK_NB) != 0)
-        return errorWith(AVErrorInvalidOutputURLParameter,
-                         NSError::errorWithErrno(errno, _outputURL->path()).localizedDescription());
+        return avError(AVErrorInvalidOutputURLParameter,
+                       NSError::errorWithErrno(errno, _outputURL->path()).localizedDescription());
     _output = std::move(output);
     return std::nullopt;
 }
@@ -192,7 +184,7 @@ std::optional<NSError> AVAssetExportSession::_encode(const MediaInfo &info, cons
 
 std::optional<NSError> AVAssetExportSession::_checkOutput(const MediaInfo &info, qint64 microsecondsWritten) const {
     if (!_asset.file->isIntact())
-        return errorWith(
+        return avError(
             AVErrorContentIsUnavailable,
             QStringLiteral("“%1” was changed while it was exported. Try again when it is complete.").arg(_asset.name));
     struct stat status;

@@ -20,6 +20,10 @@ enum AVErrorCode : qint64 {
     AVErrorInvalidOutputURLParameter = 9, // no output URL, none that can be written to, or no type that can be made
 };
 
+NSError avError(AVErrorCode code, const QString &text);
+// name: of the video.
+NSError diskFullError(const QString &name);
+
 // NSURLErrorDomain, NSURLErrorCancelled: what a cancelled job ends with everywhere.
 NSError exportCancelledError();
 

@@ -16,42 +16,36 @@ constexpr int politeness = 10;
 // Containers only: no playlists (hls, concat, dash), no network sessions (sdp, rtsp), no still pictures.
 const QByteArray containers = "mov,mp4,m4a,3gp,3g2,mj2,matroska,webm,avi,mpegts,mpeg,mpegvideo,asf,flv,ogg,mxf,dv";
 
-NSError errorWith(AVErrorCode code, const QString &text) {
-    return NSError::errorWithDescription(AVFoundationErrorDomain, code, text);
-}
-
 bool saysOneOf(const QByteArray &text, std::initializer_list<const char *> phrases) {
     return std::any_of(phrases.begin(), phrases.end(), [&](const char *phrase) { return text.contains(phrase); });
 }
 
 NSError notStarted(const std::optional<NSError> &error) {
     if (error && error->domain() == NSPOSIXErrorDomain && error->code() == ENOENT)
-        return errorWith(AVErrorEncoderNotFound,
-                         QStringLiteral("Videos cannot be read without the programs ffmpeg and ffprobe. Install the "
-                                        "package “ffmpeg” and try again."));
-    return errorWith(AVErrorExportFailed, QStringLiteral("The program for videos cannot be started: %1")
-                                              .arg(error ? error->localizedDescription() : QString()));
+        return avError(AVErrorEncoderNotFound,
+                       QStringLiteral("Videos cannot be read without the programs ffmpeg and ffprobe. Install the "
+                                      "package “ffmpeg” and try again."));
+    return avError(AVErrorExportFailed, QStringLiteral("The program for videos cannot be started: %1")
+                                            .arg(error ? error->localizedDescription() : QString()));
 }
 
 NSError endedBadly(const AVAsset &asset, const ChildProcess::Result &result) {
     const bool tooLarge = result.ending == ChildProcess::Signalled && result.status == SIGXFSZ;
     if (tooLarge ||
         saysOneOf(result.standardError, {"No space left on device", "Disk quota exceeded", "File too large"}))
-        return errorWith(AVErrorDiskFull, QStringLiteral("There is not enough disk space to export “%1”. Free some "
-                                                         "space and try again.")
-                                              .arg(asset.name));
+        return diskFullError(asset.name);
     if (result.ending != ChildProcess::Exited)
-        return errorWith(
+        return avError(
             AVErrorExportFailed,
             QStringLiteral("The export of “%1” broke off (%2). Try again.").arg(asset.name, result.description()));
     if (result.standardError.contains("Unknown encoder"))
-        return errorWith(AVErrorEncoderNotFound,
-                         QStringLiteral("The installed ffmpeg cannot write H.264 and AAC. Install a package “ffmpeg” "
-                                        "with libx264 and try again."));
-    return errorWith(AVErrorFileFailedToParse,
-                     QStringLiteral("“%1” is damaged or incomplete. Check that it plays to its end, or copy it again "
-                                    "from where it was made (%2).")
-                         .arg(asset.name, result.description()));
+        return avError(AVErrorEncoderNotFound,
+                       QStringLiteral("The installed ffmpeg cannot write H.264 and AAC. Install a package “ffmpeg” "
+                                      "with libx264 and try again."));
+    return avError(AVErrorFileFailedToParse,
+                   QStringLiteral("“%1” is damaged or incomplete. Check that it plays to its end, or copy it again "
+                                  "from where it was made (%2).")
+                       .arg(asset.name, result.description()));
 }
 
 } // namespace

@@ -54,9 +54,8 @@ std::shared_ptr<ALAsset> findAsset(const NSURL &url, std::optional<NSError> &err
 }
 
 NSError noVideo(const QString &what, const QString &reason) {
-    return NSError::errorWithDescription(
-        AVFoundationErrorDomain, AVErrorContentIsUnavailable,
-        QStringLiteral("The video “%1” cannot be opened (%2). Choose it again.").arg(what, reason));
+    return avError(AVErrorContentIsUnavailable,
+                   QStringLiteral("The video “%1” cannot be opened (%2). Choose it again.").arg(what, reason));
 }
 
 AVAsset videoInLibrary(const NSURL &url) {
