@@ -96,48 +96,64 @@ void deduceBitRate(MediaInfo &info) {
     info.video.bitsPerSecond = std::max<qint64>(0, qint64(whole) - (info.sound ? info.sound->bitsPerSecond : 0));
 }
 
-} // namespace
+NSError notRecognized(const AVAsset &asset) {
+    return avError(AVErrorFileFormatNotRecognized,
+                   QStringLiteral("“%1” is not a video that can be read: it is damaged, incomplete or of an unknown "
+                                  "format. Check that it plays, or choose another file.")
+                       .arg(asset.name));
+}
 
-std::optional<MediaInfo> MediaInfo::ofAsset(const AVAsset &asset, std::chrono::milliseconds limit,
-                                            const std::stop_token &cancellation, std::optional<NSError> *error) {
-    const auto fail = [&](AVErrorCode code, const QString &text) {
-        setError(error, NSError::errorWithDescription(AVFoundationErrorDomain, code, text.arg(asset.name)));
-        return std::nullopt;
-    };
-    auto probe = MediaProgram::make(
+// What ffprobe writes. Null, with the error placed, if it fails.
+std::optional<QByteArray> probe(const AVAsset &asset, std::chrono::milliseconds limit,
+                                const std::stop_token &cancellation, std::optional<NSError> *error) {
+    auto program = MediaProgram::make(
         "ffprobe", asset,
         {"-print_format", "json", "-show_entries",
          "stream=index,codec_type,codec_name,pix_fmt,width,height,sample_aspect_ratio,duration,bit_rate,channels:"
          "stream_disposition=attached_pic:stream_side_data=rotation:format=duration"});
     QByteArray output;
-    probe.setOutputHandler([&output](const QByteArray &piece) { output += piece; });
-    probe.setWatch(limit, [&output] { return output.size() <= mostOutput; });
-    probe.setTimeLimit(limit);
-    probe.setCancellation(cancellation);
+    program.setOutputHandler([&output](const QByteArray &piece) { output += piece; });
+    program.setWatch(limit, [&output] { return output.size() <= mostOutput; });
+    program.setTimeLimit(limit);
+    program.setCancellation(cancellation);
     std::optional<NSError> reason;
-    const auto result = probe.run(&reason);
-    const auto notRecognized = [&] {
-        return fail(AVErrorFileFormatNotRecognized,
-                    QStringLiteral("“%1” is not a video that can be read: it is damaged, incomplete or of an unknown "
-                                   "format. Check that it plays, or choose another file."));
-    };
-    if (result && result->ending == ChildProcess::Exited && result->status != 0) return notRecognized();
-    if (!result || !result->succeeded()) {
-        setError(error, MediaProgram::failure(asset, result, reason));
-        return std::nullopt;
-    }
-    const QJsonObject answer = QJsonDocument::fromJson(output).object();
+    const auto result = program.run(&reason);
+    if (result && result->succeeded()) return output;
+    const bool isRefused = result && result->ending == ChildProcess::Exited;
+    setError(error, isRefused ? notRecognized(asset) : MediaProgram::failure(asset, result, reason));
+    return std::nullopt;
+}
+
+// answer: of ffprobe. Null if the video can be exported.
+std::optional<NSError> objectionTo(const MediaInfo &info, const QJsonObject &answer, const AVAsset &asset) {
     if (!answer.contains(QLatin1String("format")))
-        return fail(AVErrorExportFailed, QStringLiteral("The answer of ffprobe about “%1” is not understood. Check the "
-                                                        "package “ffmpeg”."));
-    MediaInfo info = infoIn(answer);
-    if (!isUsable(info.video) && !info.sound) return notRecognized();
+        return avError(AVErrorExportFailed,
+                       QStringLiteral("The answer of ffprobe about “%1” is not understood. Check the package “ffmpeg”.")
+                           .arg(asset.name));
+    if (!isUsable(info.video) && !info.sound) return notRecognized(asset);
     if (!isUsable(info.video))
-        return fail(AVErrorInvalidSourceMedia,
-                    QStringLiteral("There are no pictures in “%1”. Choose a file with a video in it."));
+        return avError(
+            AVErrorInvalidSourceMedia,
+            QStringLiteral("There are no pictures in “%1”. Choose a file with a video in it.").arg(asset.name));
     // A file that does not say how long it is leaves the key out.
     if (info.microseconds == 0 && answer.value(QLatin1String("format")).toObject().contains(QLatin1String("duration")))
-        return fail(AVErrorInvalidSourceMedia, QStringLiteral("“%1” is 0 seconds long. Choose another file."));
+        return avError(AVErrorInvalidSourceMedia,
+                       QStringLiteral("“%1” is 0 seconds long. Choose another file.").arg(asset.name));
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<MediaInfo> MediaInfo::ofAsset(const AVAsset &asset, std::chrono::milliseconds limit,
+                                            const std::stop_token &cancellation, std::optional<NSError> *error) {
+    const auto output = probe(asset, limit, cancellation, error);
+    if (!output) return std::nullopt;
+    const QJsonObject answer = QJsonDocument::fromJson(*output).object();
+    MediaInfo info = infoIn(answer);
+    if (const auto objection = objectionTo(info, answer, asset)) {
+        setError(error, objection);
+        return std::nullopt;
+    }
     info.fileBytes = asset.file->length();
     deduceBitRate(info);
     return info;
