@@ -1,39 +1,13 @@
 // Videos from a client to the stand-in, in good and in bad times.
-#include "Tests/EndToEnd/ServiceHarness.h"
-
-#include <QDir>
-#include <QProcess>
+#include "Tests/EndToEnd/VideoHarness.h"
 
 using namespace korvane;
 using namespace korvane::test;
 
-namespace {
-
-struct Video : ServiceTest {
-    standin::StandIn &vimeo = flickr.server;
-
-    void makeClip(const QString &path, const QStringList &sources) {
-        QDir().mkpath(path.section(u'/', 0, -2));
-        ASSERT_EQ(QProcess::execute(QStringLiteral("ffmpeg"),
-                                    QStringList{QStringLiteral("-v"), QStringLiteral("error")} + sources +
-                                        QStringList{QStringLiteral("-t"), QStringLiteral("1"), path}),
-                  0);
-    }
-    static std::shared_ptr<VimeoPost> libraryVideo(const char *name) {
-        const auto post = VimeoPost::init();
-        post->assetURL = NSURL::URLWithString(QStringLiteral("assets-library://asset/asset.MP4?id=videos%2F") +
-                                              QLatin1String(name) + QStringLiteral("&ext=MP4"));
-        post->title = QLatin1String(name);
-        return post;
-    }
-    bool isEmpty(const char *folder) const { return QDir(home.path(folder)).isEmpty(); }
-};
-
-} // namespace
+using Video = VideoServiceTest;
 
 TEST_F(Video, FilesDataAndLibraryVideosArriveAndLeaveNothingBehind) {
-    makeClip(home.path("library/Videos/clip.mp4"), {QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
-                                                    QStringLiteral("testsrc2=s=640x360")});
+    makeClip("library/Videos/clip.mp4");
     const QByteArray file = variedBytes(5'000'000);
     const QByteArray data = variedBytes(3'000'000, 2);
     ASSERT_TRUE(shareVideo(video("film.mov", file)));
@@ -68,8 +42,7 @@ TEST_F(Video, FilesDataAndLibraryVideosArriveAndLeaveNothingBehind) {
 
 TEST_F(Video, WhatCannotBeUploadedFailsWithWordsAndStopsNothing) {
     ask("Pause");
-    makeClip(home.path("library/Videos/sound.m4a"),
-             {QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"), QStringLiteral("sine")});
+    makeClip("library/Videos/sound.m4a", QStringLiteral("sine"));
     home.file("library/Videos/text.mp4", "no video");
     const auto untitled = video("a.mp4", variedBytes(10));
     untitled->title.reset();
@@ -97,17 +70,12 @@ TEST_F(Video, WhatCannotBeUploadedFailsWithWordsAndStopsNothing) {
     ASSERT_TRUE(waitForState("done", 1));
     EXPECT_TRUE(waitForState("failed", int(std::size(cases))));
     for (int i = 0; i < int(std::size(cases)); ++i)
-        EXPECT_TRUE(errorOf(i).contains(QLatin1String(cases[i].second))) << errorOf(i).toStdString();
+        EXPECT_TRUE(says(errorOf(i), cases[i].second));
 }
 
 TEST_F(Video, AnswersThatMakeNoSenseFailWithWords) {
     const auto ticket = [](const char *fields) { return QByteArray(R"({"ticket":{)") + fields + "}}"; };
-    struct Case {
-        const char *operation;
-        QByteArray body;
-        const char *text;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, QByteArray, const char *> cases[] = {
         {"getQuota", R"({"user":{"upload_space":{"free":"9"},"sd_quota":"1"}})", "larger than the space"},
         {"getQuota", R"({"err":{"code":"401","msg":"Invalid signature"}})", "Invalid signature"},
         {"getTicket", "", "not understood"},
@@ -117,27 +85,73 @@ TEST_F(Video, AnswersThatMakeNoSenseFailWithWords) {
         {"getTicket", ticket(R"("id":"1","endpoint":"file:///etc/passwd")"), "where to send"},
         {"getTicket", ticket(R"("id":"1","endpoint":"ftp://host/")"), "begins with ftp:"},
         {"complete", R"({"err":{"code":"703","msg":"Incomplete"}})", "Incomplete"},
-        {"setTitle", "[]", "not understood"},
     };
     int count = 0;
-    for (const Case &test : cases) {
-        vimeo.on(test.operation).answer(200, "application/json", test.body);
+    for (const auto &[operation, body, text] : cases) {
+        vimeo.on(operation).answer(200, "application/json", body);
         ASSERT_TRUE(shareVideo(video(QStringLiteral("%1.mp4").arg(count), variedBytes(10))));
-        ASSERT_TRUE(waitForState("failed", count + 1)) << test.text;
-        EXPECT_TRUE(errorOf(count).contains(QLatin1String(test.text))) << errorOf(count).toStdString();
-        ++count;
+        ASSERT_TRUE(waitForState("failed", ++count)) << text;
+        EXPECT_TRUE(says(errorOf(count - 1), text));
     }
-    ask("Retry", {QStringList{QString::number(count), QString::number(count - 1)}});
-    ASSERT_TRUE(waitForState("done", 2))
-        << "after its refusal a video starts anew, after its commit it only gets its title";
+    ask("Retry", {QStringList{QString::number(count)}});
+    ASSERT_TRUE(waitForState("done", 1)) << "after its refusal a video starts anew";
     EXPECT_EQ(vimeo.protocolErrors(), QStringList());
+}
+
+TEST_F(Video, WhatIsRefusedAfterTheCommitIsNamedAndSetByARetry) {
+    const QByteArray refusal = R"({"err":{"code":"999","msg":"No more today"}})";
+    const std::tuple<const char *, QByteArray, const char *, const char *> cases[] = {
+        {"setTitle", refusal, "title", "No more today"},
+        {"setTitle", "[]", "title", "not understood"},
+        {"addTags", refusal, "tags", "No more today"},
+        {"setPrivacy", refusal, "privacy", "No more today"},
+    };
+    int count = 0;
+    for (const auto &[operation, answer, missing, reason] : cases) {
+        SCOPED_TRACE(testing::Message() << operation << ' ' << answer.constData());
+        vimeo.on(operation).answer(200, "application/json", answer);
+        const QByteArray bytes = variedBytes(3'000'000, quint32(count));
+        const auto post = video(QStringLiteral("%1.mp4").arg(count), bytes);
+        ASSERT_TRUE(shareVideo(post));
+        ASSERT_TRUE(waitForState("failed", 1));
+        const QString text = errorOf(count);
+        EXPECT_TRUE(text.startsWith(QLatin1String("The video is on Vimeo, but without its ") + QLatin1String(missing)))
+            << text.toStdString();
+        EXPECT_TRUE(says(text, reason));
+        EXPECT_FALSE(says(text, "hare it again"));
+        ask("Retry", {QStringList{QString::number(++count)}});
+        ASSERT_TRUE(waitForState("done", count));
+        ASSERT_EQ(vimeo.videos().size(), size_t(count));
+        expectArrived(vimeo.videos().back(), *post, bytes);
+        EXPECT_EQ(vimeo.videos().back().bytesReceived, bytes.size());
+    }
+}
+
+TEST_F(Video, AWarningThatThereIsNoQuotaForHDDropsTheExportAndTheVideoGoesOn) {
+    makeClip("library/Videos/clip.mp4");
+    const auto large = libraryVideo("clip.mp4");
+    large->videoSize = VimeoVideoSizeLarge;
+    int count = 0;
+    for (const bool hasQuota : {true, false}) {
+        vimeo.quota(standin::Quota{.free = 1'000'000'000, .hd = hasQuota, .sd = true});
+        vimeo.on("chunk").hang();
+        ASSERT_TRUE(shareVideo(large));
+        ASSERT_TRUE(waitFor([&] { return requestsFor("chunk") > count; }));
+        const QByteArray folder = "state/korvane/tmp/video-" + QByteArray::number(++count);
+        EXPECT_EQ(isEmpty(folder), !hasQuota);
+        vimeo.release();
+        ASSERT_TRUE(waitForState("done", count));
+        EXPECT_EQ(says(log(), "no quota for high definition"), !hasQuota);
+    }
+    EXPECT_FALSE(vimeo.videos()[0].sha256.isEmpty());
+    EXPECT_EQ(vimeo.videos()[1].sha256, vimeo.videos()[0].sha256);
 }
 
 TEST_F(Video, ACommitWithoutAnAnswerIsSetAsideAndNeverSentTwice) {
     vimeo.on("complete").dropBeforeAnswer();
     ASSERT_TRUE(shareVideo(video("a.mp4", variedBytes(3'000'000))));
     ASSERT_TRUE(waitForState("failed", 1));
-    EXPECT_TRUE(errorOf(0).contains(QStringLiteral("the video may be on Vimeo; look there, then retry or remove")));
+    EXPECT_TRUE(says(errorOf(0), "the video may be on Vimeo; look there, then retry or remove"));
     killService(SIGTERM);
     startService();
     EXPECT_EQ(countInState("failed"), 1);
@@ -164,7 +178,7 @@ TEST_F(Video, AnEndpointThatStoresNothingIsGivenUp) {
     vimeo.on("verify").reportRange(QByteArray("bytes=0-2097152"), 1000);
     ASSERT_TRUE(shareVideo(video("a.mp4", variedBytes(5'000'000))));
     ASSERT_TRUE(waitForState("failed", 1));
-    EXPECT_TRUE(errorOf(0).contains(QStringLiteral("stores nothing"))) << errorOf(0).toStdString();
+    EXPECT_TRUE(says(errorOf(0), "stores nothing"));
     EXPECT_LE(vimeo.videos()[0].operations.count("verify"), 22);
     EXPECT_GE(vimeo.videos()[0].operations.count("verify"), 20);
 }
@@ -187,7 +201,7 @@ TEST_F(Video, AFileThatChangesUnderwayIsNeverCommitted) {
     home.file("a.mp4", variedBytes(5'000'000, 2));
     vimeo.release();
     ASSERT_TRUE(waitForState("failed", 1));
-    EXPECT_TRUE(errorOf(0).contains(QStringLiteral("has changed"))) << errorOf(0).toStdString();
+    EXPECT_TRUE(says(errorOf(0), "has changed"));
     EXPECT_EQ(vimeo.videos()[0].commits(), 0);
 }
 
@@ -209,4 +223,59 @@ TEST_F(Video, APauseKeepsWhatIsThereAndARemovalEndsIt) {
     ask("Remove", {QStringList{QStringLiteral("2")}});
     EXPECT_TRUE(waitFor([&] { return isEmpty("state/korvane/tmp"); }));
     EXPECT_EQ(uploads().size(), 1);
+}
+
+TEST_F(Video, WhatIsCommittedIsFinishedWhileItIsPausedRemovedOrStopped) {
+    int count = 0;
+    int kept = 0;
+    for (const QByteArray operation : {"complete", "setTitle", "setPrivacy"}) {
+        for (const QByteArray wish : {"Pause", "Remove", "Stop"}) {
+            SCOPED_TRACE(testing::Message() << wish.constData() << " in " << operation.constData());
+            const QByteArray bytes = variedBytes(3'000, quint32(++count));
+            const auto post = video(QStringLiteral("%1.mp4").arg(count), bytes);
+            const auto before = requestsFor(operation);
+            vimeo.on(operation).hang();
+            ASSERT_TRUE(shareVideo(post));
+            ASSERT_TRUE(waitFor([&] { return requestsFor(operation) > before; }));
+            const qint64 pid = servicePid();
+            const auto hasEnded = [&] { return servicePid() != pid; };
+            if (wish == "Pause") ask("Pause");
+            if (wish == "Remove") ask("Remove", {QStringList{QString::number(count)}});
+            if (wish == "Stop") ::kill(pid_t(pid), SIGTERM);
+            EXPECT_FALSE(waitFor(hasEnded, 100)) << "it waits for what runs";
+            vimeo.release();
+            EXPECT_TRUE(waitFor([&] { return !vimeo.videos().back().privacy.isEmpty(); }));
+            EXPECT_TRUE(wish != "Stop" || waitFor(hasEnded));
+            ASSERT_EQ(vimeo.videos().size(), size_t(count));
+            EXPECT_EQ(vimeo.videos().back().commits(), 1);
+            expectArrived(vimeo.videos().back(), *post, bytes);
+            EXPECT_TRUE(waitForState("done", kept += wish != "Remove"));
+            ask("Resume");
+        }
+    }
+    EXPECT_EQ(uploads().size(), kept);
+}
+
+TEST_F(Video, AnExportEndsWithAPauseOrARemovalAndIsMadeAnew) {
+    holdExports();
+    makeClip("library/Videos/clip.mp4");
+    ASSERT_TRUE(shareVideo(libraryVideo("clip.mp4")));
+    const pid_t paused = heldExport();
+    ask("Pause");
+    ASSERT_TRUE(waitForState("queued", 1));
+    EXPECT_TRUE(isGone(paused));
+    EXPECT_TRUE(waitFor([&] { return isEmpty("state/korvane/tmp"); }));
+    ask("Resume");
+    const pid_t removed = heldExport();
+    ask("Remove", {QStringList{QStringLiteral("1")}});
+    EXPECT_TRUE(waitFor([&] { return isGone(removed) && isEmpty("state/korvane/tmp"); }));
+    EXPECT_TRUE(uploads().isEmpty() && isEmpty("state/korvane/spool"));
+
+    ASSERT_TRUE(shareVideo(libraryVideo("clip.mp4")));
+    heldExport();
+    ask("Pause");
+    home.file("go", {});
+    ask("Resume");
+    ASSERT_TRUE(waitForState("done", 1)) << errorOf(0).toStdString();
+    EXPECT_EQ(vimeo.videos().size(), 1u);
 }

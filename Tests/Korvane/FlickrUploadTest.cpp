@@ -184,7 +184,6 @@ TEST_F(FlickrUpload, ReadsFilesAndEncodesAssetsOfTheLibrary) {
 }
 
 TEST(FlickrUploadDeathTest, StopsOnAPostWithoutPhoto) {
-    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
     const auto uploadNothing = [](const char *url) {
         TemporaryHome home;
         const auto post = FlickrPost::init();

@@ -45,7 +45,6 @@ TEST(KRLog, IsSwitchedOnceAProcessWhileTheQuestionIsAnsweredAnew) {
 }
 
 TEST(KRLogDeathTest, WritesItsLinesWhenSwitchedOnBeforeTheFirst) {
-    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
     const auto logAndEnd = [] {
         const TemporaryHome home;
         switchLoggingOn(home);
@@ -87,7 +86,6 @@ TEST(KRRemoteSession, HoldsOneAssertionForAllAndRenewsItWhenItIsOld) {
 }
 
 TEST(KRRemoteSessionDeathTest, StopsOnADecrementTooMany) {
-    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
     EXPECT_DEATH(KRRemoteSession::decrementPowerAssertion(),
                  "\\(_powerAssertionRetainCount > 0\\).*\\+\\[KRRemoteSession "
                  "decrementPowerAssertion\\].*Korvane/KRRemoteSession.*41");

@@ -4,14 +4,8 @@
 #include "Platform/AssetsLibrary/ALAssetsLibrary.h"
 #include "Platform/Foundation/Dispatch.h"
 #include "Tests/Support/DefaultRoute.h"
-#include "Tests/Support/LogCapture.h"
-#include "Tests/Support/Printing.h"
 #include "Tests/Support/StandInAccount.h"
-#include "Tests/Support/WaitFor.h"
-
-#include <QDir>
-
-#include <gtest/gtest.h>
+#include "Tests/Support/Testing.h"
 
 #include <atomic>
 
@@ -71,16 +65,14 @@ struct VimeoUpload : ::testing::Test {
         EXPECT_EQ(delegate->ends, 1);
         return delegate->error;
     }
-    std::optional<NSError> upload(const std::shared_ptr<VimeoPost> &post) {
+    void begin(const std::shared_ptr<VimeoPost> &post, const VimeoCheckpoint &checkpoint = {}) {
         delegate = std::make_shared<Delegate>();
         post->setDelegate(delegate);
-        EXPECT_TRUE(post->uploadToAccount(services.vimeoAccount));
-        return end(post);
+        EXPECT_TRUE(checkpoint.hasTicket() ? post->resumeUploadToAccount(services.vimeoAccount, checkpoint)
+                                           : post->uploadToAccount(services.vimeoAccount));
     }
-    std::optional<NSError> resume(const std::shared_ptr<VimeoPost> &post, const VimeoCheckpoint &checkpoint) {
-        delegate = std::make_shared<Delegate>();
-        post->setDelegate(delegate);
-        EXPECT_TRUE(post->resumeUploadToAccount(services.vimeoAccount, checkpoint));
+    std::optional<NSError> upload(const std::shared_ptr<VimeoPost> &post, const VimeoCheckpoint &checkpoint = {}) {
+        begin(post, checkpoint);
         return end(post);
     }
 
@@ -169,13 +161,7 @@ TEST_F(VimeoUpload, SaysAtOnceWhatItCannotStart) {
 
 TEST_F(VimeoUpload, AsksForTheQuotaBeforeAnythingElse) {
     const qint64 size = 1000;
-    struct Case {
-        standin::Quota quota;
-        qint64 videoSize;
-        std::optional<NSError> error;
-        qint64 warning;
-    };
-    const Case cases[] = {
+    const std::tuple<standin::Quota, qint64, std::optional<NSError>, qint64> cases[] = {
         {{.free = size, .hd = true, .sd = true}, VimeoVideoSizeLarge, std::nullopt, 0},
         {{.free = size - 1, .hd = true, .sd = true}, 0, postError(VimeoPostErrorQuotaExceeded), 0},
         {{.free = -1, .hd = true, .sd = true}, 0, std::nullopt, 0}, // unsigned: huge
@@ -183,12 +169,12 @@ TEST_F(VimeoUpload, AsksForTheQuotaBeforeAnythingElse) {
         {{.free = size, .hd = false, .sd = true}, VimeoVideoSizeLarge, std::nullopt, VimeoPostWarningNoHDQuota},
         {{.free = size, .hd = false, .sd = true}, VimeoVideoSizeMedium, std::nullopt, 0},
     };
-    for (const Case &test : cases) {
-        vimeo.quota(test.quota);
+    for (const auto &[quota, videoSize, error, warning] : cases) {
+        vimeo.quota(quota);
         const auto video = post(bytes.left(size));
-        video->videoSize = test.videoSize;
-        EXPECT_EQ(upload(video), test.error) << test.quota.free;
-        EXPECT_EQ(delegate->warning, test.warning);
+        video->videoSize = videoSize;
+        EXPECT_EQ(upload(video), error) << quota.free;
+        EXPECT_EQ(delegate->warning, warning);
     }
     vimeo.on("getQuota").answer(200, "application/json", R"({"stat":"ok"})");
     EXPECT_EQ(upload(post(bytes)), postError(VimeoPostErrorQuotaExceeded)) << "no user means no space";
@@ -230,14 +216,9 @@ TEST_F(VimeoUpload, ReadsTheStoredCountInEveryForm) {
 }
 
 TEST_F(VimeoUpload, EndsWithTheErrorOfTheStepThatFailed) {
-    struct Case {
-        const char *operation;
-        std::optional<QByteArray> body; // none: the connection breaks
-        NSError error;
-        VimeoUploadState state;
-    };
     const NSError lost(NSURLErrorDomain, NSURLErrorNetworkConnectionLost);
-    const Case cases[] = {
+    // Without a body the connection breaks.
+    const std::tuple<const char *, std::optional<QByteArray>, NSError, VimeoUploadState> cases[] = {
         {"getQuota", std::nullopt, lost, VimeoUploadStateCheckingQuota},
         {"getTicket", std::nullopt, postError(VimeoPostErrorEmptyResponse), VimeoUploadStateGettingTicket},
         {"getTicket", R"({"err":{"code":"401"}})", postError(VimeoPostErrorServiceCode401),
@@ -250,19 +231,16 @@ TEST_F(VimeoUpload, EndsWithTheErrorOfTheStepThatFailed) {
         {"addTags", "", postError(VimeoPostErrorEmptyResponse), VimeoUploadStateAddingTags},
         {"setPrivacy", "x", postError(VimeoPostErrorBadResponse), VimeoUploadStateSettingPrivacy},
     };
-    for (const Case &test : cases) {
-        SCOPED_TRACE(test.operation);
+    for (const auto &[operation, body, expected, state] : cases) {
+        SCOPED_TRACE(operation);
         vimeo.clearFaults();
-        if (test.body)
-            vimeo.on(test.operation).answer(200, "application/json", *test.body);
-        else
-            vimeo.on(test.operation).dropBeforeAnswer();
+        body ? vimeo.on(operation).answer(200, "application/json", *body) : vimeo.on(operation).dropBeforeAnswer();
         const auto video = post(bytes.left(3000));
         video->tags = QStringList{QStringLiteral("a")};
         const auto error = upload(video).value_or(postError(0));
-        EXPECT_EQ(error.domain(), test.error.domain());
-        EXPECT_EQ(error.code(), test.error.code());
-        EXPECT_EQ(video->uploadState(), test.state);
+        EXPECT_EQ(error.domain(), expected.domain());
+        EXPECT_EQ(error.code(), expected.code());
+        EXPECT_EQ(video->uploadState(), state);
         EXPECT_TRUE(log.lines().join(u'\n').contains(QStringLiteral("Vimeo error: ")));
     }
     vimeo.clearFaults();
@@ -320,18 +298,18 @@ TEST_F(VimeoUpload, ResumesWhereAnEarlierUploadGotTo) {
     EXPECT_EQ(reached.bytesStored, 2'097'152u);
     EXPECT_FALSE(reached.commitSent);
 
-    EXPECT_EQ(resume(post(bytes), reached), std::nullopt);
+    EXPECT_EQ(upload(post(bytes), reached), std::nullopt);
     ASSERT_EQ(vimeo.videos().size(), 1u);
     EXPECT_EQ(vimeo.videos()[0].chunks.at(2).start, 3'097'152) << "with the bytes of the broken chunk";
     EXPECT_EQ(vimeo.videos()[0].sha256, sha256Of(bytes));
 
     reached.videoID = QString::number(vimeo.videos()[0].id);
     const size_t before = vimeo.requests().size();
-    EXPECT_EQ(resume(post(bytes), reached), std::nullopt);
+    EXPECT_EQ(upload(post(bytes), reached), std::nullopt);
     EXPECT_EQ(operations().mid(qsizetype(before)), (QByteArrayList{"setTitle", "setPrivacy"}));
 
     reached.videoID = {};
-    EXPECT_EQ(resume(post(bytes), reached), std::nullopt) << "the ticket is used up, so there is a new one";
+    EXPECT_EQ(upload(post(bytes), reached), std::nullopt) << "the ticket is used up, so there is a new one";
     EXPECT_EQ(vimeo.videos().size(), 2u);
     EXPECT_EQ(vimeo.videos()[1].sha256, sha256Of(bytes));
 }
@@ -347,12 +325,12 @@ TEST_F(VimeoUpload, NeverMovesOntoTheCellularNetworkWhereItBeganElsewhere) {
     VimeoCheckpoint reached = first->checkpoint();
     EXPECT_EQ(reached.mayUseCellular, false);
     reached.endpoint = NSURL::URLWithString(DefaultRoute::notLoopback(reached.endpoint->absoluteString()));
-    const auto error = resume(post(bytes), reached).value_or(postError(0));
+    const auto error = upload(post(bytes), reached).value_or(postError(0));
     EXPECT_EQ(error.domain(), NSURLErrorDomain);
     EXPECT_EQ(error.code(), NSURLErrorNotConnectedToInternet);
     EXPECT_EQ(vimeo.videos()[0].chunks.size(), 2u);
     reached.mayUseCellular.reset();
-    EXPECT_EQ(resume(post(bytes), reached), std::nullopt) << "begun here";
+    EXPECT_EQ(upload(post(bytes), reached), std::nullopt) << "begun here";
     EXPECT_EQ(vimeo.videos()[0].sha256, sha256Of(bytes));
 }
 
@@ -365,9 +343,7 @@ TEST_F(VimeoUpload, WaitsWithTheCommitUntilItIsRecorded) {
         else
             proceed();
     };
-    delegate = std::make_shared<Delegate>();
-    video->setDelegate(delegate);
-    ASSERT_TRUE(video->uploadToAccount(services.vimeoAccount));
+    begin(video);
     ASSERT_TRUE(waitFor([&] { return proceedWithCommit != nullptr; }));
     EXPECT_FALSE(waitFor([&] { return operations().contains("complete"); }, 200));
     proceedWithCommit();
@@ -391,9 +367,7 @@ TEST_F(VimeoUpload, EndsWithAnErrorWhenTheFileShrinksOrTheJobIsCancelled) {
     services.vimeoAccount->setUploadContext(std::make_shared<UploadContext>());
     vimeo.on("verify").hang();
     const auto cancelled = post(bytes);
-    delegate = std::make_shared<Delegate>();
-    cancelled->setDelegate(delegate);
-    ASSERT_TRUE(cancelled->uploadToAccount(services.vimeoAccount));
+    begin(cancelled);
     ASSERT_TRUE(waitFor([&] { return cancelled->uploadState() == VimeoUploadStateVerifyingChunk; }));
     services.vimeoAccount->uploadContext()->cancel();
     EXPECT_EQ(end(cancelled), postError(VimeoPostErrorBadResponse));
@@ -401,7 +375,6 @@ TEST_F(VimeoUpload, EndsWithAnErrorWhenTheFileShrinksOrTheJobIsCancelled) {
 }
 
 TEST(VimeoUploadDeathTest, StopsOnAnEmptyVideo) {
-    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
     const auto uploadNothing = [] {
         TemporaryHome home;
         StandInAccount services(home);

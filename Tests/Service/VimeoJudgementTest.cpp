@@ -32,34 +32,25 @@ TEST(VimeoClassifier, TellsPassingFailuresFromFinalOnesAndSaysWhatToDo) {
         return NSError::errorWithDescription(AVFoundationErrorDomain, code, QStringLiteral("reason"));
     };
     const QByteArray refusal = R"({"err":{"code":"999","msg":"No more","expl":"oauth_token=hush"}})";
-    const struct {
-        NSError error;
-        UploadContext::Snapshot request;
-        UploadState state;
-        WaitReason reason;
-        const char *text;
-    } cases[] = {
-        {post(VimeoPostErrorEmptyResponse), failed(-1001), UploadState::Waiting, WaitReason::Network, "reason"},
-        {post(VimeoPostErrorBadResponse), failed(-999), UploadState::Waiting, WaitReason::NextTry, "reason"},
-        {post(VimeoPostErrorBadResponse), answered(503, "<html>"), UploadState::Waiting, WaitReason::NextTry, "503"},
-        {post(VimeoPostErrorBadResponse), answered(200, "<html>"), UploadState::Failed, WaitReason::None,
-         "not understood"},
-        {post(VimeoPostErrorBadResponse), answered(200, refusal), UploadState::Failed, WaitReason::None, "No more"},
-        {post(VimeoPostErrorServiceCode401), answered(401, refusal), UploadState::Failed, WaitReason::None,
-         "Sign in again"},
-        {post(VimeoPostErrorServiceCode708), answered(200, refusal), UploadState::Waiting, WaitReason::NextTry,
-         "again"},
-        {post(VimeoPostErrorQuotaExceeded), answered(200, "{}"), UploadState::Failed, WaitReason::None, "space"},
-        {exported(AVErrorDiskFull), {}, UploadState::Waiting, WaitReason::NextTry, "reason"},
-        {exported(AVErrorInvalidSourceMedia), {}, UploadState::Failed, WaitReason::None, "reason"},
-        {NSError::errorWithErrno(EACCES, QStringLiteral("a.mp4")), {}, UploadState::Failed, WaitReason::None, "a.mp4"},
+    using enum WaitReason; // none: failed
+    const std::tuple<NSError, UploadContext::Snapshot, WaitReason, const char *> cases[] = {
+        {post(VimeoPostErrorEmptyResponse), failed(-1001), Network, "reason"},
+        {post(VimeoPostErrorBadResponse), failed(-999), NextTry, "reason"},
+        {post(VimeoPostErrorBadResponse), answered(503, "<html>"), NextTry, "503"},
+        {post(VimeoPostErrorBadResponse), answered(200, "<html>"), None, "not understood"},
+        {post(VimeoPostErrorBadResponse), answered(200, refusal), None, "No more"},
+        {post(VimeoPostErrorServiceCode401), answered(401, refusal), None, "Sign in again"},
+        {post(VimeoPostErrorServiceCode708), answered(200, refusal), NextTry, "again"},
+        {post(VimeoPostErrorQuotaExceeded), answered(200, "{}"), None, "space"},
+        {exported(AVErrorDiskFull), {}, NextTry, "reason"},
+        {exported(AVErrorInvalidSourceMedia), {}, None, "reason"},
+        {NSError::errorWithErrno(EACCES, QStringLiteral("a.mp4")), {}, None, "a.mp4"},
     };
-    for (const auto &test : cases) {
-        const Verdict verdict =
-            FailureClassifier::verdictOnVimeoRun({RunOutcome::Finished, test.error, test.request, 0});
-        EXPECT_EQ(verdict.state, test.state) << test.text;
-        EXPECT_EQ(verdict.waitReason, test.reason) << test.text;
-        EXPECT_TRUE(says(verdict.error, test.text));
+    for (const auto &[error, request, reason, text] : cases) {
+        const Verdict verdict = FailureClassifier::verdictOnVimeoRun({RunOutcome::Finished, error, request, 0});
+        EXPECT_EQ(verdict.state, reason == None ? UploadState::Failed : UploadState::Waiting) << text;
+        EXPECT_EQ(verdict.waitReason, reason) << text;
+        EXPECT_TRUE(says(verdict.error, text));
         EXPECT_FALSE(says(verdict.error, "hush"));
     }
 }

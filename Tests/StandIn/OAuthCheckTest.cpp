@@ -31,14 +31,10 @@ TEST(OAuthCheck, AcceptsThePublishedRequestWithinItsTime) {
 }
 
 TEST(OAuthCheck, NoticesEveryChange) {
-    struct Change {
-        const char *problem;
-        std::function<void(SignedRequest &)> spoil;
-    };
     const auto inHeader = [](const char *before, const char *after) {
         return [=](SignedRequest &request) { request.authorization.replace(before, after); };
     };
-    const Change changes[] = {
+    const std::pair<const char *, std::function<void(SignedRequest &)>> changes[] = {
         {"signature_invalid", [](SignedRequest &request) { request.method = "GET"; }},
         {"signature_invalid", [](SignedRequest &request) { request.host = "example.com:8080"; }},
         {"signature_invalid", [](SignedRequest &request) { request.target.replace("/request", "/Request"); }},

@@ -1,12 +1,5 @@
 // The stand-in as a web service: what it refuses and shows, planned faults, and its state over restarts.
-#include "StandIn/StandIn.h"
-#include "Platform/Accounts/ACAccountCredential.h"
-#include "Platform/Social/OAuthSigner.h"
-#include "Tests/Support/Testing.h"
-
-#include <QDateTime>
-
-#include <httplib.h>
+#include "Tests/StandIn/SignedClient.h"
 
 using namespace korvane;
 using namespace korvane::test;
@@ -19,43 +12,30 @@ struct Reply {
     QByteArray body;
 };
 
-class Client : public httplib::Client {
+class Client : public SignedClient {
 public:
-    explicit Client(const StandIn &server) : httplib::Client(server.url().toStdString()), _url(server.url()) {}
+    explicit Client(const StandIn &server) : SignedClient(server, StandIn::flickrCredential()) {}
 
-    // Of the test user, with a fresh nonce each time.
-    httplib::Headers authorization(const char *path, const OAuthParameters &parameters) const {
-        const auto text = [](const QByteArray &bytes) { return QString::fromUtf8(bytes); };
-        const standin::Credential user = StandIn::flickrCredential();
-        static int nonce = 0;
-        const QByteArray header = OAuthSigner::authorizationHeader(
-            "POST", *NSURL::URLWithString(_url + QLatin1String(path)), parameters,
-            {text(user.consumerKey), text(user.consumerSecret), text(user.token), text(user.tokenSecret)},
-            QDateTime::currentSecsSinceEpoch(), QString::number(++nonce));
-        return {{"Authorization", header.toStdString()}};
+    httplib::Headers authorizationOf(const char *title) const {
+        return authorization("POST", "/services/upload/", {{"title", title}});
     }
     Reply upload(const httplib::Headers &headers, const httplib::MultipartFormDataItems &parts) {
         return _reply(Post("/services/upload/", headers, parts));
     }
     Reply upload(const QByteArray &photo, const char *title = "t") {
-        return upload(authorization("/services/upload/", {{QStringLiteral("title"), QString::fromUtf8(title)}}),
+        return upload(authorizationOf(title),
                       {{"title", title, "", ""}, {"photo", photo.toStdString(), "a.jpg", "image/jpeg"}});
     }
     Reply addPhoto(const char *album, const QByteArray &photo) {
-        const httplib::Params body{
-            {"method", "flickr.photosets.addPhoto"}, {"photoset_id", album}, {"photo_id", photo.toStdString()}};
-        OAuthParameters parameters;
-        for (const auto &[name, value] : body)
-            parameters.append({QString::fromStdString(name), QString::fromStdString(value)});
-        return _reply(Post("/services/rest/", authorization("/services/rest/", parameters), body));
+        return _reply(postForm(
+            "/services/rest/",
+            {{"method", "flickr.photosets.addPhoto"}, {"photoset_id", album}, {"photo_id", photo.toStdString()}}));
     }
-    QByteArray get(const QByteArray &path) { return _reply(Get(path.toStdString())).body; }
 
 private:
     static Reply _reply(const httplib::Result &result) {
         return result ? Reply{result->status, QByteArray::fromStdString(result->body)} : Reply();
     }
-    const QString _url;
 };
 
 QByteArray photoIdIn(const Reply &reply) {
@@ -63,22 +43,13 @@ QByteArray photoIdIn(const Reply &reply) {
     return reply.body.mid(begin, reply.body.indexOf("</photoid>") - begin);
 }
 
-class StandInService : public ::testing::Test {
-protected:
-    void SetUp() override {
-        ASSERT_TRUE(server.start());
-        client.emplace(server);
-    }
-
-    StandIn server{standin::StandInOptions{.photoLimit = 300'000}};
-    std::optional<Client> client;
-};
+using StandInService = StandInTest<Client>;
 
 } // namespace
 
 TEST_F(StandInService, AnswersWithFlickrsErrors) {
     const char *const album = "72157600000000001";
-    EXPECT_TRUE(says(client->upload(client->authorization("/services/upload/", {}), {}).body, "err code=\"2\""));
+    EXPECT_TRUE(says(client->upload(client->authorization("POST", "/services/upload/"), {}).body, "err code=\"2\""));
     EXPECT_TRUE(says(client->upload("").body, "err code=\"4\""));
     EXPECT_TRUE(says(client->upload("a text, not a picture").body, "err code=\"5\""));
     EXPECT_TRUE(says(client->upload(jpegOfSize(300'001)).body, "err code=\"8\""));
@@ -93,14 +64,13 @@ TEST_F(StandInService, AnswersWithFlickrsErrors) {
 
 TEST_F(StandInService, RefusesRequestsThatAreNotSignedOrNotWellFormed) {
     const httplib::MultipartFormDataItems parts{{"title", "t", "", ""}, {"photo", "GIF89a", "a.gif", "image/gif"}};
-    const auto authorization =
-        client->authorization("/services/upload/", {{QStringLiteral("title"), QStringLiteral("t")}});
+    const auto authorization = client->authorizationOf("t");
     EXPECT_EQ(client->upload(authorization, parts).status, 200);
     const Reply replay = client->upload(authorization, parts);
     EXPECT_EQ(replay.status, 401);
     EXPECT_EQ(replay.body, "oauth_problem=nonce_used");
-    const auto forOther = client->authorization("/services/upload/", {{QStringLiteral("title"), QStringLiteral("u")}});
-    EXPECT_TRUE(client->upload(forOther, parts).body.startsWith("oauth_problem=signature_invalid&debug_sbs=POST%26"));
+    EXPECT_TRUE(client->upload(client->authorizationOf("u"), parts)
+                    .body.startsWith("oauth_problem=signature_invalid&debug_sbs=POST%26"));
     EXPECT_TRUE(client->upload({}, parts).body.startsWith("oauth_problem=parameter_absent"));
     EXPECT_EQ(client->upload({}, {parts[1], parts[1]}).body, "Bad request: there are two photos.\n");
     EXPECT_EQ(client->Post("/services/upload/", "bytes", "image/jpeg")->status, 400);
@@ -169,7 +139,7 @@ TEST(StandInState, OutlivesRestartsAndCrashes) {
         EXPECT_EQ(photos[0].id, first.toLongLong());
         EXPECT_EQ(photos[0].parameters, (standin::Parameters{{"title", "日本"}}));
         EXPECT_EQ(photos[0].albums, QList<qint64>{72157600000002019});
-        EXPECT_EQ(Client(server).get("/photos/" + first), jpegOfSize(1000));
+        EXPECT_EQ(Client(server).get("/photos/" + first.toStdString()), jpegOfSize(1000));
         EXPECT_TRUE(says(Client(server).get("/api/state"), sha256Of(jpegOfSize(1000))));
         EXPECT_TRUE(QDir(folder.filePath(QStringLiteral("incoming"))).isEmpty());
         EXPECT_GT(photoIdIn(Client(server).upload("GIF89a")).toLongLong(), photos.back().id);

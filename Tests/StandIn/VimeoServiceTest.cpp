@@ -1,15 +1,9 @@
 // The stand-in's video service: what it refuses, its weather, its state over restarts, and videos on the page.
-#include "Platform/Accounts/ACAccountCredential.h"
-#include "Platform/Social/OAuthSigner.h"
-#include "StandIn/StandIn.h"
-#include "Tests/Support/Testing.h"
+#include "Tests/StandIn/SignedClient.h"
 
-#include <QDateTime>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
-
-#include <httplib.h>
 
 using namespace korvane;
 using namespace korvane::test;
@@ -25,32 +19,16 @@ httplib::Headers::value_type rangeHeader(const char *range) {
 }
 
 // Uploads a video step by step, signed on its own.
-class VimeoClient : public httplib::Client {
+class VimeoClient : public SignedClient {
 public:
-    explicit VimeoClient(const StandIn &server) : httplib::Client(server.url().toStdString()), _url(server.url()) {}
+    explicit VimeoClient(const StandIn &server) : SignedClient(server, StandIn::vimeoCredential()) {}
 
-    // Of the test user, with a fresh nonce each time.
-    httplib::Headers authorization(const char *verb, const std::string &target,
-                                   const httplib::Params &form = {}) const {
-        const NSURL url = *NSURL::URLWithString(_url + QString::fromStdString(target));
-        OAuthParameters parameters = OAuthSigner::parametersOfQuery(QString::fromStdString(target).section(u'?', 1));
-        for (const auto &[name, value] : form)
-            parameters.append({QString::fromStdString(name), QString::fromStdString(value)});
-        const auto text = [](const QByteArray &bytes) { return QString::fromUtf8(bytes); };
-        const standin::Credential user = StandIn::vimeoCredential();
-        static int nonce = 0;
-        const QByteArray header = OAuthSigner::authorizationHeader(
-            verb, url, parameters,
-            {text(user.consumerKey), text(user.consumerSecret), text(user.token), text(user.tokenSecret)},
-            QDateTime::currentSecsSinceEpoch(), QString::number(++nonce));
-        return {{"Authorization", header.toStdString()}};
-    }
     int rest(const httplib::Params &form, const std::string &query = "format=json") {
-        return _post(form, "/api/rest/v2?" + query)->status;
+        return postForm("/api/rest/v2?" + query, form)->status;
     }
     QJsonValue method(const std::string &name, httplib::Params form) {
         form.emplace("method", "vimeo.videos." + name);
-        const std::string answer = _post(form, "/api/rest/v2?format=json")->body;
+        const std::string answer = postForm("/api/rest/v2?format=json", form)->body;
         return QJsonDocument::fromJson(QByteArray::fromStdString(answer)).object();
     }
     std::string ticket() {
@@ -77,25 +55,9 @@ public:
         const QJsonValue answer = method("upload.complete", {{"ticket_id", ticket}, {"filename", "video.mp4"}});
         return answer[u"ticket"][u"video_id"].toString().toStdString();
     }
-    QByteArray get(const std::string &path) { return QByteArray::fromStdString(Get(path)->body); }
-
-private:
-    httplib::Result _post(const httplib::Params &form, const std::string &target) {
-        return Post(target, authorization("POST", target, form), form);
-    }
-    const QString _url;
 };
 
-class VimeoService : public ::testing::Test {
-protected:
-    void SetUp() override {
-        ASSERT_TRUE(server.start());
-        client.emplace(server);
-    }
-
-    StandIn server;
-    std::optional<VimeoClient> client;
-};
+using VimeoService = StandInTest<VimeoClient>;
 
 } // namespace
 
@@ -258,7 +220,6 @@ TEST(VimeoState, GoesOnAfterARestartInTheMiddle) {
         ASSERT_TRUE(file.open(QIODevice::Append));
         file.write(left);
     }
-    QByteArray state;
     for (const bool again : {false, true}) {
         StandIn server(options);
         ASSERT_TRUE(server.start());
@@ -274,13 +235,7 @@ TEST(VimeoState, GoesOnAfterARestartInTheMiddle) {
         EXPECT_EQ(video.sha256, sha256Of(bytes));
         EXPECT_EQ(video.tags, (QStringList{QStringLiteral("a"), QStringLiteral("日本")}));
         EXPECT_EQ(client.get("/videos/" + std::to_string(video.id)), bytes);
-        const QByteArray videos = client.get("/api/state");
-        const QByteArray shown = videos.mid(videos.indexOf("\"videos\""));
-        EXPECT_TRUE(says(shown, "1000077-2999999/3000000"));
-        if (again) {
-            EXPECT_EQ(shown, state);
-        }
-        state = shown;
+        EXPECT_TRUE(says(client.get("/api/state"), "1000077-2999999/3000000"));
     }
     EXPECT_EQ(QDir(folder.filePath(QStringLiteral("videos"))).entryList(QDir::Files),
               QStringList(QString::fromLatin1(name)));

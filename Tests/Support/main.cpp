@@ -5,6 +5,7 @@
 
 int main(int argc, char **argv) {
     ::testing::InitGoogleTest(&argc, argv);
+    GTEST_FLAG_SET(death_test_style, "threadsafe"); // each in a process of its own: Qt's threads do not fork
     QCoreApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }
