@@ -146,10 +146,10 @@ TEST_F(Store, BringsADatabaseOfTheFirstVersionUpToDate) {
     ASSERT_TRUE(migrated.open(old, nullptr));
     UploadJob kept;
     const NSError error = NSError::errorWithDescription(QStringLiteral("D"), -7, QStringLiteral("text"));
-    fieldsOf(kept) =
-        std::tuple(1, flickrServiceID, UploadState::Failed, WaitReason::None, QStringLiteral("a"),
-                   QStringLiteral("acc"), QStringLiteral("name"), QStringLiteral("file"), FileIdentity{1, 2, 3, 4},
-                   QString(), 5, std::optional<VimeoCheckpoint>(), 6, 7, 8, 9, 1, 11, 12, 13, error);
+    const std::optional<VimeoCheckpoint> noVideo;
+    fieldsOf(kept) = std::tuple(1, flickrServiceID, UploadState::Failed, WaitReason::None, QStringLiteral("a"),
+                                QStringLiteral("acc"), QStringLiteral("name"), QStringLiteral("file"),
+                                FileIdentity{1, 2, 3, 4}, QString(), 5, noVideo, 6, 7, 8, 9, 1, 11, 12, 13, error);
     UploadJob found = *migrated.job(1);
     EXPECT_EQ(fieldsOf(found), fieldsOf(kept));
     EXPECT_EQ(migrated.queued(flickrServiceID, 9).at(0).title, QStringLiteral("b"));
