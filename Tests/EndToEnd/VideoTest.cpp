@@ -244,7 +244,7 @@ TEST_F(Video, WhatIsCommittedIsFinishedWhileItIsPausedRemovedOrStopped) {
             if (wish == "Stop") ::kill(pid_t(pid), SIGTERM);
             EXPECT_FALSE(waitFor(hasEnded, 100)) << "it waits for what runs";
             vimeo.release();
-            EXPECT_TRUE(waitFor([&] { return !vimeo.videos().back().privacy.isEmpty(); }));
+            ASSERT_TRUE(waitFor([&] { return !vimeo.videos().back().privacy.isEmpty(); }));
             EXPECT_TRUE(wish != "Stop" || waitFor(hasEnded));
             ASSERT_EQ(vimeo.videos().size(), size_t(count));
             EXPECT_EQ(vimeo.videos().back().commits(), 1);

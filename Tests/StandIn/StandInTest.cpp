@@ -1,51 +1,11 @@
 // The stand-in as a web service: what it refuses and shows, planned faults, and its state over restarts.
-#include "Tests/StandIn/SignedClient.h"
+#include "Tests/StandIn/Clients.h"
 
 using namespace korvane;
 using namespace korvane::test;
 using standin::StandIn;
 
-namespace {
-
-struct Reply {
-    int status = 0; // 0: the connection ended without a whole answer
-    QByteArray body;
-};
-
-class Client : public SignedClient {
-public:
-    explicit Client(const StandIn &server) : SignedClient(server, StandIn::flickrCredential()) {}
-
-    httplib::Headers authorizationOf(const char *title) const {
-        return authorization("POST", "/services/upload/", {{"title", title}});
-    }
-    Reply upload(const httplib::Headers &headers, const httplib::MultipartFormDataItems &parts) {
-        return _reply(Post("/services/upload/", headers, parts));
-    }
-    Reply upload(const QByteArray &photo, const char *title = "t") {
-        return upload(authorizationOf(title),
-                      {{"title", title, "", ""}, {"photo", photo.toStdString(), "a.jpg", "image/jpeg"}});
-    }
-    Reply addPhoto(const char *album, const QByteArray &photo) {
-        return _reply(postForm(
-            "/services/rest/",
-            {{"method", "flickr.photosets.addPhoto"}, {"photoset_id", album}, {"photo_id", photo.toStdString()}}));
-    }
-
-private:
-    static Reply _reply(const httplib::Result &result) {
-        return result ? Reply{result->status, QByteArray::fromStdString(result->body)} : Reply();
-    }
-};
-
-QByteArray photoIdIn(const Reply &reply) {
-    const qsizetype begin = reply.body.indexOf("<photoid>") + 9;
-    return reply.body.mid(begin, reply.body.indexOf("</photoid>") - begin);
-}
-
-using StandInService = StandInTest<Client>;
-
-} // namespace
+using StandInService = StandInTest<PhotoClient>;
 
 TEST_F(StandInService, AnswersWithFlickrsErrors) {
     const char *const album = "72157600000000001";
@@ -114,34 +74,63 @@ TEST_F(StandInService, TakesPlansOfFaultsOverHttp) {
     EXPECT_EQ(client->upload("GIF89a").status, 200) << "a refused plan leaves nothing behind";
 }
 
-TEST(StandInState, OutlivesRestartsAndCrashes) {
+TEST(StandInState, OutlivesRestartsAndCrashesInTheMiddle) {
     const QTemporaryDir folder;
     const standin::StandInOptions kept{.stateFolder = folder.path()};
-    QByteArray first;
+    const QByteArray bytes = variedBytes(3'000'000);
+    QByteArray photo;
+    QByteArray ticket;
     {
         StandIn server(kept);
         ASSERT_TRUE(server.start());
-        first = photoIdIn(Client(server).upload(jpegOfSize(1000), "日本"));
-        Client(server).addPhoto("72157600000002019", first);
+        photo = photoIdIn(PhotoClient(server).upload(jpegOfSize(1000), "日本"));
+        PhotoClient(server).addPhoto("72157600000002019", photo);
+        VimeoClient videos(server);
+        const std::string id = videos.ticket();
+        ticket = QByteArray::fromStdString(id);
+        videos.chunk(id, bytes.first(1'000'000));
+        videos.chunk(id, bytes.mid(1'000'000, 500'000), "bytes 1000000-2999999/3000000");
+        videos.chunk(id, bytes.mid(900'000, 100'000), "bytes 900000-2999999/3000000");
     }
-    // What a crash in the middle of two uploads leaves behind.
-    for (const auto &[name, bytes] :
-         {std::pair("journal.jsonl", "{\"photo\":\"53000000009\",\"para"), {"incoming/7", "half"}}) {
-        QFile file(folder.filePath(QLatin1String(name)));
+    // What a crash in the middle of uploads leaves behind.
+    for (const auto &[path, left] :
+         {std::pair<QByteArray, QByteArray>("journal.jsonl", "{\"photo\":\"53000000009\",\"para"),
+          {"incoming/7", "half"},
+          {"videos/" + ticket, bytes.mid(1'000'000, 77)},
+          {"videos.jsonl", "{\"ticketId\":\"" + ticket + "\",\"oper"},
+          {"videos/" + QByteArray(32, '0'), "unknown"}}) {
+        QFile file(folder.filePath(QString::fromLatin1(path)));
         ASSERT_TRUE(file.open(QIODevice::Append));
-        file.write(bytes);
+        file.write(left);
     }
     for (size_t restarts = 0; restarts < 2; ++restarts) {
         StandIn server(kept);
         ASSERT_TRUE(server.start());
         const auto photos = server.photos();
         ASSERT_EQ(photos.size(), 1 + restarts);
-        EXPECT_EQ(photos[0].id, first.toLongLong());
+        EXPECT_EQ(photos[0].id, photo.toLongLong());
         EXPECT_EQ(photos[0].parameters, (standin::Parameters{{"title", "日本"}}));
         EXPECT_EQ(photos[0].albums, QList<qint64>{72157600000002019});
-        EXPECT_EQ(Client(server).get("/photos/" + first.toStdString()), jpegOfSize(1000));
-        EXPECT_TRUE(says(Client(server).get("/api/state"), sha256Of(jpegOfSize(1000))));
-        EXPECT_TRUE(QDir(folder.filePath(QStringLiteral("incoming"))).isEmpty());
-        EXPECT_GT(photoIdIn(Client(server).upload("GIF89a")).toLongLong(), photos.back().id);
+        PhotoClient client(server);
+        EXPECT_EQ(client.get("/photos/" + photo.toStdString()), jpegOfSize(1000));
+        EXPECT_GT(photoIdIn(client.upload("GIF89a")).toLongLong(), photos.back().id);
+
+        VimeoClient videos(server);
+        if (restarts == 0) {
+            const std::string id = ticket.toStdString();
+            EXPECT_EQ(videos.verify(id), 1'000'077);
+            EXPECT_EQ(videos.chunk(id, "A", "bytes 0-1999999/2000000"), 400) << "it was larger before";
+            EXPECT_EQ(videos.chunk(id, bytes.mid(1'000'077), "bytes 1000077-2999999/3000000"), 200);
+            videos.method("addTags", {{"video_id", videos.commit(id)}, {"tags", "a, 日本"}});
+        }
+        ASSERT_EQ(server.videos().size(), 1u);
+        const standin::Video video = server.videos()[0];
+        EXPECT_EQ(video.sha256, sha256Of(bytes));
+        EXPECT_EQ(video.tags, (QStringList{QStringLiteral("a"), QStringLiteral("日本")}));
+        EXPECT_EQ(videos.get("/videos/" + std::to_string(video.id)), bytes);
+        const QByteArray state = client.get("/api/state");
+        EXPECT_TRUE(says(state, sha256Of(jpegOfSize(1000))) && says(state, "1000077-2999999/3000000"));
+        for (const char *below : {"incoming", "videos"})
+            EXPECT_EQ(QDir(folder.filePath(QLatin1String(below))).entryList(QDir::Files).size(), *below == 'v');
     }
 }

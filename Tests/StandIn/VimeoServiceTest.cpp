@@ -1,9 +1,5 @@
 // The stand-in's video service: what it refuses, its weather, its state over restarts, and videos on the page.
-#include "Tests/StandIn/SignedClient.h"
-
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QRegularExpression>
+#include "Tests/StandIn/Clients.h"
 
 using namespace korvane;
 using namespace korvane::test;
@@ -12,51 +8,6 @@ using standin::StandIn;
 namespace {
 
 constexpr qsizetype largestChunk = 2'097'152;
-const httplib::Headers::value_type mp4("Content-Type", "video/mp4");
-
-httplib::Headers::value_type rangeHeader(const char *range) {
-    return {"Content-Range", range};
-}
-
-// Uploads a video step by step, signed on its own.
-class VimeoClient : public SignedClient {
-public:
-    explicit VimeoClient(const StandIn &server) : SignedClient(server, StandIn::vimeoCredential()) {}
-
-    int rest(const httplib::Params &form, const std::string &query = "format=json") {
-        return postForm("/api/rest/v2?" + query, form)->status;
-    }
-    QJsonValue method(const std::string &name, httplib::Params form) {
-        form.emplace("method", "vimeo.videos." + name);
-        const std::string answer = postForm("/api/rest/v2?format=json", form)->body;
-        return QJsonDocument::fromJson(QByteArray::fromStdString(answer)).object();
-    }
-    std::string ticket() {
-        return method("upload.getTicket", {{"upload_method", "streaming"}})[u"ticket"][u"id"].toString().toStdString();
-    }
-    httplib::Result put(const std::string &ticket, httplib::Headers headers, const QByteArray &body) {
-        const std::string target = "/upload?ticket_id=" + ticket;
-        headers.merge(authorization("PUT", target));
-        return Put(target, headers, body.constData(), size_t(body.size()), "");
-    }
-    // The status; 0: the connection ended without an answer.
-    int chunk(const std::string &ticket, const QByteArray &bytes, const char *range = nullptr) {
-        const auto reply =
-            put(ticket, range ? httplib::Headers{mp4, rangeHeader(range)} : httplib::Headers{mp4}, bytes);
-        return reply ? reply->status : 0;
-    }
-    // The bytes stored; -1 if it does not say.
-    qint64 verify(const std::string &ticket) {
-        const auto reply = put(ticket, {rangeHeader("bytes */*")}, {});
-        return reply->status == 308 ? std::stoll(reply->get_header_value("Range").substr(8)) : -1;
-    }
-    // The video's id; empty if it is refused.
-    std::string commit(const std::string &ticket) {
-        const QJsonValue answer = method("upload.complete", {{"ticket_id", ticket}, {"filename", "video.mp4"}});
-        return answer[u"ticket"][u"video_id"].toString().toStdString();
-    }
-};
-
 using VimeoService = StandInTest<VimeoClient>;
 
 } // namespace
@@ -145,29 +96,19 @@ TEST_F(VimeoService, AnswersCallsThatAreNotRightWithErrors) {
     EXPECT_EQ(client->verify(incomplete), 200);
 }
 
-TEST_F(VimeoService, HasTheSameWeatherForTheSameSeed) {
-    const QByteArray bytes = variedBytes(60'000);
-    const auto outcome = [&](quint64 seed) {
-        server.weather({.seed = seed, .error = 0.1, .reset = 0.2, .loseTail = 0.2, .operations = {"chunk"}});
-        const std::string ticket = client->ticket();
-        QStringList steps;
-        qint64 stored = 0;
-        for (int i = 0; i < 60; ++i) {
-            const std::string range = "bytes " + std::to_string(stored) + "-59999/60000";
-            const int status = client->chunk(ticket, bytes.mid(stored, 1000), i > 0 ? range.c_str() : nullptr);
-            const qint64 before = std::exchange(stored, client->verify(ticket));
-            steps.append(QStringLiteral("%1:%2").arg(status).arg(stored - before));
-        }
-        return steps;
+TEST(Weather, IsOfAllKindsAndTheSameForTheSameSeed) {
+    const auto faults = [](quint64 seed) {
+        const standin::Weather weather{.seed = seed, .error = 0.1, .reset = 0.2, .loseTail = 0.2};
+        QList<standin::Fault::Kind> kinds;
+        for (quint64 index = 0; index < 60; ++index)
+            kinds.append(weather.at("chunk", index, 1000).kind);
+        return kinds;
     };
-    const QStringList first = outcome(20);
-    EXPECT_EQ(outcome(20), first);
-    EXPECT_NE(outcome(21), first);
-    EXPECT_EQ(server.protocolErrors(), QStringList());
-    EXPECT_GT(first.count(QStringLiteral("200:1000")), 10) << "it is not bad all the time";
-    EXPECT_GT(first.count(QStringLiteral("503:0")), 0);
-    EXPECT_GT(first.filter(QStringLiteral("200:")).size(), first.count(QStringLiteral("200:1000"))) << "lost tails";
-    EXPECT_GT(first.filter(QRegularExpression(QStringLiteral("^0:"))).size(), 0) << "resets";
+    EXPECT_EQ(faults(20), faults(20));
+    EXPECT_NE(faults(21), faults(20));
+    using enum standin::Fault::Kind;
+    for (const auto kind : {Answer, DropAfterBytes, StoreOnly, None})
+        EXPECT_GT(faults(20).count(kind), 2) << int(kind);
 }
 
 TEST_F(VimeoService, PlaysVideosOnThePageAndEscapesTheirTexts) {
@@ -195,48 +136,4 @@ TEST_F(VimeoService, PlaysVideosOnThePageAndEscapesTheirTexts) {
         EXPECT_EQ(QByteArray::fromStdString(part->body), bytes.mid(first, last - first + 1)) << range;
     }
     EXPECT_EQ(client->Get("/videos/1")->status, 404);
-}
-
-TEST(VimeoState, GoesOnAfterARestartInTheMiddle) {
-    const QTemporaryDir folder;
-    const standin::StandInOptions options{.stateFolder = folder.path()};
-    const QByteArray bytes = variedBytes(3'000'000);
-    std::string ticket;
-    {
-        StandIn server(options);
-        ASSERT_TRUE(server.start());
-        VimeoClient client(server);
-        ticket = client.ticket();
-        client.chunk(ticket, bytes.first(1'000'000));
-        client.chunk(ticket, bytes.mid(1'000'000, 500'000), "bytes 1000000-2999999/3000000");
-        client.chunk(ticket, bytes.mid(900'000, 100'000), "bytes 900000-2999999/3000000");
-    }
-    // What a crash in the middle of the next chunk leaves behind.
-    const QByteArray name = QByteArray::fromStdString(ticket);
-    for (const auto &[path, left] : {std::pair("videos/" + name, bytes.mid(1'000'000, 77)),
-                                     {"videos.jsonl", "{\"ticketId\":\"" + name + "\",\"oper"},
-                                     {"videos/" + QByteArray(32, '0'), "unknown"}}) {
-        QFile file(folder.filePath(QString::fromLatin1(path)));
-        ASSERT_TRUE(file.open(QIODevice::Append));
-        file.write(left);
-    }
-    for (const bool again : {false, true}) {
-        StandIn server(options);
-        ASSERT_TRUE(server.start());
-        VimeoClient client(server);
-        if (!again) {
-            EXPECT_EQ(client.verify(ticket), 1'000'077);
-            EXPECT_EQ(client.chunk(ticket, "A", "bytes 0-1999999/2000000"), 400) << "it was larger before";
-            EXPECT_EQ(client.chunk(ticket, bytes.mid(1'000'077), "bytes 1000077-2999999/3000000"), 200);
-            client.method("addTags", {{"video_id", client.commit(ticket)}, {"tags", "a, 日本"}});
-        }
-        ASSERT_EQ(server.videos().size(), 1u);
-        const standin::Video video = server.videos()[0];
-        EXPECT_EQ(video.sha256, sha256Of(bytes));
-        EXPECT_EQ(video.tags, (QStringList{QStringLiteral("a"), QStringLiteral("日本")}));
-        EXPECT_EQ(client.get("/videos/" + std::to_string(video.id)), bytes);
-        EXPECT_TRUE(says(client.get("/api/state"), "1000077-2999999/3000000"));
-    }
-    EXPECT_EQ(QDir(folder.filePath(QStringLiteral("videos"))).entryList(QDir::Files),
-              QStringList(QString::fromLatin1(name)));
 }
