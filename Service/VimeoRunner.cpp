@@ -47,6 +47,7 @@ private:
     void _keepExport();
     std::optional<Verdict> _reasonToBreakOff(const VimeoCheckpoint &checkpoint);
     void _finished(const std::optional<NSError> &error);
+    void _resume();
     void _endpointUnreachable(Verdict verdict);
     void _end(const Verdict &verdict);
     void _endWithOutcome(const RunOutcome &outcome);
@@ -54,6 +55,7 @@ private:
     UploadRun _run;
     std::shared_ptr<VimeoPost> _post;
     VerifyWatch _watch;
+    bool _vimeoHasAnswered = false; // after the endpoint did not
     const QString _temporaryFolder;
 };
 
@@ -84,8 +86,13 @@ void VimeoRun::begin() {
         dispatchGlobal([=] { self->_reached(checkpoint, proceed); });
     };
     _post->setDelegate(weak_from_this());
+    _post->account = account;
+    _resume();
+}
+
+void VimeoRun::_resume() {
     std::optional<NSError> error;
-    if (!_post->resumeUploadToAccount(account, _run.job.video ? *_run.job.video : VimeoCheckpoint(), &error))
+    if (!_post->resumeUploadToAccount(_post->account, _run.job.video ? *_run.job.video : VimeoCheckpoint(), &error))
         dispatchMain([self = shared_from_this(), error] { self->_finished(error); });
 }
 
@@ -142,15 +149,20 @@ void VimeoRun::_finished(const std::optional<NSError> &error) {
     isAtEndpoint &&verdict.waitReason == WaitReason::Network ? _endpointUnreachable(verdict) : _end(verdict);
 }
 
-// The endpoint is a server of its own: that it is out of reach says nothing about Vimeo, nor about other videos.
+// The endpoint is a server of its own: that it is out of reach says nothing about Vimeo, nor about other videos. It is
+// given up where it does not answer just after Vimeo has; only then is it not the network that was away.
 void VimeoRun::_endpointUnreachable(Verdict verdict) {
     verdict.holdsOthers = false;
     if (_run.job.failures < triesOfEndpoint) return _end(verdict);
+    if (_vimeoHasAnswered) {
+        _run.job.video.reset();
+        return _end(FailureClassifier::verdictOnDeadEndpoint(*verdict.error));
+    }
     VimeoPost::getAvailableQuotaForAccount(
         _post->account, [self = shared_from_this(), verdict](qint64, bool, bool, const auto &quotaError) {
             if (quotaError) return self->_end(verdict);
-            self->_run.job.video.reset();
-            self->_end(FailureClassifier::verdictOnDeadEndpoint(*verdict.error));
+            self->_vimeoHasAnswered = true;
+            self->_resume();
         });
 }
 

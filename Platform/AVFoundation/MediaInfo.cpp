@@ -150,8 +150,9 @@ std::optional<MediaInfo> MediaInfo::ofAsset(const AVAsset &asset, std::chrono::m
     if (!output) return std::nullopt;
     const QJsonObject answer = QJsonDocument::fromJson(*output).object();
     MediaInfo info = infoIn(answer);
-    if (const auto objection = objectionTo(info, answer, asset)) {
-        setError(error, objection);
+    auto objection = objectionTo(info, answer, asset);
+    if (objection) {
+        setError(error, std::move(objection));
         return std::nullopt;
     }
     info.fileBytes = asset.file->length();

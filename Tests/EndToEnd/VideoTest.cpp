@@ -279,3 +279,18 @@ TEST_F(Video, AnExportEndsWithAPauseOrARemovalAndIsMadeAnew) {
     ASSERT_TRUE(waitForState("done", 1)) << errorOf(0).toStdString();
     EXPECT_EQ(vimeo.videos().size(), 1u);
 }
+
+TEST_F(Video, ATicketThatLeadsNowhereHoldsNobodyBackAndGivesWayToAnother) {
+    setEnvironment("KORVANE_RETRY_DELAYS", "200");
+    vimeo.on("getTicket")
+        .answer(200, "application/json",
+                R"({"stat":"ok","ticket":{"id":"dead","endpoint":"http://127.0.0.1:1/upload"}})");
+    ASSERT_TRUE(shareVideo(video("first.mp4", variedBytes(300'000))));
+    ASSERT_TRUE(waitForState("waiting", 1));
+    ASSERT_TRUE(shareVideo(video("second.mp4", variedBytes(200'000, 2))));
+    ASSERT_TRUE(waitForState("done", 2)) << errorOf(0).toStdString();
+    ASSERT_EQ(vimeo.videos().size(), 2u);
+    EXPECT_EQ(vimeo.videos()[0].sha256, sha256Of(variedBytes(200'000, 2))) << "the second need not wait for the first";
+    EXPECT_EQ(vimeo.videos()[1].sha256, sha256Of(variedBytes(300'000)));
+    EXPECT_GE(valueOf(0, "attempts").toInt(), 8) << "a ticket is not given up lightly";
+}
