@@ -109,7 +109,9 @@ void UploadQueue::_taken(const QString &messageID, const TakenMessage &taken, co
 void UploadQueue::_schedule() {
     if (!_started || _paused || _stopped || _suspectRuns || !_unrecorded.empty()) return;
     // What may have ended the service before is tried alone, so that its end names the culprit.
-    if (const auto suspect = _store->suspect()) {
+    const auto suspect = _mayHaveSuspects ? _store->suspect() : std::nullopt;
+    _mayHaveSuspects = suspect.has_value();
+    if (suspect) {
         if (_running.empty() && _holds[suspect->service].until <= now()) _start(*suspect);
         return;
     }
@@ -300,6 +302,7 @@ void UploadQueue::_dropSpoolFiles(const UploadJob &job) {
 }
 
 void UploadQueue::_requeue(std::vector<UploadJob> jobs) {
+    _mayHaveSuspects = true;
     for (UploadJob &job : jobs) {
         job.state = UploadState::Queued;
         job.waitReason = WaitReason::None;

@@ -125,6 +125,7 @@ private:
     std::atomic<int> _takeOvers = 0;         // under way
     std::function<void()> _stopped;
     bool _started = false;
+    bool _mayHaveSuspects = true; // only what is queued again can be one
     bool _suspectRuns = false;
     std::atomic<bool> _paused = false;
     mutable std::mutex _runningMutex;
