@@ -1,14 +1,13 @@
-// A JSON array of uploads on standard output.
+// A JSON array on standard output.
 #pragma once
 
 #include "CommandLine/Output.h"
-#include "CommandLine/UploadText.h"
 
 #include <utility>
 
 namespace korvane {
 
-// Writes the start, each upload as it is added, and at the end of its life the end.
+// Writes the start, each element as it is added, and at the end of its life the end.
 class JSONArray {
 public:
     JSONArray() { Output::raw("["); }
@@ -16,9 +15,7 @@ public:
     JSONArray(const JSONArray &) = delete;
     JSONArray &operator=(const JSONArray &) = delete;
 
-    void add(const Upload &upload) {
-        Output::raw((std::exchange(_isEmpty, false) ? "\n" : ",\n") + UploadText::json(upload));
-    }
+    void add(const QByteArray &json) { Output::raw((std::exchange(_isEmpty, false) ? "\n" : ",\n") + json); }
 
 private:
     bool _isEmpty = true;

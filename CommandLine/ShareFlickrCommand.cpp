@@ -1,10 +1,11 @@
 // korvane share flickr: hands photos over to the upload service.
 #include "CommandLine/ShareFlickrCommand.h"
 
+#include "CommandLine/AlbumList.h"
 #include "CommandLine/Arguments.h"
 #include "CommandLine/Output.h"
+#include "CommandLine/SheetUser.h"
 #include "CommandLine/UploadText.h"
-#include "Korvane/FlickrPost.h"
 #include "Korvane/FlickrUploadSession.h"
 
 #include <CLI/CLI.hpp>
@@ -18,18 +19,19 @@ namespace {
 
 constexpr qint64 largestPhoto = 200 * 1024 * 1024; // that Flickr takes
 
-const std::map<std::string, quint32> audiences{{"public", FlickrVisibilityPublic},
-                                               {"friends", FlickrVisibilityFriends},
-                                               {"family", FlickrVisibilityFamily},
-                                               {"only-me", 0}};
+// Rows of the sheet, and of its screen for the audience.
+constexpr size_t audienceItem = 1;
+const std::map<std::string, qint64> audiences{{"public", 0}, {"friends", 1}, {"family", 2}, {"only-me", 3}};
 
 const char *const examples = R"(Examples:
   korvane share flickr sunset.jpg
   korvane share flickr --title "Summer" --audience family --wait *.jpg
-  korvane share flickr --album 72157600001 --without-metadata IMG_1.heic
+  korvane share flickr --album "Summer" --without-metadata IMG_1.heic
 
 JPEG, PNG and GIF files are sent as they are. Pictures of other formats are sent as JPEG. Flickr takes photos of up to
 200 MB. All files are looked at first: if one cannot be used, none is shared.
+
+Audience and album are remembered for the next share, here and in the share sheet; at first they are public and none.
 
 Sharing takes a copy into the upload service, which uploads in the background, also after this command has ended and
 after a restart. --wait stays until the photos are there; Ctrl-C ends the waiting, not the uploads.
@@ -62,12 +64,16 @@ ShareFlickrCommand::ShareFlickrCommand(CLI::App &share) {
     _app = share.add_subcommand("flickr", "Share photos to Flickr");
     _app->add_option("FILE", _files, "The photos, each a picture file")->required()->type_name("");
     _app->add_option("--title", _title, "Title of each photo")->type_name("TEXT")->check(Arguments::problemWithText);
-    _app->add_option("--audience", _audience, "Who sees the photos: public (as usual), friends, family or only-me")
+    _app->add_option("--audience", _audience,
+                     "Who sees the photos: public, friends, family or only-me; as last time if not given")
         ->type_name("WHO")
         ->check(CLI::IsMember(audiences));
-    _app->add_option("--album", _album, "Add the photos to the album with this number (the last part of its address)")
-        ->type_name("NUMBER")
-        ->check(Arguments::problemWithNumber);
+    _app->add_option(
+            "--album", _album,
+            "Add the photos to the album of this name or number (see: korvane albums); as last time if not given")
+        ->type_name("ALBUM")
+        ->check(Arguments::problemWithText);
+    _app->add_flag("--no-album", _noAlbum, "Add the photos to no album")->excludes("--album");
     _app->add_flag("--without-metadata", _withoutMetadata, "Send a copy of each picture without place and camera data");
     _report.addOptions(*_app);
     _app->footer(examples);
@@ -79,20 +85,45 @@ bool ShareFlickrCommand::isChosen() const {
 
 int ShareFlickrCommand::run() {
     raiseFileLimit();
-    const auto attachments = _attachments();
+    auto attachments = _attachments();
     if (!attachments) return ExitUsage;
-    if (!ShareReport::hasAccount(QStringLiteral("flickr"))) return ExitNoAccount;
-    std::vector<std::shared_ptr<FlickrPost>> posts;
-    for (const SLAttachment &attachment : *attachments)
-        posts.push_back(_post(attachment));
-    const auto session = FlickrUploadSession::init();
-    std::optional<NSError> error;
-    if (!session->uploadPosts(posts, &error)) return ShareReport::failed(error);
-    posts.clear(); // lets go of the files
+    FlickrComposeViewController::forgetUnknownAudience();
+    const auto sheet = FlickrComposeViewController::initWithNibName();
+    sheet->setAttachments(std::move(*attachments));
+    SheetUser::opens(*sheet);
+    if (!ShareReport::hasAccount(*sheet, QStringLiteral("flickr"))) return ExitNoAccount;
+    if (const auto status = _fill(*sheet)) return *status;
+    if (const auto status = ShareReport::post(*sheet)) return *status;
+    sheet->setAttachments({}); // lets go of the files
     QByteArrayList files;
     for (const std::string &file : _files)
         files.append(QByteArray::fromStdString(file));
-    return _report.succeeded(files, session->lastMessageID());
+    return _report.succeeded(files, sheet->session()->lastMessageID());
+}
+
+std::optional<int> ShareFlickrCommand::_fill(FlickrComposeViewController &sheet) const {
+    if (_title) SheetUser::types(sheet.textView(), QString::fromStdString(*_title));
+    if (_album || _noAlbum)
+        if (const auto status = _chooseAlbum(sheet)) return status;
+    if (_audience) {
+        SheetUser::chooses(*SheetUser::opensOption(sheet, audienceItem), {audiences.at(*_audience), 0});
+        SheetUser::leavesOption(sheet);
+    }
+    return std::nullopt;
+}
+
+std::optional<int> ShareFlickrCommand::_chooseAlbum(FlickrComposeViewController &sheet) const {
+    std::optional<QString> problem;
+    const auto screen = AlbumList::load(sheet, &problem);
+    if (problem && _album) {
+        Output::problem(*problem + QStringLiteral("\nNothing was shared."));
+        return ExitUploadFailed;
+    }
+    const auto row = _album ? AlbumList::rowOf(*screen, QString::fromStdString(*_album)) : AlbumList::noAlbumRow;
+    if (!row) return ExitUsage;
+    SheetUser::chooses(*screen, {*row, 0});
+    SheetUser::leavesOption(sheet);
+    return std::nullopt;
 }
 
 std::optional<std::vector<SLAttachment>> ShareFlickrCommand::_attachments() const {
@@ -114,18 +145,6 @@ std::optional<std::vector<SLAttachment>> ShareFlickrCommand::_attachments() cons
     if (problems.isEmpty()) return attachments;
     Output::problem(QStringLiteral("Nothing was shared."));
     return std::nullopt;
-}
-
-std::shared_ptr<FlickrPost> ShareFlickrCommand::_post(const SLAttachment &attachment) const {
-    const auto post = FlickrPost::init();
-    if (const auto *url = std::get_if<NSURL>(&attachment.payload))
-        post->assetURL = *url;
-    else
-        post->photoData = std::get<NSData>(attachment.payload);
-    if (_title) post->title = QString::fromStdString(*_title);
-    post->visibility = audiences.at(_audience);
-    post->photoSetID = QByteArray::fromStdString(_album).toLongLong();
-    return post;
 }
 
 } // namespace korvane

@@ -11,7 +11,7 @@
 
 namespace korvane {
 
-class FlickrPost;
+class FlickrComposeViewController;
 
 class ShareFlickrCommand {
 public:
@@ -24,14 +24,17 @@ public:
 private:
     // Null, after naming every file that cannot be shared.
     std::optional<std::vector<SLAttachment>> _attachments() const;
-    std::shared_ptr<FlickrPost> _post(const SLAttachment &attachment) const;
+    // Fills in what was given on the command line; the exit status, after saying why, if it cannot be.
+    std::optional<int> _fill(FlickrComposeViewController &sheet) const;
+    std::optional<int> _chooseAlbum(FlickrComposeViewController &sheet) const;
 
     CLI::App *_app = nullptr;
     ShareReport _report{QStringLiteral("photo")};
     std::vector<std::string> _files;
     std::optional<std::string> _title;
-    std::string _audience = "public";
-    std::string _album;
+    std::optional<std::string> _audience;
+    std::optional<std::string> _album;
+    bool _noAlbum = false;
     bool _withoutMetadata = false;
 };
 

@@ -4,9 +4,11 @@
 #include "CommandLine/Arguments.h"
 #include "CommandLine/JSONArray.h"
 #include "CommandLine/Output.h"
+#include "CommandLine/UploadText.h"
 #include "CommandLine/UploadsWatch.h"
 #include "Platform/Accounts/ACAccountStore.h"
 #include "Platform/Social/RemoteServiceError.h"
+#include "Platform/Social/SLComposeServiceViewController.h"
 
 #include <CLI/CLI.hpp>
 
@@ -19,29 +21,29 @@ void ShareReport::addOptions(CLI::App &command) {
     command.add_flag("--json", _json, "Print the uploads as JSON");
 }
 
-// The service takes the account that was added last; what is shown here is for people.
-bool ShareReport::hasAccount(const QString &service) {
-    const bool isFlickr = service == QLatin1String("flickr");
-    const QString name = isFlickr ? QStringLiteral("Flickr") : QStringLiteral("Vimeo");
+bool ShareReport::hasAccount(const SLComposeServiceViewController &sheet, const QString &service) {
+    if (sheet.settingsAlert()) {
+        Output::problem(QStringLiteral("%1\nAdd one with:\n  korvane accounts add %2 --credential-file FILE")
+                            .arg(sheet.settingsAlert()->message, service));
+        return false;
+    }
     const ACAccountStore store;
     const auto accounts = store.accountsWithAccountType(store.accountTypeWithAccountTypeIdentifier(
-        isFlickr ? ACAccountTypeIdentifierFlickr : ACAccountTypeIdentifierVimeo));
-    if (accounts.empty())
-        Output::problem(QStringLiteral("There is no %1 account. Add one with:\n"
-                                       "  korvane accounts add %2 --credential-file FILE")
-                            .arg(name, service));
+        service == QLatin1String("flickr") ? ACAccountTypeIdentifierFlickr : ACAccountTypeIdentifierVimeo));
     if (accounts.size() > 1)
         Output::note(QStringLiteral("Sharing as %1, the last added of %2 %3 accounts.")
                          .arg(accounts.back()->username())
                          .arg(accounts.size())
-                         .arg(name));
-    return !accounts.empty();
+                         .arg(sheet.title().value_or(QString())));
+    return true;
 }
 
-int ShareReport::failed(const std::optional<NSError> &error) {
-    const NSError reason =
-        error.value_or(NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable,
-                                                     QStringLiteral("The upload service gave no reason.")));
+std::optional<int> ShareReport::post(SLComposeServiceViewController &sheet) {
+    sheet.userTapsPost();
+    if (sheet.extensionContext()->state() == NSExtensionContext::State::Completed) return std::nullopt;
+    const NSError reason = sheet.extensionContext()->error().value_or(
+        NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable,
+                                      QStringLiteral("The upload service gave no reason.")));
     Output::problem(QStringLiteral("Nothing was shared. ") + reason.localizedDescription());
     return Arguments::exitStatusOf(reason);
 }
@@ -59,7 +61,7 @@ int ShareReport::succeeded(const QByteArrayList &files, const QString &messageID
     if (ids && _waits) status = _wait(client, *ids, files, &error);
     if (const auto uploads = ids && !error && _json ? client.get(*ids, &error) : std::nullopt) {
         JSONArray array;
-        std::ranges::for_each(*uploads, [&](const Upload &upload) { array.add(upload); });
+        std::ranges::for_each(*uploads, [&](const Upload &upload) { array.add(UploadText::json(upload)); });
     }
     if (!error) return status;
     Output::problem(QStringLiteral("%1 handed over, but how it goes on cannot be told. ").arg(_counted(files.size())) +

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "CommandLine/UploadsClient.h"
-#include "Platform/Foundation/NSError.h"
 
 #include <QByteArrayList>
 #include <QString>
@@ -15,16 +14,19 @@ class App;
 
 namespace korvane {
 
+class SLComposeServiceViewController;
+
 // The options --wait and --json, and what they ask for. what: "photo" or "video".
 class ShareReport {
 public:
     explicit ShareReport(QString what) : _what(std::move(what)) {}
     void addOptions(CLI::App &command);
 
-    // Says which account of the service is used. False, after saying what to do, if there is none.
-    static bool hasAccount(const QString &service);
-    // Says why nothing was shared; returns the exit status.
-    static int failed(const std::optional<NSError> &error);
+    // Of a sheet that has been opened: says which of several accounts is used. False, after saying what to do, if the
+    // sheet finds none. service: "flickr" or "vimeo".
+    static bool hasAccount(const SLComposeServiceViewController &sheet, const QString &service);
+    // Posts; returns the exit status if nothing was shared, after saying why.
+    static std::optional<int> post(SLComposeServiceViewController &sheet);
     // After the hand-over of these files; blocks with --wait. Returns the exit status.
     int succeeded(const QByteArrayList &files, const QString &messageID) const;
 

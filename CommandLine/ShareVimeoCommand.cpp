@@ -3,9 +3,9 @@
 
 #include "CommandLine/Arguments.h"
 #include "CommandLine/Output.h"
-#include "Korvane/VimeoPost.h"
+#include "CommandLine/SheetUser.h"
+#include "Korvane/VimeoComposeViewController.h"
 #include "Korvane/VimeoUploadSession.h"
-#include "Platform/Social/SLAttachment.h"
 
 #include <CLI/CLI.hpp>
 
@@ -16,9 +16,11 @@ namespace {
 
 constexpr size_t longestTitle = 128; // bytes
 
-const std::map<std::string, qint64> sizes{
-    {"small", VimeoVideoSizeSmall}, {"medium", VimeoVideoSizeMedium}, {"large", VimeoVideoSizeLarge}};
-const std::map<std::string, qint64> privacies{{"public", VimeoPrivacyPublic}, {"private", VimeoPrivacyPrivate}};
+// Where things stand in the sheet and in its screen for the details.
+constexpr size_t detailsItem = 0;
+enum Section : qint64 { descriptionSection = 0, tagSection = 1, sizeSection = 2, privacySection = 3 };
+const std::map<std::string, qint64> sizes{{"small", 0}, {"medium", 1}, {"large", 2}};
+const std::map<std::string, qint64> privacies{{"public", 0}, {"private", 1}};
 
 const char *const examples = R"(Examples:
   korvane share vimeo --title "Summer" summer.mp4
@@ -27,6 +29,8 @@ const char *const examples = R"(Examples:
 A video in the photo library (the Videos and Pictures folders) is made into an MP4 file of the size that --size asks
 for, never larger than it is. A video elsewhere is sent as it is, from where it is: leave the file alone until it is
 uploaded.
+
+Size and privacy are remembered for the next share, here and in the share sheet; at first they are large and public.
 
 Sharing takes a moment; the upload service uploads in the background, also after this command has ended and after a
 restart, and goes on where it was. --wait stays until the video is there; Ctrl-C ends the waiting, not the upload.
@@ -60,10 +64,10 @@ ShareVimeoCommand::ShareVimeoCommand(CLI::App &share) {
         ->take_all()
         ->allow_extra_args(false)
         ->check(Arguments::problemWithText);
-    _app->add_option("--size", _size, "small, medium or large (as usual)")
+    _app->add_option("--size", _size, "small, medium or large; as last time if not given")
         ->type_name("SIZE")
         ->check(CLI::IsMember(sizes));
-    _app->add_option("--privacy", _privacy, "Who sees the video: public (as usual) or private")
+    _app->add_option("--privacy", _privacy, "Who sees the video: public or private; as last time if not given")
         ->type_name("WHO")
         ->check(CLI::IsMember(privacies));
     _report.addOptions(*_app);
@@ -82,21 +86,36 @@ int ShareVimeoCommand::run() {
         Output::problem(QStringLiteral("Nothing was shared."));
         return ExitUsage;
     }
-    if (!ShareReport::hasAccount(QStringLiteral("vimeo"))) return ExitNoAccount;
-    const auto session = VimeoUploadSession::init();
-    if (!session->uploadPost(_post(std::get<NSURL>(attachment->payload)), &error)) return ShareReport::failed(error);
-    return _report.succeeded({QByteArray::fromStdString(_file)}, session->lastMessageID());
+    const auto sheet = VimeoComposeViewController::initWithNibName();
+    sheet->setAttachments({*attachment});
+    SheetUser::opens(*sheet);
+    if (!ShareReport::hasAccount(*sheet, QStringLiteral("vimeo"))) return ExitNoAccount;
+    SheetUser::types(sheet->textView(), QString::fromStdString(_title));
+    if (!sheet->validateText(sheet->textView()->text())) {
+        Output::problem(QStringLiteral("The title cannot be used. Nothing was shared."));
+        return ExitUsage;
+    }
+    _fillDetails(*sheet);
+    if (const auto status = ShareReport::post(*sheet)) return *status;
+    return _report.succeeded({QByteArray::fromStdString(_file)}, sheet->session()->lastMessageID());
 }
 
-std::shared_ptr<VimeoPost> ShareVimeoCommand::_post(const NSURL &url) const {
-    const auto post = VimeoPost::init();
-    post->assetURL = url;
-    post->title = QString::fromStdString(_title);
-    if (_description) post->postDescription = QString::fromStdString(*_description);
-    if (!_tags.empty()) post->tags = Arguments::texts(_tags);
-    post->videoSize = sizes.at(_size);
-    post->privacySettings = privacies.at(_privacy);
-    return post;
+// The details are always looked at, so that the remembered privacy counts also where nothing is said about it.
+void ShareVimeoCommand::_fillDetails(VimeoComposeViewController &sheet) const {
+    const auto details = SheetUser::opensOption(sheet, detailsItem);
+    if (_description) {
+        const auto cell = SheetUser::looksAt(*details, {0, descriptionSection});
+        SheetUser::types(std::dynamic_pointer_cast<UITextView>(cell->subviews().back()),
+                         QString::fromStdString(*_description));
+    }
+    for (const QString &tag : Arguments::texts(_tags)) {
+        const qint64 newTagRow = details->tableView()->numberOfRowsInSection(tagSection) - 1;
+        const auto cell = SheetUser::looksAt(*details, {newTagRow, tagSection});
+        cell->editableTextField()->userReplacesCharacters({0, 0}, tag);
+    }
+    if (_size) SheetUser::chooses(*details, {sizes.at(*_size), sizeSection});
+    if (_privacy) SheetUser::chooses(*details, {privacies.at(*_privacy), privacySection});
+    SheetUser::leavesOption(sheet);
 }
 
 } // namespace korvane

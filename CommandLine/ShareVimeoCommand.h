@@ -2,16 +2,14 @@
 #pragma once
 
 #include "CommandLine/ShareReport.h"
-#include "Platform/Foundation/NSURL.h"
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace korvane {
 
-class VimeoPost;
+class VimeoComposeViewController;
 
 class ShareVimeoCommand {
 public:
@@ -22,7 +20,7 @@ public:
     int run();
 
 private:
-    std::shared_ptr<VimeoPost> _post(const NSURL &url) const;
+    void _fillDetails(VimeoComposeViewController &sheet) const;
 
     CLI::App *_app = nullptr;
     ShareReport _report{QStringLiteral("video")};
@@ -30,8 +28,8 @@ private:
     std::string _title;
     std::optional<std::string> _description;
     std::vector<std::string> _tags;
-    std::string _size = "large";
-    std::string _privacy = "public";
+    std::optional<std::string> _size;
+    std::optional<std::string> _privacy;
 };
 
 } // namespace korvane

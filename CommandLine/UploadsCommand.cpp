@@ -87,7 +87,7 @@ int UploadsCommand::_list() {
     bool complete;
     if (_json) {
         JSONArray array;
-        complete = _client.forEach([&](const Upload &upload) { array.add(upload); }, &error);
+        complete = _client.forEach([&](const Upload &upload) { array.add(UploadText::json(upload)); }, &error);
     } else {
         const int columns = Output::isTerminal(stdout) ? Output::terminalSize(stdout).columns : 0;
         bool isFirst = true;
@@ -205,7 +205,7 @@ int UploadsCommand::_print(const std::vector<Upload> &uploads, const QString &se
     }
     JSONArray array;
     for (const Upload &upload : uploads)
-        array.add(upload);
+        array.add(UploadText::json(upload));
     return ExitDone;
 }
 

@@ -1,5 +1,6 @@
 // korvane: share photos and videos from the command line.
 #include "CommandLine/AccountsCommand.h"
+#include "CommandLine/AlbumsCommand.h"
 #include "CommandLine/ExitStatus.h"
 #include "CommandLine/Output.h"
 #include "CommandLine/ShareCommand.h"
@@ -70,6 +71,7 @@ int main(int argc, char **argv) {
     program.footer(footer);
     program.failure_message(failureMessage);
     korvane::ShareCommand share(program);
+    korvane::AlbumsCommand albums(program);
     korvane::UploadsCommand uploads(program);
     korvane::AccountsCommand accounts(program);
     korvane::StandInCommand standIn(program);
@@ -80,6 +82,7 @@ int main(int argc, char **argv) {
     }
     int status = korvane::ExitDone;
     if (share.isChosen()) status = share.run();
+    if (albums.isChosen()) status = albums.run();
     if (uploads.isChosen()) status = uploads.run();
     if (accounts.isChosen()) status = accounts.run();
     if (standIn.isChosen()) status = standIn.run();

@@ -22,5 +22,7 @@ install(TARGETS korvane EXPORT KorvaneTargets LIBRARY DESTINATION ${CMAKE_INSTAL
 install(EXPORT KorvaneTargets NAMESPACE Korvane:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Korvane)
 install(FILES cmake/KorvaneConfig.cmake "${CMAKE_BINARY_DIR}/KorvaneConfigVersion.cmake"
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Korvane)
+file(GLOB optionScreens CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/*.h")
+install(FILES ${optionScreens} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/korvane)
 install(DIRECTORY Korvane Platform DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/korvane
   FILES_MATCHING PATTERN "*.h" REGEX "/(${privateHeaders})\\.h$" EXCLUDE)

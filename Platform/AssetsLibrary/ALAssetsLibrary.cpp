@@ -20,7 +20,7 @@
 namespace korvane {
 namespace {
 
-constexpr std::chrono::seconds longestProbe(10); // somebody waits in front of a window
+constexpr std::chrono::seconds longestProbe(20);
 
 QString nameOf(const QByteArray &path) {
     return QFile::decodeName(path.mid(path.lastIndexOf('/') + 1));
@@ -82,18 +82,16 @@ AVAsset videoAt(const NSURL &url, const std::optional<QByteArray> &fallbackFileP
     return other.file ? other : asset;
 }
 
-// Three sizes are asked of one video in a row, so what was found last is kept.
-std::optional<MediaInfo> infoOf(const AVAsset &asset) {
-    static std::mutex mutex;
-    static std::optional<FileIdentity> lastFile;
-    static std::optional<MediaInfo> lastInfo;
-    const auto file = FileIdentity::ofDescriptor(asset.file->file()->get());
-    const std::lock_guard lock(mutex);
-    if (!file || file != lastFile || !lastInfo) {
-        lastInfo = MediaInfo::ofAsset(asset, longestProbe, {}, nullptr);
-        lastFile = file;
-    }
-    return lastInfo;
+// The video that was looked into last: a sheet has one, and asks about it several times.
+struct LastVideo {
+    std::mutex mutex;
+    std::optional<FileIdentity> file;
+    std::optional<MediaInfo> info;
+};
+
+LastVideo &lastVideo() {
+    static LastVideo video;
+    return video;
 }
 
 } // namespace
@@ -121,13 +119,31 @@ ALAssetsLibrary::_exportSessionForVideoURL(const NSURL &url, const std::optional
     return AVAssetExportSession::exportSessionWithAsset(videoAt(url, fallbackFilePath), exportPreset);
 }
 
+bool ALAssetsLibrary::_probeVideoURL(const NSURL &url, const std::optional<QByteArray> &fallbackFilePath,
+                                     std::optional<NSError> *error) {
+    const AVAsset asset = videoAt(url, fallbackFilePath);
+    if (!asset.file) {
+        setError(error, asset.error);
+        return false;
+    }
+    const auto info = MediaInfo::ofAsset(asset, longestProbe, {}, error);
+    LastVideo &last = lastVideo();
+    const std::lock_guard lock(last.mutex);
+    last.file = FileIdentity::ofDescriptor(asset.file->file()->get());
+    last.info = info;
+    return info.has_value();
+}
+
 qint64 ALAssetsLibrary::_estimatedOutputFileLengthForVideoURL(const NSURL &url,
                                                               const std::optional<QByteArray> &fallbackFilePath,
                                                               const std::optional<QString> &exportPreset,
                                                               const std::optional<QVariantMap> &) {
     const AVAsset asset = videoAt(url, fallbackFilePath);
-    const auto info = asset.file ? infoOf(asset) : std::nullopt;
-    return info ? ExportPlan(*info, exportPreset).estimatedLength() : 0;
+    if (!asset.file) return 0;
+    LastVideo &last = lastVideo();
+    const std::lock_guard lock(last.mutex);
+    const bool isKnown = last.info && last.file == FileIdentity::ofDescriptor(asset.file->file()->get());
+    return isKnown ? ExportPlan(*last.info, exportPreset).estimatedLength() : 0;
 }
 
 QVariantMap ALAssetsLibrary::photoRoots() {

@@ -38,8 +38,12 @@ public:
     static std::shared_ptr<AVAssetExportSession>
     _exportSessionForVideoURL(const NSURL &url, const std::optional<QByteArray> &fallbackFilePath,
                               const std::optional<QString> &exportPreset);
-    // Bytes of the MP4 file that such a session would make, as far as can be told without making it; 0 if unknown.
-    // exportProperties are not looked at. Blocks for about a tenth of a second the first time for a file.
+    // Looks into the video, for the estimates below; blocks for about a tenth of a second, and for 20 seconds at most.
+    // False, with the error placed, for what is no video that could be played.
+    static bool _probeVideoURL(const NSURL &url, const std::optional<QByteArray> &fallbackFilePath,
+                               std::optional<NSError> *error = nullptr);
+    // Bytes of the MP4 file that such a session would make, as far as can be told without making it; 0 if unknown, and
+    // for a file that was not the last one looked into. exportProperties are not looked at. Does not block.
     static qint64 _estimatedOutputFileLengthForVideoURL(const NSURL &url,
                                                         const std::optional<QByteArray> &fallbackFilePath,
                                                         const std::optional<QString> &exportPreset,

@@ -16,7 +16,7 @@
 
 namespace korvane {
 
-// Receives finished messages instead of standard error; an empty function restores it. Thread: any. For tests.
+// Receives finished messages instead of standard error; an empty function restores it. Thread: any.
 void setLogSink(std::function<void(const QString &message)> sink);
 
 namespace logging {

@@ -12,6 +12,10 @@ namespace korvane {
 // counts after the next synchronization.
 QVariant CFPreferencesCopyAppValue(const QString &key, const QString &applicationID);
 
+// The value as an integer. isValid: whether the key is there with a value that is a number, a boolean or the text of an
+// integer; else 0 is returned.
+qint64 CFPreferencesGetAppIntegerValue(const QString &key, const QString &applicationID, bool *isValid = nullptr);
+
 // Sets a value for this process; an invalid QVariant removes the key. Others see it after the next synchronization.
 void CFPreferencesSetAppValue(const QString &key, const QVariant &value, const QString &applicationID);
 

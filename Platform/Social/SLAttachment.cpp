@@ -1,7 +1,6 @@
 // What the person attached to a share.
 #include "Platform/Social/SLAttachment.h"
 
-#include "Platform/AVFoundation/MediaInfo.h"
 #include "Platform/AssetsLibrary/ALAssetsLibrary.h"
 #include "Platform/ImageIO/CGImageSource.h"
 #include "Platform/ImageIO/PictureProgram.h"
@@ -17,7 +16,6 @@ const QString SLAttachmentErrorDomain = QStringLiteral("SLAttachmentErrorDomain"
 namespace {
 
 constexpr qint64 typeProbe = 4096; // bytes that tell what a file holds
-constexpr std::chrono::seconds probeLimit(20);
 
 // A file that is a picture by its contents.
 struct PhotoFile {
@@ -89,16 +87,14 @@ std::optional<SLAttachment> SLAttachment::videoAttachment(const QByteArray &path
         reason = unusable(path, QStringLiteral("the file is empty"));
     else if (UTTypeConformsTo(typeIdentifierForData(data->subdata(0, typeProbe)), kUTTypeImage))
         reason = unusable(path, QStringLiteral("the file is a picture; share it to Flickr"));
-    else
-        MediaInfo::ofAsset({QString::fromUtf8(path), data, std::nullopt}, probeLimit, {}, &reason);
+    const auto asset = ALAssetsLibrary::assetURLForFile(path);
+    const NSURL url = asset.value_or(absoluteURL(path));
+    if (!reason) ALAssetsLibrary::_probeVideoURL(url, path, &reason);
     if (reason) {
         setError(error, reason);
         return std::nullopt;
     }
-    if (const auto asset = ALAssetsLibrary::assetURLForFile(path))
-        return SLAttachment{SLAttachmentTypeVideo, *asset, std::nullopt};
-    const NSURL url = absoluteURL(path);
-    return SLAttachment{SLAttachmentTypeVideo, url, url};
+    return SLAttachment{SLAttachmentTypeVideo, url, asset ? std::nullopt : std::optional(url)};
 }
 
 std::optional<NSError> SLAttachment::photoProblem(const QByteArray &path) {

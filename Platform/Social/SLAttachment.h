@@ -24,7 +24,7 @@ enum SLAttachmentType : qint64 {
 
 struct SLAttachment {
     qint64 type = SLAttachmentTypeData;
-    std::variant<NSData, NSURL> payload;
+    std::variant<std::monostate, NSData, NSURL> payload;
     std::optional<NSURL> payloadSourceFileURL; // the file whose own bytes are the payload
 
     // The photo in a file, given in the file system's own bytes. JPEG, PNG and GIF are their own bytes, left in their
@@ -40,7 +40,7 @@ struct SLAttachment {
 
     // The video in a file: its URL in the photo library if it is there, else the file's. Its streams are looked at,
     // which blocks for about a tenth of a second. Null, with an error placed that names the file, for what is no video
-    // that could be played.
+    // that could be played. The sizes of its exports are known after that (see ALAssetsLibrary).
     static std::optional<SLAttachment> videoAttachment(const QByteArray &path, std::optional<NSError> *error = nullptr);
 };
 

@@ -46,6 +46,7 @@ TEST_F(VideoExport, MakesAnMP4FileOfThePresetsSizeFromAnySource) {
         const QByteArray bytes = home.contents("made.mp4");
         EXPECT_EQ(bytes.mid(4, 4), "ftyp");
         EXPECT_LT(bytes.indexOf("moov"), bytes.indexOf("mdat")) << "the index comes first";
+        ASSERT_TRUE(ALAssetsLibrary::_probeVideoURL(url, {}));
         const auto estimate = ALAssetsLibrary::_estimatedOutputFileLengthForVideoURL(url, {}, preset, {});
         EXPECT_NEAR(double(estimate), double(bytes.size()), 0.25 * double(bytes.size()));
     }
@@ -133,10 +134,14 @@ TEST_F(VideoExport, FindsVideosOfTheLibraryAndTheFallback) {
         return ALAssetsLibrary::_estimatedOutputFileLengthForVideoURL(url, fallback, low, std::nullopt);
     };
     ASSERT_TRUE(asset);
+    EXPECT_EQ(estimate(*asset, {}), 0) << "it has not been looked into";
+    ASSERT_TRUE(ALAssetsLibrary::_probeVideoURL(nowhere, path));
     EXPECT_GT(estimate(*asset, {}), 10'000);
     EXPECT_EQ(estimate(nowhere, path), estimate(*asset, {}));
     EXPECT_EQ(estimate(nowhere, {}), 0);
-    EXPECT_EQ(estimate(NSURL::fileURLWithPath(home.file("diary", "Dear diary")), {}), 0);
+    const NSURL diary = NSURL::fileURLWithPath(home.file("diary", "Dear diary"));
+    EXPECT_FALSE(ALAssetsLibrary::_probeVideoURL(diary, {}));
+    EXPECT_EQ(estimate(diary, {}), 0);
     for (const auto &session : {sessionFor(nowhere, highest, path), sessionFor(*asset, highest)}) {
         EXPECT_EQ(runToEnd(session), std::nullopt);
         EXPECT_EQ(checksumOfVideo(output), checksumOfVideo(path));

@@ -56,7 +56,7 @@ TEST_F(KorvaneProgram, BadUsageIsStatusTwoAndSaysWhat) {
         {{"share", "vimeo", "--title", QByteArray(129, 'x'), photo}, "129 bytes"},
         {{"share", "vimeo", "--title", "a", photo}, "picture"},
         {{"share", "flickr", photo, "--audience", "everybody"}, "everybody"},
-        {{"share", "flickr", photo, "--album", "Summer"}, "not a number"},
+        {{"share", "flickr", photo, "--album", "Summer", "--no-album"}, "no-album"},
         {{"uploads", "retry"}, "ID"},
         {{"uploads", "remove", "all"}, "not a number"},
         {{"accounts", "add", "flickr"}, "\"consumerKey\""},
@@ -145,4 +145,32 @@ TEST_F(KorvaneProgramWithService, SharesWaitsAndTellsWhatBecameOfEachPhoto) {
     EXPECT_EQ(uploads[1][QStringLiteral("state")].toString(), QStringLiteral("failed"));
     EXPECT_EQ(uploads[0][QStringLiteral("title")].toString(), QStringLiteral("Sommer 夏"));
     EXPECT_EQ(flickr.server.photos().at(0).sha256, sha256Of(jpegOfSize(2000)));
+}
+
+TEST_F(KorvaneProgramWithService, RemembersChoicesForTheNextProcessAndNamesTheAlbums) {
+    const QByteArray photo = home.file("a.jpg", jpegOfSize(2000));
+    ASSERT_EQ(run({"share", "flickr", photo, "--audience", "family", "--album", "Family & friends", "--wait"}).status,
+              0);
+    ASSERT_EQ(run({"share", "flickr", photo, "--wait"}).status, 0);
+    const auto album = flickr.server.albums().at(1);
+    EXPECT_EQ(album.photos.size(), 2u);
+    const auto choices = flickr.server.photos().at(1).parameters;
+    EXPECT_EQ(standin::valueOf(choices, "is_family"), "1");
+    EXPECT_EQ(standin::valueOf(choices, "is_public"), "0");
+
+    const Ending unknown = run({"share", "flickr", photo, "--album", "No such"});
+    EXPECT_EQ(unknown.status, 2);
+    for (const char *said : {"no album “No such”", "Holidays", "Family & friends"})
+        EXPECT_TRUE(says(unknown.errors, said)) << unknown.errors.constData();
+    const auto listed = QJsonDocument::fromJson(run({"albums", "--json"}).output);
+    EXPECT_EQ(listed[1][QStringLiteral("id")].toString(), QString::number(album.id));
+    EXPECT_EQ(run({"share", "flickr", photo, "--album", QByteArray::number(album.id), "--wait"}).status, 0);
+    EXPECT_EQ(flickr.server.albums().at(1).photos.size(), 3u);
+    EXPECT_EQ(run({"share", "flickr", photo, "--no-album", "--audience", "only-me", "--wait"}).status, 0);
+    EXPECT_EQ(flickr.server.albums().at(1).photos.size(), 3u);
+    flickr.server.on("getList").answer(200, "text/xml",
+                                       "<rsp stat=\"fail\"><err code=\"98\" msg=\"Invalid auth\"/></rsp>");
+    const Ending refused = run({"albums"});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_TRUE(says(refused.errors, "Invalid auth")) << refused.errors.constData();
 }

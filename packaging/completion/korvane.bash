@@ -16,16 +16,17 @@ _korvane() {
         [[ $word == -* ]] || plain+=("$word")
     done
     case "${plain[*]:0:3}" in
-    '') words='share uploads accounts standin' options='--help --version' ;;
+    '') words='share albums uploads accounts standin' options='--help --version' ;;
     share) words='flickr vimeo' ;;
     'share flickr'*)
         files='file'
-        options='--title --audience --album --without-metadata --wait --json --help'
+        options='--title --audience --album --no-album --without-metadata --wait --json --help'
         ;;
     'share vimeo'*)
         files='file'
         options='--title --description --tag --size --privacy --wait --json --help'
         ;;
+    albums*) options='--json --help' ;;
     uploads) words='list watch retry remove clear pause resume' options='--json --help' ;;
     'uploads retry'*) words="all $(_korvane_ids uploads)" options='--json --help' ;;
     'uploads remove'*) words=$(_korvane_ids uploads) options='--json --help' ;;

@@ -23,6 +23,7 @@ complete -c korvane -f
 complete -c korvane -s h -l help -d 'Show help'
 complete -c korvane -n __korvane_just_after -l version -d 'Show the version'
 complete -c korvane -n __korvane_just_after -a share -d 'Share photos or a video'
+complete -c korvane -n __korvane_just_after -a albums -d 'List the albums on Flickr'
 complete -c korvane -n __korvane_just_after -a uploads -d 'Show and steer the uploads'
 complete -c korvane -n __korvane_just_after -a accounts -d 'Show, add and remove accounts'
 complete -c korvane -n __korvane_just_after -a standin -d 'Run local stand-ins of the web services'
@@ -35,7 +36,8 @@ set -l flickr '__korvane_after share flickr'
 complete -c korvane -n $flickr -F
 complete -c korvane -n $flickr -l title -x -d 'Title of each photo'
 complete -c korvane -n $flickr -l audience -x -a 'public friends family only-me' -d 'Who sees the photos'
-complete -c korvane -n $flickr -l album -x -d 'Number of an album'
+complete -c korvane -n $flickr -l album -x -a '(korvane albums 2>/dev/null | string replace -rf "^([0-9]+) +(.*)" \'$2\t$1\')' -d 'Name or number of an album'
+complete -c korvane -n $flickr -l no-album -d 'Add to no album'
 complete -c korvane -n $flickr -l without-metadata -d 'Without place and camera data'
 set -l vimeo '__korvane_after share vimeo'
 complete -c korvane -n $vimeo -F
@@ -46,6 +48,7 @@ complete -c korvane -n $vimeo -l size -x -a 'small medium large' -d 'What a libr
 complete -c korvane -n $vimeo -l privacy -x -a 'public private' -d 'Who sees the video'
 
 complete -c korvane -n '__korvane_after uploads' -l json -d 'Print JSON'
+complete -c korvane -n '__korvane_after albums' -l json -d 'Print JSON'
 complete -c korvane -n '__korvane_just_after uploads' -a list -d 'All uploads'
 complete -c korvane -n '__korvane_just_after uploads' -a watch -d 'Follow the uploads'
 complete -c korvane -n '__korvane_just_after uploads' -a retry -d 'Try uploads again'

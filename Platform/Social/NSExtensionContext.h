@@ -1,0 +1,38 @@
+// The request that a share sheet answers.
+#pragma once
+
+#include "Platform/Foundation/NSError.h"
+
+#include <functional>
+#include <optional>
+
+namespace korvane {
+
+// Thread: main.
+class NSExtensionContext {
+public:
+    enum class State { Open, Completed, Cancelled };
+
+    State state() const { return _state; }
+    const std::optional<NSError> &error() const { return _error; } // why it was cancelled, if anybody knows
+
+    // The first of these ends the request; what comes later changes nothing.
+    void completeRequest() { _end(State::Completed, std::nullopt); }
+    void cancelRequestWithError(const std::optional<NSError> &error) { _end(State::Cancelled, error); }
+
+    // Hears the end of the request, once.
+    std::function<void()> ended;
+
+private:
+    void _end(State state, const std::optional<NSError> &error) {
+        if (_state != State::Open) return;
+        _state = state;
+        _error = error;
+        if (ended) ended();
+    }
+
+    State _state = State::Open;
+    std::optional<NSError> _error;
+};
+
+} // namespace korvane

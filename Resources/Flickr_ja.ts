@@ -1,0 +1,51 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>Flickr</name>
+    <message>
+        <source>FLICKR</source>
+        <translation>Flickr</translation>
+    </message>
+    <message>
+        <source>NO_SET</source>
+        <translation>アルバムなし</translation>
+    </message>
+    <message>
+        <source>PHOTOSET</source>
+        <translation>アルバム</translation>
+    </message>
+    <message>
+        <source>CHOOSE_PHOTO_SET</source>
+        <translation>アルバムを選択</translation>
+    </message>
+    <message>
+        <source>AUDIENCE</source>
+        <translation>公開範囲</translation>
+    </message>
+    <message>
+        <source>PUBLIC</source>
+        <translation>全員</translation>
+    </message>
+    <message>
+        <source>FRIENDS</source>
+        <translation>友達</translation>
+    </message>
+    <message>
+        <source>FAMILY</source>
+        <translation>家族</translation>
+    </message>
+    <message>
+        <source>ONLY_ME</source>
+        <translation>自分のみ</translation>
+    </message>
+    <message>
+        <source>NO_FLICKR_ACCOUNT_TITLE</source>
+        <translation>Flickrアカウントがありません</translation>
+    </message>
+    <message>
+        <source>NO_FLICKR_ACCOUNT_MESSAGE</source>
+        <translation>このデバイスにはFlickrアカウントがまだありません。設定で追加してから、もう一度共有してください。</translation>
+    </message>
+</context>
+</TS>
