@@ -37,7 +37,8 @@ void prepare(ServiceHarness &harness, int uploads) {
 double secondsIn(ServiceHarness &harness, const std::function<void()> &work) {
     harness.home.setEnvironment("DBUS_SESSION_BUS_ADDRESS", harness.busAddress.toLocal8Bit());
     harness.home.setEnvironment("XDG_STATE_HOME", QFile::encodeName(harness.home.path(QStringLiteral("state"))));
-    harness.home.setEnvironment("KORVANE_FLICKR_URL", harness.flickr.server.url().toLocal8Bit());
+    for (const char *name : {"KORVANE_FLICKR_URL", "KORVANE_VIMEO_URL"})
+        harness.home.setEnvironment(name, harness.flickr.server.url().toLocal8Bit());
     harness.home.setEnvironment("KORVANE_PHOTO_LIBRARY",
                                 QFile::encodeName(harness.home.path(QStringLiteral("library"))));
     return secondsOf(work);
