@@ -17,17 +17,19 @@ public:
     const std::optional<NSError> &error() const { return _error; } // why it was cancelled, if anybody knows
 
     // The first of these ends the request; what comes later changes nothing.
-    void completeRequest() { _end(State::Completed, std::nullopt); }
-    void cancelRequestWithError(const std::optional<NSError> &error) { _end(State::Cancelled, error); }
+    void completeRequest() { _end(State::Completed); }
+    void cancelRequestWithError(const std::optional<NSError> &error) {
+        if (_state == State::Open) _error = error;
+        _end(State::Cancelled);
+    }
 
     // Hears the end of the request, once.
     std::function<void()> ended;
 
 private:
-    void _end(State state, const std::optional<NSError> &error) {
+    void _end(State state) {
         if (_state != State::Open) return;
         _state = state;
-        _error = error;
         if (ended) ended();
     }
 
