@@ -30,19 +30,19 @@ std::optional<QString> problemIn(const UploadContext::Snapshot &request) {
                       .arg(answer->errorCode);
 }
 
-QString lineOf(const FlickrPhotoSet &set) {
-    return QStringLiteral("  %1  %2").arg(set.identifier).arg(set.title.value_or(QString()));
-}
-
 void nameAlbums(const std::vector<FlickrPhotoSet> &sets) {
     if (sets.size() <= 1) return Output::problem(QStringLiteral("This account has no albums."));
     QStringList lines{QStringLiteral("The albums are:")};
     for (const FlickrPhotoSet &set : sets)
-        if (set.identifier != 0) lines.append(lineOf(set));
+        if (set.identifier != 0) lines.append(QStringLiteral("  ") + AlbumList::lineOf(set));
     Output::problem(lines.join(u'\n'));
 }
 
 } // namespace
+
+QString AlbumList::lineOf(const FlickrPhotoSet &album) {
+    return QStringLiteral("%1  %2").arg(album.identifier).arg(album.title.value_or(QString()));
+}
 
 std::shared_ptr<FlickrPhotoSetController> AlbumList::load(FlickrComposeViewController &sheet,
                                                           std::optional<QString> *problem) {

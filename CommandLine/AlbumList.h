@@ -18,6 +18,9 @@ constexpr qint64 noAlbumRow = 0;
 // is none, or more than one of that title.
 std::optional<qint64> rowOf(const FlickrPhotoSetController &screen, const QString &nameOrNumber);
 
+// The album's number and title, for people.
+QString lineOf(const FlickrPhotoSet &album);
+
 } // namespace AlbumList
 
 } // namespace korvane

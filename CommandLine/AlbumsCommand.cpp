@@ -27,7 +27,7 @@ Exit status: 0 all well, 1 the albums cannot be loaded, 2 bad usage, 3 no accoun
 
 void printLines(std::span<const FlickrPhotoSet> albums) {
     for (const FlickrPhotoSet &album : albums)
-        Output::line(QStringLiteral("%1  %2").arg(album.identifier).arg(album.title.value_or(QString())));
+        Output::line(AlbumList::lineOf(album));
 }
 
 void printJSON(std::span<const FlickrPhotoSet> albums) {
