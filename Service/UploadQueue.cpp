@@ -193,7 +193,7 @@ bool UploadQueue::_reached(const UploadJob &reached, bool durably) {
     if (reached.failures == 0) _holds[reached.service].failures = 0;
     // What was spared during its commit can be stopped where Vimeo has refused it.
     if (found->second.stopReason != StopReason::None && mayBeBrokenOff(reached)) found->second.context->cancel();
-    return _store->update(reached, durably);
+    return _store->updateReached(reached, durably);
 }
 
 void UploadQueue::_ended(const Verdict &verdict, const UploadJob &reached) {

@@ -36,20 +36,37 @@ const QStringList UploadRow::columns{
     QStringLiteral("video"),         QStringLiteral("error_domain"), QStringLiteral("error_code"),
     QStringLiteral("error_text")};
 
+QString UploadRow::textOf(const QString &text) {
+    return text.isNull() ? QStringLiteral("") : text;
+}
+
+QVariant UploadRow::bytesOf(const std::optional<VimeoCheckpoint> &video) {
+    return video ? QVariant(RecordCodec::encode(video->dictionary(), nullptr)) : QVariant();
+}
+
 QVariantList UploadRow::valuesOfJob(const UploadJob &job) {
-    QVariantList values{job.service,      int(job.state),  int(job.waitReason), job.title,
-                        job.accountID,    job.accountName, job.spoolFile,       identityText(job.source),
-                        job.photoID,      job.bytesTotal,  job.attempts,        job.failures,
-                        job.failingSince, job.deaths,      job.createdAt,       job.finishedAt,
-                        job.nextTryAt,    job.exportFile};
-    // The columns of texts take no NULL, which is how a null text would be bound.
-    for (QVariant &value : values)
-        if (value.typeId() == QMetaType::QString && value.toString().isNull()) value = QStringLiteral("");
-    values.append(job.video ? QVariant(RecordCodec::encode(job.video->dictionary(), nullptr)) : QVariant());
-    values.append(job.error ? QVariant(job.error->domain()) : QVariant());
-    values.append(job.error ? QVariant(job.error->code()) : QVariant());
-    values.append(job.error ? QVariant(job.error->localizedDescription()) : QVariant());
-    return values;
+    return {textOf(job.service),
+            int(job.state),
+            int(job.waitReason),
+            textOf(job.title),
+            textOf(job.accountID),
+            textOf(job.accountName),
+            textOf(job.spoolFile),
+            textOf(identityText(job.source)),
+            job.photoID,
+            job.bytesTotal,
+            job.attempts,
+            job.failures,
+            job.failingSince,
+            job.deaths,
+            job.createdAt,
+            job.finishedAt,
+            job.nextTryAt,
+            textOf(job.exportFile),
+            bytesOf(job.video),
+            job.error ? QVariant(job.error->domain()) : QVariant(),
+            job.error ? QVariant(job.error->code()) : QVariant(),
+            job.error ? QVariant(job.error->localizedDescription()) : QVariant()};
 }
 
 UploadJob UploadRow::jobOfRow(const QSqlQuery &row) {

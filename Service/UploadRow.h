@@ -15,6 +15,9 @@ extern const QStringList columns;
 
 // In the order of the columns.
 QVariantList valuesOfJob(const UploadJob &job);
+// The columns of texts take no NULL, which is how a null text would be bound.
+QString textOf(const QString &text);
+QVariant bytesOf(const std::optional<VimeoCheckpoint> &video);
 // row: "id" and then the columns.
 UploadJob jobOfRow(const QSqlQuery &row);
 

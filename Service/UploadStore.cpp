@@ -170,6 +170,15 @@ bool UploadStore::update(const UploadJob &job, bool durable) {
     return _run(*query);
 }
 
+bool UploadStore::updateReached(const UploadJob &job, bool durable) {
+    _setDurable(durable);
+    Query query = _prepared(QStringLiteral("UPDATE uploads SET photo = ?, bytes = ?, failures = ?, failing_since = ?, "
+                                           "export = ?, video = ? WHERE id = ?"),
+                            {job.photoID, job.bytesTotal, job.failures, job.failingSince,
+                             UploadRow::textOf(job.exportFile), UploadRow::bytesOf(job.video), job.id});
+    return _run(*query);
+}
+
 // A durable write takes along what was written before it.
 bool UploadStore::makeDurable() {
     _setDurable(true);

@@ -53,6 +53,8 @@ public:
     // Writes all of the job's fields but its record. durable: on disk when it returns, else only safe from a death of
     // the process.
     bool update(const UploadJob &job, bool durable);
+    // Only what changes while it runs: the least that there is to write, for it is written often.
+    bool updateReached(const UploadJob &job, bool durable);
     // All that was written before is on the disk when it returns.
     bool makeDurable();
     bool remove(const std::vector<UploadJob> &jobs); // all or none

@@ -64,6 +64,13 @@ bool hasAdvanced(const std::optional<VimeoCheckpoint> &before, const VimeoCheckp
     return before && (now.bytesStored > before->bytesStored || now.videoID.isValid());
 }
 
+// Whether it is the same ticket, of which there may be more at Vimeo now.
+bool goesOn(const std::optional<VimeoCheckpoint> &before, VimeoCheckpoint now) {
+    if (!before || !now.hasTicket()) return false;
+    now.bytesStored = before->bytesStored;
+    return now == *before;
+}
+
 void VimeoRun::begin() {
     _post = VimeoPost::initWithDictionary(_run.record);
     if (_run.job.video && _run.job.video->commitSent) return _end(FailureClassifier::verdictOnUnansweredCommit());
@@ -101,8 +108,14 @@ void VimeoRun::_reached(const VimeoCheckpoint &checkpoint, const std::function<v
     _keepExport();
     if (const auto reason = _reasonToBreakOff(checkpoint)) return _end(*reason);
     if (hasAdvanced(_run.job.video, checkpoint)) _run.job.failures = _run.job.failingSince = 0;
+    const bool isOnlyFurther = goesOn(_run.job.video, checkpoint);
     _run.job.video = checkpoint;
     _run.job.bytesTotal = _post->postSize();
+    if (isOnlyFurther) {
+        // Vimeo is asked again how much it has, so the next chunk need not wait for the record.
+        _run.reached(_run.job, false, {});
+        return dispatchMain(proceed);
+    }
     const bool mustNotComeTwice = checkpoint.commitSent || checkpoint.videoID.isValid();
     _run.reached(_run.job, mustNotComeTwice, [self = shared_from_this(), proceed](bool isRecorded) {
         if (isRecorded || !self->_run.job.video->commitSent) return dispatchMain(proceed);
@@ -127,7 +140,8 @@ std::optional<Verdict> VimeoRun::_reasonToBreakOff(const VimeoCheckpoint &checkp
         return FailureClassifier::verdictOnUnansweredCommit(); // answered, but without the video's id
     if (const auto changed = PostCheck::objectionToChange(*_post, _run.job)) return Verdict::failed(*changed);
     if (!checkpoint.hasTicket() && _post->uploadState() != VimeoUploadStateGettingTicket) return std::nullopt;
-    if (const auto objection = TicketCheck::objection(checkpoint)) return Verdict::failed(*objection);
+    if (!goesOn(_run.job.video, checkpoint))
+        if (const auto objection = TicketCheck::objection(checkpoint)) return Verdict::failed(*objection);
     if (_post->uploadState() != VimeoUploadStateVerifyingChunk) return std::nullopt;
     return _watch.objection(_run.context->snapshot(), checkpoint.bytesStored, quint64(_post->postSize()));
 }

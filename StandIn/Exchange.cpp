@@ -31,7 +31,7 @@ Exchange::Exchange(ServiceContext &context, const httplib::Request &request, htt
       _recordIndex(context.log.begin(_record)) {}
 
 Exchange::~Exchange() {
-    _context.log.update(_recordIndex, _record);
+    _context.log.end(_recordIndex, _record);
 }
 
 void Exchange::begin(const QByteArray &operation) {

@@ -1,7 +1,5 @@
 #include "StandIn/RequestLog.h"
 
-#include <algorithm>
-
 namespace standin {
 
 size_t RequestLog::begin(const Request &request) {
@@ -15,6 +13,12 @@ void RequestLog::update(size_t index, const Request &request) {
     if (_enabled) _requests.at(index) = request;
 }
 
+void RequestLog::end(size_t index, const Request &request) {
+    update(index, request);
+    const std::lock_guard lock(_mutex);
+    if (request.status != 0) ++_answered;
+}
+
 std::vector<Request> RequestLog::requests() const {
     const std::lock_guard lock(_mutex);
     return _requests;
@@ -22,7 +26,7 @@ std::vector<Request> RequestLog::requests() const {
 
 size_t RequestLog::countOfAnswered() const {
     const std::lock_guard lock(_mutex);
-    return size_t(std::ranges::count_if(_requests, [](const Request &request) { return request.status != 0; }));
+    return _answered;
 }
 
 } // namespace standin

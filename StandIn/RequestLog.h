@@ -33,6 +33,8 @@ public:
     bool isEnabled() const { return _enabled; }
     size_t begin(const Request &request);
     void update(size_t index, const Request &request);
+    // The last update; counts the request where it was answered, also when requests are not kept.
+    void end(size_t index, const Request &request);
     std::vector<Request> requests() const;
     size_t countOfAnswered() const;
 
@@ -40,6 +42,7 @@ private:
     const bool _enabled;
     mutable std::mutex _mutex;
     std::vector<Request> _requests;
+    size_t _answered = 0;
 };
 
 } // namespace standin
