@@ -145,6 +145,7 @@ void UploadService::_watchSurroundings() {
     connect(&_powerRefresh, &QTimer::timeout, this, [] { KRRemoteSession::refreshPowerAssertion(); });
     _powerRefresh.start(powerRefreshInterval);
     _network = std::make_unique<NetworkWatch>([this] { _queue->networkReturned(); });
+    makePrivateFolder(configFolder());
     _accountFiles.addPath(configFolder()); // files are replaced, so it is the folder that is watched
     connect(&_accountFiles, &QFileSystemWatcher::directoryChanged, this, [this] { _queue->accountsChanged(); });
     if (!_hasPrivateBus) return;

@@ -182,7 +182,10 @@ bool UploadStore::updateReached(const UploadJob &job, bool durable) {
 // A durable write takes along what was written before it.
 bool UploadStore::makeDurable() {
     _setDurable(true);
-    return _exec(QStringLiteral("INSERT OR REPLACE INTO settings (name, value) VALUES ('durable', 1)"));
+    Query query = _prepared(QStringLiteral("INSERT OR REPLACE INTO settings (name, value) VALUES ('durable', 1)"));
+    const bool isDurable = _run(*query);
+    _setDurable(false); // now, while nothing waits for it
+    return isDurable;
 }
 
 bool UploadStore::remove(const std::vector<UploadJob> &jobs) {

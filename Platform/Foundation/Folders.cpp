@@ -19,9 +19,7 @@ QString temporaryFolder;
 QString baseFolder(const char *variable, const QString &fallbackBelowHome) {
     QString base = QFile::decodeName(qgetenv(variable));
     if (!QDir::isAbsolutePath(base)) base = QDir::homePath() + u'/' + fallbackBelowHome;
-    QString folder = base + QStringLiteral("/korvane");
-    makePrivateFolder(folder);
-    return folder;
+    return base + QStringLiteral("/korvane");
 }
 
 } // namespace
@@ -40,7 +38,9 @@ QString configFolder() {
 }
 
 QString stateFolder() {
-    return baseFolder("XDG_STATE_HOME", QStringLiteral(".local/state"));
+    const QString folder = baseFolder("XDG_STATE_HOME", QStringLiteral(".local/state"));
+    makePrivateFolder(folder);
+    return folder;
 }
 
 QString NSTemporaryDirectory() {

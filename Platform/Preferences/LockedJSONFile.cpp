@@ -15,9 +15,35 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <map>
+#include <mutex>
 
 namespace korvane {
 namespace {
+
+// What each file held when it was last read.
+class KnownContents {
+public:
+    std::optional<QVariantMap> find(const QString &path, const FileIdentity &identity) {
+        const std::lock_guard lock(_mutex);
+        const auto found = _known.find(path);
+        return found != _known.end() && found->second.first == identity ? std::optional(found->second.second)
+                                                                        : std::nullopt;
+    }
+    void keep(const QString &path, const FileIdentity &identity, const QVariantMap &values) {
+        const std::lock_guard lock(_mutex);
+        _known.insert_or_assign(path, std::pair(identity, values));
+    }
+
+private:
+    std::mutex _mutex;
+    std::map<QString, std::pair<FileIdentity, QVariantMap>> _known;
+};
+
+KnownContents &knownContents() {
+    static auto *const contents = new KnownContents; // late work may still read
+    return *contents;
+}
 
 // Null, with the error placed, if the lock file cannot be made. The lock goes when the descriptor is closed.
 std::optional<FileDescriptor> lockBeside(const QString &path, std::optional<NSError> *error) {
@@ -51,6 +77,7 @@ LockedJSONFile::Contents LockedJSONFile::_load(QVariantMap &values, QString &pro
     const auto value = NSJSONSerialization::JSONObjectWithData(data->bytes(), &problem);
     if (value && value->typeId() == QMetaType::QVariantMap) {
         values = value->toMap();
+        knownContents().keep(_path, data->identity(), values);
         return Contents::Read;
     }
     if (value) problem = QStringLiteral("it does not hold a JSON object");
@@ -73,6 +100,8 @@ void LockedJSONFile::_setAside(const QString &problem) const {
 }
 
 std::optional<QVariantMap> LockedJSONFile::read(std::optional<NSError> *error) const {
+    if (const auto identity = FileIdentity::ofPath(QFile::encodeName(_path)))
+        if (const auto known = knownContents().find(_path, *identity)) return known;
     QVariantMap values;
     QString problem;
     Contents contents = _load(values, problem, error);

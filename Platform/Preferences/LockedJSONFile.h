@@ -21,7 +21,8 @@ public:
 
     const QString &path() const { return _path; }
 
-    // The values; empty where there is no file. Null, with the error placed, if it cannot be read.
+    // The values; empty where there is no file. Null, with the error placed, if it cannot be read. A file that is the
+    // same as at the last look is not read again.
     std::optional<QVariantMap> read(std::optional<NSError> *error = nullptr) const;
 
     // Reads, lets change alter the values, and writes them, all under the lock. Where change returns false nothing is

@@ -45,17 +45,7 @@ QVariant PreferenceDomain::currentValue(const QString &key) {
     const std::lock_guard lock(_mutex);
     const auto pending = _pending.find(key);
     if (pending != _pending.end()) return pending->second.value;
-    // Identity first: a file that is replaced between the two calls is read again next time.
-    const auto identity = FileIdentity::ofPath(QFile::encodeName(_file.path()));
-    if (!identity) {
-        _currentIdentity.reset();
-        return {};
-    }
-    if (identity != _currentIdentity) {
-        _current = _read();
-        _currentIdentity = identity;
-    }
-    return _current.value(key);
+    return _read().value(key);
 }
 
 void PreferenceDomain::setValue(const QString &key, const QVariant &value) {

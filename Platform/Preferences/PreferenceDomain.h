@@ -1,7 +1,6 @@
 // One preference domain as a process sees it.
 #pragma once
 
-#include "Platform/Foundation/NSData.h"
 #include "Platform/Preferences/LockedJSONFile.h"
 
 #include <QVariant>
@@ -22,7 +21,7 @@ public:
 
     // The value as it was when the domain was last synchronized (or first used).
     QVariant value(const QString &key);
-    // The value as it is in the file now, which is read again only if it is no longer the same file.
+    // The value as it is in the file now.
     QVariant currentValue(const QString &key);
     // An invalid value removes. What JSON cannot hold is refused with a log line.
     void setValue(const QString &key, const QVariant &value);
@@ -43,8 +42,6 @@ private:
     std::map<QString, Pending> _pending;
     quint64 _serial = 0;
     std::optional<QVariantMap> _synchronized;
-    QVariantMap _current;
-    std::optional<FileIdentity> _currentIdentity; // of the file that _current was read from
 };
 
 } // namespace korvane
