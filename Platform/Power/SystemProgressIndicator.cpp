@@ -28,11 +28,15 @@ void sendUpdate(bool on) {
 
 void setSystemProgressIndicator(bool on, int timeoutSeconds) {
     static quint64 latest = 0;
+    static bool isShown = false;
     const quint64 call = ++latest;
-    sendUpdate(on);
+    if (on != isShown) sendUpdate(on);
+    isShown = on;
     if (!on) return;
     QTimer::singleShot(std::chrono::seconds(timeoutSeconds), QCoreApplication::instance(), [call] {
-        if (call == latest) sendUpdate(false);
+        if (call != latest) return;
+        isShown = false;
+        sendUpdate(false);
     });
 }
 
