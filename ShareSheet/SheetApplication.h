@@ -1,19 +1,24 @@
 // The window program: what it is asked to show, and the window that shows it.
 #pragma once
 
+#include "ShareSheet/SheetRequest.h"
+
 #include <QQmlApplicationEngine>
-#include <QStringList>
 
 namespace korvane {
 
 // Thread: main.
 class SheetApplication {
 public:
-    // arguments: as of the command line, without the program's name. False, with a word on standard error, where they
-    // ask for nothing that can be shown.
-    bool open(const QStringList &arguments);
+    SheetApplication();
+
+    // False, with a word on standard error, where there is nothing that can be shown.
+    bool open(const SheetRequest &request);
 
 private:
+    // Shows a page of that name (the file's, without its ending) with these properties.
+    bool _openWindow(const QString &page, const QVariantMap &properties);
+
     QQmlApplicationEngine _engine;
 };
 
