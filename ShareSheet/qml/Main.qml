@@ -27,6 +27,14 @@ T.ApplicationWindow {
     visible: true
     title: pages.currentItem && pages.currentItem.title !== undefined ? pages.currentItem.title : qsTr("Korvane")
     color: Theme.page
+    // Closing the window is what the page does with Escape.
+    onClosing: close => {
+        const page = pages.get(0);
+        if (page && page.closeWindow !== undefined) {
+            close.accepted = false;
+            page.closeWindow();
+        }
+    }
     LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
