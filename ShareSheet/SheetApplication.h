@@ -5,6 +5,7 @@
 #include "ShareSheet/SheetRequest.h"
 
 #include <QQmlApplicationEngine>
+#include <QTranslator>
 
 namespace korvane {
 
@@ -35,6 +36,7 @@ private:
     bool _openWindow(const QString &page, const QVariantMap &properties);
     void _end(int status);
 
+    QTranslator _texts;
     std::shared_ptr<SLComposeServiceViewController> _controller;
     std::unique_ptr<AttachmentsModel> _attachments;
     std::unique_ptr<SheetModel> _sheet;
