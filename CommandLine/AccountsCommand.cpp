@@ -37,10 +37,6 @@ const char *const credentialsNeeded =
     "Ready credentials are needed for now: give --credential-file FILE (or - for standard input) with the JSON object\n"
     R"(  {"username": "…", "consumerKey": "…", "consumerSecret": "…", "token": "…", "tokenSecret": "…"})";
 
-QString serviceOf(const ACAccountType &type) {
-    return type == ACAccountType(ACAccountTypeIdentifierVimeo) ? QStringLiteral("vimeo") : QStringLiteral("flickr");
-}
-
 std::vector<std::shared_ptr<ACAccount>> allAccounts() {
     const ACAccountStore store;
     std::vector<std::shared_ptr<ACAccount>> all;
@@ -52,7 +48,7 @@ std::vector<std::shared_ptr<ACAccount>> allAccounts() {
 
 QJsonObject jsonOf(const ACAccount &account) {
     return {{QStringLiteral("id"), account.identifier()},
-            {QStringLiteral("service"), serviceOf(account.accountType())},
+            {QStringLiteral("service"), Arguments::serviceOf(account.accountType())},
             {QStringLiteral("username"), account.username()}};
 }
 
@@ -134,13 +130,14 @@ int AccountsCommand::_list() {
                  QStringLiteral("USER NAME"));
     for (const auto &account : accounts)
         Output::line(UploadText::padded(account->identifier(), 37) + u' ' +
-                     UploadText::padded(serviceOf(account->accountType()), 8) + u' ' + account->username());
+                     UploadText::padded(Arguments::serviceOf(account->accountType()), 8) + u' ' + account->username());
     return ExitDone;
 }
 
 int AccountsCommand::_add(const QString &typeIdentifier) {
     if (_credentialFile.empty()) {
-        Output::problem(QString::fromUtf8(credentialsNeeded));
+        QStringList lines = QString::fromUtf8(credentialsNeeded).split(u'\n');
+        Output::problem(lines.takeFirst(), lines);
         return ExitUsage;
     }
     std::optional<NSError> error;
@@ -154,8 +151,9 @@ int AccountsCommand::_add(const QString &typeIdentifier) {
     if (_json)
         Output::raw(QJsonDocument(jsonOf(*account)).toJson());
     else
-        Output::line(QStringLiteral("The %1 account of %2 is ready. Its id: %3")
-                         .arg(serviceOf(account->accountType()), account->username(), account->identifier()));
+        Output::line(
+            QStringLiteral("The %1 account of %2 is ready. Its id: %3")
+                .arg(Arguments::serviceOf(account->accountType()), account->username(), account->identifier()));
     return ExitDone;
 }
 
