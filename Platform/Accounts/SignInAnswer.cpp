@@ -6,7 +6,6 @@
 #include "Platform/Social/OAuthSigner.h"
 
 #include <QDateTime>
-#include <QLocale>
 #include <QRegularExpression>
 
 #include <cstdlib>
@@ -21,7 +20,7 @@ QString durationText(qint64 seconds) {
         return QStringLiteral("%1 %2%3").arg(number).arg(QLatin1String(unit), QLatin1String(number == 1 ? "" : "s"));
     };
     if (seconds >= 2 * 86400) return counted((seconds + 43200) / 86400, "day");
-    if (seconds >= 5400) return counted((seconds + 1800) / 3600, "hour");
+    if (seconds >= 3300) return counted((seconds + 1800) / 3600, "hour");
     return counted((seconds + 30) / 60, "minute");
 }
 
@@ -156,9 +155,9 @@ QString SignInAnswer::_oauthProblem() const {
 
 // By how much this computer's clock is ahead of the service's; null where the answer has no usable date.
 std::optional<qint64> SignInAnswer::_secondsAhead() const {
-    const auto text = _response.valueForHTTPHeaderField("Date");
-    if (!text) return std::nullopt;
-    const QDateTime date = QDateTime::fromString(QString::fromLatin1(*text), Qt::RFC2822Date);
+    QByteArray text = _response.valueForHTTPHeaderField("Date").value_or(QByteArray());
+    text.replace("GMT", "+0000"); // Qt reads zones as numbers alone
+    const QDateTime date = QDateTime::fromString(QString::fromLatin1(text), Qt::RFC2822Date);
     return date.isValid() ? std::optional(_now - date.toSecsSinceEpoch()) : std::nullopt;
 }
 
