@@ -19,7 +19,7 @@
 namespace {
 
 const char *const footer = R"(First steps:
-  korvane accounts add flickr --credential-file flickr.json
+  korvane accounts add flickr
   korvane share flickr --wait sunset.jpg
   korvane uploads
 
