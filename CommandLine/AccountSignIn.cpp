@@ -118,9 +118,10 @@ void AccountSignIn::_showPage(const QString &page) {
 void AccountSignIn::_askForCode() {
     _input.ask(QStringLiteral("Code: "), LineInput::Echo::Shown, [this](const std::optional<QString> &line) {
         if (_status) return;
-        if (!line) return _signIn->cancel();
-        if (line->isEmpty()) return _askForCode();
-        _signIn->enterCode(*line);
+        if (line && line->isEmpty()) return _askForCode();
+        if (line) return _signIn->enterCode(*line);
+        Output::problem(QStringLiteral("No code was entered."));
+        _leave(ExitUploadFailed);
     });
 }
 

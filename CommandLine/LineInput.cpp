@@ -56,8 +56,11 @@ std::optional<QString> LineInput::_takeLine() {
 }
 
 void LineInput::_show(bool shown) {
+    if (shown && _before) {
+        ::tcsetattr(STDIN_FILENO, TCSANOW, &*_before);
+        _before.reset();
+    }
     termios state{};
-    if (shown && _before) ::tcsetattr(STDIN_FILENO, TCSANOW, &*std::exchange(_before, std::nullopt));
     if (shown || !_isTerminal || _before || ::tcgetattr(STDIN_FILENO, &state) != 0) return;
     _before = state;
     state.c_lflag &= ~tcflag_t(ECHO);

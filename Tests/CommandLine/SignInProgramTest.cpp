@@ -15,12 +15,12 @@ using namespace korvane::test;
 namespace {
 
 // A run of the program under way, and what it has said so far.
-struct Run {
+struct Session {
     QProcess program;
     QByteArray output;
     QByteArray notes;
 
-    explicit Run(const QByteArrayList &arguments, const QString &terminal = {}) {
+    explicit Session(const QByteArrayList &arguments, const QString &terminal = {}) {
         QStringList texts;
         for (const QByteArray &argument : arguments)
             texts.append(QString::fromUtf8(argument));
@@ -79,7 +79,7 @@ protected:
 
 TEST_F(SignInProgram, SignsInThroughTheBrowserAndSharesWithTheAccount) {
     home.setEnvironment("KORVANE_CONSUMER_SECRET", flickrUser.consumerSecret);
-    Run first({"accounts", "add", "flickr", "--json", "--consumer-key", flickrUser.consumerKey});
+    Session first({"accounts", "add", "flickr", "--json", "--consumer-key", flickrUser.consumerKey});
     const QString page = openedPage();
     EXPECT_EQ(first.page(), page) << "also said";
     EXPECT_EQ(decideAndReturn(page, "allow").status, 200);
@@ -93,14 +93,14 @@ TEST_F(SignInProgram, SignsInThroughTheBrowserAndSharesWithTheAccount) {
          {flickrUser.consumerSecret, credential->token.toUtf8(), credential->tokenSecret.toUtf8()})
         EXPECT_FALSE(says(first.output + first.notes, secret));
 
-    Run share({"share", "flickr", "--wait", home.file("a.jpg", jpegOfSize(2000))});
+    Session share({"share", "flickr", "--wait", home.file("a.jpg", jpegOfSize(2000))});
     ASSERT_EQ(share.waitForEnd(), 0) << share.notes.constData();
     ASSERT_EQ(flickr.server.photos().size(), 1u);
     EXPECT_TRUE(
         says(standin::valueOf(flickr.server.requests().back().headers, "Authorization"), credential->token.toUtf8()));
 
     home.setEnvironment("KORVANE_CONSUMER_SECRET", {});
-    Run second({"accounts", "add", "flickr"}); // the keys are stored
+    Session second({"accounts", "add", "flickr"}); // the keys are stored
     decideAndReturn(openedPage(), "refuse");
     EXPECT_EQ(second.waitForEnd(), 1);
     EXPECT_TRUE(says(second.notes, "not allowed"));
@@ -108,7 +108,7 @@ TEST_F(SignInProgram, SignsInThroughTheBrowserAndSharesWithTheAccount) {
 }
 
 TEST_F(SignInProgram, TakesACodeFromAScript) {
-    Run run({"accounts", "add", "vimeo", "--no-browser", "--consumer-key", vimeoUser.consumerKey});
+    Session run({"accounts", "add", "vimeo", "--no-browser", "--consumer-key", vimeoUser.consumerKey});
     run.type(QString::fromUtf8(vimeoUser.consumerSecret));
     const QString code = decide(run.page(), "allow").code();
     run.type(QStringLiteral("\n000-000-000"));
@@ -119,10 +119,11 @@ TEST_F(SignInProgram, TakesACodeFromAScript) {
     EXPECT_NE(account(ACAccountTypeIdentifierVimeo)->credential()->token.toUtf8(), vimeoUser.token);
     EXPECT_FALSE(QFile::exists(home.path(u"opened")));
 
-    Run without({"accounts", "add", "vimeo", "--no-browser"});
+    Session without({"accounts", "add", "vimeo", "--no-browser"});
     EXPECT_FALSE(without.page().isEmpty());
     without.program.closeWriteChannel();
-    EXPECT_EQ(without.waitForEnd(), 1) << "no code comes";
+    EXPECT_EQ(without.waitForEnd(), 1);
+    EXPECT_TRUE(says(without.notes, "No code"));
 }
 
 TEST_F(SignInProgram, AsksAtATerminalAndHidesTheSecret) {
@@ -137,7 +138,7 @@ TEST_F(SignInProgram, AsksAtATerminalAndHidesTheSecret) {
         termios state{};
         return ::tcgetattr(held.get(), &state) == 0 && (state.c_lflag & ECHO) != 0;
     };
-    Run run({"accounts", "add", "flickr", "--no-browser"}, name);
+    Session run({"accounts", "add", "flickr", "--no-browser"}, name);
     ASSERT_TRUE(run.waitToSay("Key: ")) << run.notes.constData();
     EXPECT_TRUE(says(run.notes, "https://www.flickr.com/services/apps/create/"));
     type(flickrUser.consumerKey);
@@ -154,7 +155,7 @@ TEST_F(SignInProgram, AsksAtATerminalAndHidesTheSecret) {
     EXPECT_TRUE(says(shown, flickrUser.consumerKey));
     EXPECT_FALSE(says(shown, flickrUser.consumerSecret));
 
-    Run interrupted({"accounts", "add", "flickr", "--consumer-key", "other"}, name);
+    Session interrupted({"accounts", "add", "flickr", "--consumer-key", "other"}, name);
     ASSERT_TRUE(interrupted.waitToSay("Secret"));
     ASSERT_TRUE(waitFor([&] { return !echoes(); }));
     ::kill(pid_t(interrupted.program.processId()), SIGINT);
@@ -165,16 +166,16 @@ TEST_F(SignInProgram, AsksAtATerminalAndHidesTheSecret) {
 TEST_F(SignInProgram, GivesUpAtCtrlCAndSaysWhereNoBrowserIs) {
     home.file("bin/xdg-open", "#!/bin/sh\nexit 3\n");
     home.setEnvironment("KORVANE_CONSUMER_SECRET", flickrUser.consumerSecret);
-    Run run({"accounts", "add", "flickr", "--consumer-key", flickrUser.consumerKey});
+    Session run({"accounts", "add", "flickr", "--consumer-key", flickrUser.consumerKey});
     EXPECT_TRUE(run.waitToSay("--no-browser")) << run.notes.constData();
     EXPECT_FALSE(run.page().isEmpty());
     ::kill(pid_t(run.program.processId()), SIGINT);
     EXPECT_EQ(run.waitForEnd(), 130);
     EXPECT_TRUE(says(run.notes, "cancelled"));
     EXPECT_EQ(run.output, "");
-    EXPECT_EQ(Run({"accounts", "add", "flickr"}).waitForEnd(), 2) << "keys that were not tried are not kept";
+    EXPECT_EQ(Session({"accounts", "add", "flickr"}).waitForEnd(), 2) << "keys that were not tried are not kept";
 
-    Run wrong({"accounts", "add", "vimeo", "--consumer-key", flickrUser.consumerKey});
+    Session wrong({"accounts", "add", "vimeo", "--consumer-key", flickrUser.consumerKey});
     EXPECT_EQ(wrong.waitForEnd(), 1);
     EXPECT_TRUE(says(wrong.notes, "https://developer.vimeo.com/apps"));
 }
