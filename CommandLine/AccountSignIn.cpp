@@ -56,10 +56,9 @@ void AccountSignIn::_askForKey() {
     const QString address = ApplicationKeys::registrationAddress(_type);
     if (!_input.isTerminal()) {
         Output::problem(
-            QStringLiteral("Signing in at %1 needs an application key of your own. Get one at").arg(_service));
-        Output::note(address);
-        Output::note(QStringLiteral("and give it with --consumer-key KEY, its secret in %1 or on standard input.")
-                         .arg(QLatin1String(secretVariable)));
+            QStringLiteral("Signing in at %1 needs an application key of your own. Get one at").arg(_service),
+            {address, QStringLiteral("and give it with --consumer-key KEY, its secret in %1 or on standard input.")
+                          .arg(QLatin1String(secretVariable))});
         return _leave(ExitUsage);
     }
     Output::note(
@@ -131,11 +130,11 @@ void AccountSignIn::_ended(const std::optional<NSError> &error) {
         if (_keysAreNew) _storeKeys();
         return _leave(ExitDone);
     }
-    Output::problem(error->localizedDescription());
-    if (error->domain() == ACErrorDomain && error->code() == ACErrorApplicationKeyRefused) {
-        Output::note(QStringLiteral("Keys are given anew with --consumer-key KEY. They are to be had at"));
-        Output::note(ApplicationKeys::registrationAddress(_type));
-    }
+    QStringList hints;
+    if (error->domain() == ACErrorDomain && error->code() == ACErrorApplicationKeyRefused)
+        hints = {QStringLiteral("Keys are given anew with --consumer-key KEY. They are to be had at"),
+                 ApplicationKeys::registrationAddress(_type)};
+    Output::problem(error->localizedDescription(), hints);
     _leave(ExitUploadFailed);
 }
 

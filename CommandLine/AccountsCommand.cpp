@@ -45,10 +45,6 @@ environment (KORVANE_CONSUMER_SECRET), or from standard input, before the code. 
 --credential-file stores an account that was signed in elsewhere, from a JSON object:
   {"username": "…", "consumerKey": "…", "consumerSecret": "…", "token": "…", "tokenSecret": "…"})";
 
-QString serviceOf(const ACAccountType &type) {
-    return type == ACAccountType(ACAccountTypeIdentifierVimeo) ? QStringLiteral("vimeo") : QStringLiteral("flickr");
-}
-
 std::vector<std::shared_ptr<ACAccount>> allAccounts() {
     const ACAccountStore store;
     std::vector<std::shared_ptr<ACAccount>> all;
@@ -60,7 +56,7 @@ std::vector<std::shared_ptr<ACAccount>> allAccounts() {
 
 QJsonObject jsonOf(const ACAccount &account) {
     return {{QStringLiteral("id"), account.identifier()},
-            {QStringLiteral("service"), serviceOf(account.accountType())},
+            {QStringLiteral("service"), Arguments::serviceOf(account.accountType())},
             {QStringLiteral("username"), account.username()}};
 }
 
@@ -147,7 +143,7 @@ int AccountsCommand::_list() {
                  QStringLiteral("USER NAME"));
     for (const auto &account : accounts)
         Output::line(UploadText::padded(account->identifier(), 37) + u' ' +
-                     UploadText::padded(serviceOf(account->accountType()), 8) + u' ' + account->username());
+                     UploadText::padded(Arguments::serviceOf(account->accountType()), 8) + u' ' + account->username());
     return ExitDone;
 }
 
@@ -162,8 +158,9 @@ int AccountsCommand::_add(const QString &typeIdentifier) {
     if (_json)
         Output::raw(QJsonDocument(jsonOf(*account)).toJson());
     else
-        Output::line(QStringLiteral("The %1 account of %2 is ready. Its id: %3")
-                         .arg(serviceOf(account->accountType()), account->username(), account->identifier()));
+        Output::line(
+            QStringLiteral("The %1 account of %2 is ready. Its id: %3")
+                .arg(Arguments::serviceOf(account->accountType()), account->username(), account->identifier()));
     return ExitDone;
 }
 
