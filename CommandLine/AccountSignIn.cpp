@@ -46,7 +46,8 @@ void AccountSignIn::_findKeys() {
         return _start();
     }
     if (error) {
-        Output::problem(QStringLiteral("The application's keys cannot be read. ") + error->localizedDescription());
+        Output::problem(QStringLiteral("The application's keys cannot be read. ") + error->localizedDescription(),
+                        {QStringLiteral("Keys are given anew with --consumer-key KEY.")});
         return _leave(ExitUploadFailed);
     }
     _askForKey();
