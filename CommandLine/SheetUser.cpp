@@ -20,9 +20,8 @@ bool opens(SLComposeServiceViewController &sheet, const std::shared_ptr<ACAccoun
     if (error)
         Output::problem(QStringLiteral("The list of accounts cannot be read. ") + error->localizedDescription());
     else
-        Output::problem(
-            QStringLiteral("There is no %1 account yet. Add one with:").arg(Arguments::serviceOf(type)),
-            {QStringLiteral("  korvane accounts add %1 --credential-file FILE").arg(Arguments::serviceOf(type))});
+        Output::problem(QStringLiteral("There is no %1 account yet. Add one with:").arg(Arguments::serviceOf(type)),
+                        {QStringLiteral("  korvane accounts add %1").arg(Arguments::serviceOf(type))});
     return false;
 }
 

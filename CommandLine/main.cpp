@@ -22,18 +22,19 @@
 namespace {
 
 const char *const footer = R"(First steps:
-  korvane accounts add flickr --credential-file flickr.json
+  korvane accounts add flickr
   korvane share flickr --wait sunset.jpg
   korvane uploads
 
 Each command tells more with --help.
 
 Environment:
-  KORVANE_FLICKR_URL     base address used in place of Flickr's own, to try things out (plain http on this machine only)
-  KORVANE_VIMEO_URL      the same for Vimeo
-  KORVANE_PHOTO_LIBRARY  folder used in place of your Pictures and Videos folders
-  KORVANE_SECRETS        with the value "file", credentials are kept in a file that only you can read, not in the keyring
-  NO_COLOR               if set, progress is shown without colours
+  KORVANE_FLICKR_URL       base address used in place of Flickr's own (plain http on this machine only)
+  KORVANE_VIMEO_URL        the same for Vimeo
+  KORVANE_CONSUMER_SECRET  the secret that belongs to the key of accounts add --consumer-key
+  KORVANE_PHOTO_LIBRARY    folder used in place of your Pictures and Videos folders
+  KORVANE_SECRETS          with the value "file", credentials are kept in a file that only you can read, not in the keyring
+  NO_COLOR                 if set, progress is shown without colours
 
 Files:
   ~/.config/korvane        accounts and preferences

@@ -43,7 +43,9 @@ TEST_F(KorvaneProgram, BadUsageIsStatusTwoAndSaysWhat) {
         {{"share", "flickr", photo, "--album="}, "for none there is --no-album"},
         {{"uploads", "retry"}, "ID"},
         {{"uploads", "remove", "all"}, "not a number"},
-        {{"accounts", "add", "flickr"}, "\"consumerKey\""},
+        {{"accounts", "add", "flickr"}, "https://www.flickr.com/services/apps/create/"},
+        {{"accounts", "add", "vimeo", "--consumer-key", "key"}, "secret"},
+        {{"accounts", "add", "vimeo", "--consumer-key", "key", "--credential-file", "-"}, "--consumer-key"},
         {{"accounts", "remove", "nobody"}, "nobody"},
         {{"standin", "--port", "70000"}, "70000"},
     };

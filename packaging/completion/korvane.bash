@@ -33,7 +33,7 @@ _korvane() {
     uploads*) options='--json --help' ;;
     accounts) words='list add remove' options='--json --help' ;;
     'accounts add') words='flickr vimeo' options='--json --help' ;;
-    'accounts add'*) options='--credential-file --json --help' ;;
+    'accounts add'*) options='--no-browser --consumer-key --credential-file --json --help' ;;
     'accounts remove') words=$(_korvane_ids accounts) options='--json --help' ;;
     accounts*) options='--json --help' ;;
     standin*) options='--port --state --help' ;;
@@ -44,7 +44,7 @@ _korvane() {
     --privacy) words='public private' options='' files='' ;;
     --credential-file) files='file' options='' ;;
     --state) files='directory' options='' ;;
-    --title | --description | --tag | --album | --port) words='' options='' files='' ;;
+    --title | --description | --tag | --album | --port | --consumer-key) words='' options='' files='' ;;
     esac
     if [[ $cur == -* || -z $words$files ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$options" -- "$cur")

@@ -65,6 +65,8 @@ complete -c korvane -n '__korvane_just_after accounts' -a add -d 'Add an account
 complete -c korvane -n '__korvane_just_after accounts' -a remove -d 'Remove an account with its credentials'
 complete -c korvane -n '__korvane_just_after accounts add' -a 'flickr vimeo'
 set -l added '__korvane_after accounts add flickr; or __korvane_after accounts add vimeo'
+complete -c korvane -n $added -l no-browser -d 'Take the code that the page shows'
+complete -c korvane -n $added -l consumer-key -x -d 'Key of your application'
 complete -c korvane -n $added -l credential-file -r -F -d 'File with ready credentials'
 complete -c korvane -n '__korvane_just_after accounts remove' -a '(__korvane_ids accounts)'
 
