@@ -64,6 +64,13 @@ std::optional<std::vector<Upload>> UploadsClient::list(qint64 after, std::option
     return uploadsOf(*page);
 }
 
+std::optional<std::vector<Upload>> UploadsClient::recent(qint64 before, quint32 limit, const QStringList &states,
+                                                         std::optional<NSError> *error) {
+    const auto page = _uploads(QStringLiteral("Recent"), {before, limit, states}, error);
+    if (!page) return std::nullopt;
+    return uploadsOf(*page);
+}
+
 bool UploadsClient::forEach(const std::function<void(const Upload &)> &visit, std::optional<NSError> *error) {
     for (qint64 after = 0;;) {
         const auto page = list(after, error);

@@ -20,11 +20,14 @@ void fail(std::optional<NSError> *error, const QString &text) {
 
 } // namespace
 
+ServiceConnection::ServiceConnection(QString serviceName)
+    : _serviceName(std::move(serviceName)), _connectionName(QUuid::createUuid().toString()) {}
+
 ServiceConnection::Outcome ServiceConnection::open(int milliseconds, std::optional<NSError> *error) {
     close();
     const auto address = SessionBus::addressStartingService(error);
     if (!address) return Failed;
-    _connectionName = QUuid::createUuid().toString();
+    _isOpen = true;
     const auto bus = QDBusConnection::connectToBus(*address, _connectionName);
     if (!bus.isConnected())
         fail(error, QStringLiteral("The session bus cannot be reached: %1").arg(bus.lastError().message()));
@@ -47,7 +50,12 @@ ServiceConnection::Outcome ServiceConnection::_agreeOnSettings(int milliseconds,
 }
 
 void ServiceConnection::close() {
-    if (isOpen()) QDBusConnection::disconnectFromBus(std::exchange(_connectionName, QString()));
+    if (std::exchange(_isOpen, false)) QDBusConnection::disconnectFromBus(_connectionName);
+}
+
+void ServiceConnection::interrupt() {
+    _isInterrupted = true;
+    QDBusConnection::disconnectFromBus(_connectionName);
 }
 
 ServiceConnection::Outcome ServiceConnection::call(const QString &path, const QString &interface, const QString &member,
@@ -55,6 +63,10 @@ ServiceConnection::Outcome ServiceConnection::call(const QString &path, const QS
                                                    QVariantList *answer, std::optional<NSError> *error) const {
     auto message = QDBusMessage::createMethodCall(_serviceName, path, interface, member);
     message.setArguments(arguments);
+    if (_isInterrupted) {
+        fail(error, QStringLiteral("The call was broken off."));
+        return Lost;
+    }
     const QDBusMessage reply = bus().call(message, QDBus::Block, milliseconds);
     if (reply.type() == QDBusMessage::ReplyMessage) {
         *answer = reply.arguments();

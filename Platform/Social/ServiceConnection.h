@@ -7,6 +7,7 @@
 #include <QString>
 #include <QVariantList>
 
+#include <atomic>
 #include <optional>
 
 namespace korvane {
@@ -22,7 +23,7 @@ public:
     };
 
     // serviceName: the bus name under which the service is reached and started.
-    explicit ServiceConnection(QString serviceName) : _serviceName(std::move(serviceName)) {}
+    explicit ServiceConnection(QString serviceName);
     ~ServiceConnection() { close(); }
     ServiceConnection(const ServiceConnection &) = delete;
     ServiceConnection &operator=(const ServiceConnection &) = delete;
@@ -31,7 +32,9 @@ public:
     // other hosts is not the one that the caller means: Failed, naming the difference.
     Outcome open(int milliseconds, std::optional<NSError> *error);
     void close();
-    bool isOpen() const { return !_connectionName.isEmpty(); }
+    bool isOpen() const { return _isOpen; }
+    // Thread: any. A call that is under way ends as Lost, and from now on there is none.
+    void interrupt();
     QDBusConnection bus() const { return QDBusConnection(_connectionName); }
 
     Outcome call(const QString &path, const QString &interface, const QString &member, const QVariantList &arguments,
@@ -41,7 +44,9 @@ private:
     Outcome _agreeOnSettings(int milliseconds, std::optional<NSError> *error) const;
 
     const QString _serviceName;
-    QString _connectionName;
+    const QString _connectionName;
+    bool _isOpen = false;
+    std::atomic<bool> _isInterrupted = false;
 };
 
 } // namespace korvane
