@@ -1,11 +1,104 @@
 // The window program.
 #include "ShareSheet/SheetApplication.h"
 
-namespace korvane {
+#include "CommandLine/SystemLog.h"
+#include "Korvane/FlickrComposeViewController.h"
+#include "Korvane/VimeoComposeViewController.h"
+#include "ShareSheet/EditableText.h"
+#include "ShareSheet/FrameWait.h"
+#include "ShareSheet/ThumbnailMaker.h"
+#include "ShareSheet/ThumbnailProvider.h"
 
-bool SheetApplication::open(const QStringList &) {
-    _engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Korvane/Sheet/qml/Main.qml")));
-    return !_engine.rootObjects().isEmpty();
+#include <QDesktopServices>
+#include <QTimer>
+
+#include <sys/resource.h>
+
+namespace korvane {
+namespace {
+
+constexpr int lookInterval = 50; // milliseconds
+const QString qmlFolder = QStringLiteral("qrc:/qt/qml/Korvane/Sheet/qml/");
+
+// Every photo keeps its file open until it is handed over.
+void raiseFileLimit() {
+    rlimit limit{};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
+    limit.rlim_cur = limit.rlim_max;
+    ::setrlimit(RLIMIT_NOFILE, &limit);
+}
+
+} // namespace
+
+SheetApplication::SheetApplication() : _engine(std::make_unique<QQmlApplicationEngine>()) {
+    qmlRegisterType<EditableText>("Korvane.Models", 1, 0, "EditableText");
+    _engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    _engine->addImageProvider(ThumbnailProvider::name(), new ThumbnailProvider(&ThumbnailMaker::make));
+}
+
+SheetApplication::~SheetApplication() {
+    _engine.reset();
+}
+
+bool SheetApplication::open(const SheetRequest &request) {
+    switch (request.page) {
+    case SheetRequest::Flickr:
+    case SheetRequest::Vimeo:
+        return _openSheet(request);
+    case SheetRequest::Settings:
+    case SheetRequest::Uploads:
+    case SheetRequest::Help:
+        break;
+    }
+    return false;
+}
+
+bool SheetApplication::_openSheet(const SheetRequest &request) {
+    sendLogToSystemLog();
+    raiseFileLimit();
+    const bool isVideo = request.page == SheetRequest::Vimeo;
+    _attachments = std::make_unique<AttachmentsModel>(
+        isVideo ? AttachmentsModel::Kind::Video : AttachmentsModel::Kind::Photos, request.files);
+    if (isVideo) {
+        _controller = VimeoComposeViewController::initWithNibName();
+    } else {
+        FlickrComposeViewController::forgetUnknownAudience();
+        _controller = FlickrComposeViewController::initWithNibName();
+    }
+    _sheet = std::make_unique<SheetModel>(_controller, *_attachments, isVideo ? qsizetype(VimeoLongestTitle) : 0);
+    connect(_sheet.get(), &SheetModel::finished, this, &SheetApplication::_end);
+    connect(_sheet.get(), &SheetModel::settingsRequested, this, &SheetApplication::openPreferences);
+    if (!_openWindow(QStringLiteral("SheetPage"), {{QStringLiteral("sheet"), QVariant::fromValue(_sheet.get())}}))
+        return false;
+    afterNextFrame(*window(), [this] { _sheet->begin(*window()); });
+    return true;
+}
+
+bool SheetApplication::_openWindow(const QString &page, const QVariantMap &properties) {
+    _engine->setInitialProperties({{QStringLiteral("firstPage"), QUrl(qmlFolder + page + QStringLiteral(".qml"))},
+                                   {QStringLiteral("firstPageProperties"), properties}});
+    _engine->load(QUrl(qmlFolder + QStringLiteral("Main.qml")));
+    return window() != nullptr;
+}
+
+QQuickWindow *SheetApplication::window() const {
+    return qobject_cast<QQuickWindow *>(_engine->rootObjects().value(0));
+}
+
+void SheetApplication::openPreferences(const NSURL &address) {
+    QDesktopServices::openUrl(QUrl(address.absoluteString()));
+}
+
+// The sheet is kept until nobody waits for its answers any more; the window has gone by then.
+void SheetApplication::_end(int status) {
+    if (window()) window()->hide();
+    const auto timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, [this, timer, status] {
+        if (_controller->isWaitingForAnswers()) return;
+        timer->stop();
+        Q_EMIT finished(status);
+    });
+    timer->start(_controller->isWaitingForAnswers() ? lookInterval : 0);
 }
 
 } // namespace korvane

@@ -1,20 +1,44 @@
 // The window program: what it is asked to show, and the window that shows it.
 #pragma once
 
+#include "ShareSheet/SheetModel.h"
+#include "ShareSheet/SheetRequest.h"
+
 #include <QQmlApplicationEngine>
-#include <QStringList>
 
 namespace korvane {
 
 // Thread: main.
-class SheetApplication {
+class SheetApplication : public QObject {
+    Q_OBJECT
 public:
-    // arguments: as of the command line, without the program's name. False, with a word on standard error, where they
-    // ask for nothing that can be shown.
-    bool open(const QStringList &arguments);
+    SheetApplication();
+    ~SheetApplication() override;
+
+    // False where the window cannot be shown.
+    bool open(const SheetRequest &request);
+
+    QQuickWindow *window() const;
+    // Null while no sheet is shown.
+    SheetModel *sheet() const { return _sheet.get(); }
+
+    // Shows the settings that an address "prefs:root=SERVICE" stands for.
+    void openPreferences(const NSURL &address);
+
+Q_SIGNALS:
+    // All is done: status is the program's. The window is hidden by then.
+    void finished(int status);
 
 private:
-    QQmlApplicationEngine _engine;
+    bool _openSheet(const SheetRequest &request);
+    // Shows a page of that name (the file's, without its ending) with these properties.
+    bool _openWindow(const QString &page, const QVariantMap &properties);
+    void _end(int status);
+
+    std::shared_ptr<SLComposeServiceViewController> _controller;
+    std::unique_ptr<AttachmentsModel> _attachments;
+    std::unique_ptr<SheetModel> _sheet;
+    std::unique_ptr<QQmlApplicationEngine> _engine; // the first to go
 };
 
 } // namespace korvane

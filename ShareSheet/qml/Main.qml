@@ -1,22 +1,79 @@
-// The window; each page fills it.
+// The window. Pages lie on one another in it, the first at the bottom.
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates as T
+import Korvane.Sheet
 
-ApplicationWindow {
+T.ApplicationWindow {
     id: window
 
-    property alias pages: stack
+    required property url firstPage
+    property var firstPageProperties: ({})
 
-    width: 420
+    // Shows a page over what is there; the page closes itself with closePage().
+    function openPage(page, properties) {
+        pages.push(page, properties);
+    }
+    function closePage() {
+        if (pages.depth > 1)
+            pages.pop();
+        else
+            window.close();
+    }
+
+    width: 640
     height: 720
     minimumWidth: 320
-    minimumHeight: 480
+    minimumHeight: 400
     visible: true
-    title: qsTr("Korvane")
+    title: pages.currentItem && pages.currentItem.title !== undefined ? pages.currentItem.title : qsTr("Korvane")
+    color: Theme.page
+    // Closing the window is what the page does with Escape.
+    onClosing: close => {
+        const page = pages.get(0);
+        if (page && page.closeWindow !== undefined) {
+            close.accepted = false;
+            page.closeWindow();
+        }
+    }
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
 
-    StackView {
-        id: stack
+    Component.onCompleted: pages.push(firstPage, firstPageProperties, T.StackView.Immediate)
+
+    T.StackView {
+        id: pages
 
         anchors.fill: parent
+        focus: true
+        onCurrentItemChanged: if (currentItem) currentItem.forceActiveFocus()
+
+        pushEnter: Transition {
+            NumberAnimation {
+                property: "x"
+                from: pages.width * (pages.mirrored ? -1 : 1)
+                to: 0
+                duration: Theme.slideDuration
+                easing.type: Easing.OutCubic
+            }
+        }
+        pushExit: Transition {
+            PauseAnimation {
+                duration: Theme.slideDuration
+            }
+        }
+        popEnter: Transition {
+            PauseAnimation {
+                duration: 1
+            }
+        }
+        popExit: Transition {
+            NumberAnimation {
+                property: "x"
+                from: 0
+                to: pages.width * (pages.mirrored ? -1 : 1)
+                duration: Theme.slideDuration
+                easing.type: Easing.InCubic
+            }
+        }
     }
 }
