@@ -31,8 +31,7 @@ std::shared_ptr<FlickrAudienceController> FlickrAudienceController::init() {
 
 void FlickrAudienceController::loadView() {
     UITableViewController::loadView();
-    view()->setOpaque(false);
-    view()->setBackgroundColor(UIColor::Clear);
+    view()->makeTransparent();
 }
 
 qint64 FlickrAudienceController::tableViewNumberOfRowsInSection(UITableView &, qint64) {
@@ -54,8 +53,7 @@ std::shared_ptr<UITableViewCell> FlickrAudienceController::tableViewCellForRowAt
 
 void FlickrAudienceController::tableViewWillDisplayCell(UITableView &, const std::shared_ptr<UITableViewCell> &cell,
                                                         NSIndexPath) {
-    cell->setOpaque(false);
-    cell->setBackgroundColor(UIColor::Clear);
+    cell->makeTransparent();
 }
 
 void FlickrAudienceController::tableViewDidSelectRowAtIndexPath(UITableView &tableView, NSIndexPath indexPath) {
@@ -66,8 +64,7 @@ void FlickrAudienceController::tableViewDidSelectRowAtIndexPath(UITableView &tab
         chosen->setAccessoryType(UITableViewCellAccessoryCheckmark);
     tableView.deselectRowAtIndexPath(indexPath, true);
     if (const auto delegate = _delegate.lock())
-        delegate->flickrComposeOptionViewDidFinishWithSelection(
-            std::static_pointer_cast<UITableViewController>(shared_from_this()), quint32(_audience));
+        delegate->flickrComposeOptionViewDidFinishWithSelection(sharedPointer(this), quint32(_audience));
 }
 
 // As high as its rows, so that the sheet shows all of them.

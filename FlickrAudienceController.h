@@ -6,7 +6,14 @@
 
 namespace korvane {
 
-// Audiences are rows: 0 public, 1 friends, 2 family, 3 only me.
+// Audiences are rows.
+enum FlickrAudience : qint32 {
+    FlickrAudiencePublic = 0,
+    FlickrAudienceFriends = 1,
+    FlickrAudienceFamily = 2,
+    FlickrAudienceOnlyMe = 3,
+};
+
 class FlickrAudienceController : public UITableViewController {
 public:
     // For people. An audience without a row stops the process.

@@ -15,15 +15,14 @@ bool FlickrPhotoSetController::_initWithPhotoSetManager(const std::shared_ptr<Fl
     if (!_initWithNibName(std::nullopt, std::nullopt)) return false;
     _manager = manager;
     _manager->refreshPhotoSets();
-    _manager->setTableDelegate(std::static_pointer_cast<FlickrPhotoSetController>(shared_from_this()));
+    _manager->setTableDelegate(sharedPointer(this));
     setTitle(NSBundle::localizedString(QStringLiteral("CHOOSE_PHOTO_SET"), QString(), QStringLiteral("Flickr")));
     return true;
 }
 
 void FlickrPhotoSetController::loadView() {
     UITableViewController::loadView();
-    view()->setOpaque(false);
-    view()->setBackgroundColor(UIColor::Clear);
+    view()->makeTransparent();
 }
 
 void FlickrPhotoSetController::reloadData() {
@@ -52,8 +51,7 @@ std::shared_ptr<UITableViewCell> FlickrPhotoSetController::tableViewCellForRowAt
 
 void FlickrPhotoSetController::tableViewWillDisplayCell(UITableView &, const std::shared_ptr<UITableViewCell> &cell,
                                                         NSIndexPath) {
-    cell->setOpaque(false);
-    cell->setBackgroundColor(UIColor::Clear);
+    cell->makeTransparent();
 }
 
 void FlickrPhotoSetController::tableViewDidSelectRowAtIndexPath(UITableView &tableView, NSIndexPath indexPath) {
@@ -67,8 +65,7 @@ void FlickrPhotoSetController::tableViewDidSelectRowAtIndexPath(UITableView &tab
     tableView.deselectRowAtIndexPath(indexPath, true);
     _selectedIndexRow = indexPath.row;
     if (const auto delegate = _delegate.lock())
-        delegate->flickrComposeOptionViewDidFinishWithSelection(
-            std::static_pointer_cast<UITableViewController>(shared_from_this()), _photoSetID);
+        delegate->flickrComposeOptionViewDidFinishWithSelection(sharedPointer(this), _photoSetID);
 }
 
 } // namespace korvane

@@ -6,6 +6,8 @@
 
 namespace korvane {
 
+inline constexpr qint64 FlickrPhotoSetRowNoSet = 0;
+
 // Its rows are the manager's photo sets. It is not told what was chosen in an earlier share: the mark begins at the
 // no-set entry.
 class FlickrPhotoSetController : public UITableViewController, public FlickrPhotoSetTableDelegate {

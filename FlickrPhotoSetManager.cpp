@@ -2,6 +2,7 @@
 #include "FlickrPhotoSetManager.h"
 
 #include "Korvane/FlickrPhotoSetResponse.h"
+#include "Korvane/FlickrResponse.h"
 #include "Platform/Accounts/ACAccount.h"
 #include "Platform/Foundation/KRAssert.h"
 #include "Platform/Foundation/NSLog.h"
@@ -9,6 +10,17 @@
 #include "Platform/Social/SLRequest.h"
 
 namespace korvane {
+namespace {
+
+std::optional<NSError> problemOf(const FlickrPhotoSetResponse &response) {
+    if (response.isSuccess()) return std::nullopt;
+    const QString message = redacted(response.errorDescription().value_or(QString()));
+    return NSError::errorWithDescription(FlickrResponseErrorDomain, 0,
+                                         message.isEmpty() ? QStringLiteral("Flickr's answer is not understood.")
+                                                           : QStringLiteral("Flickr says: ") + message);
+}
+
+} // namespace
 
 std::shared_ptr<FlickrPhotoSetManager> FlickrPhotoSetManager::init() {
     return std::shared_ptr<FlickrPhotoSetManager>(new FlickrPhotoSetManager);
@@ -16,6 +28,7 @@ std::shared_ptr<FlickrPhotoSetManager> FlickrPhotoSetManager::init() {
 
 void FlickrPhotoSetManager::refreshPhotoSets() {
     _photoSets.reset();
+    _problem.reset();
     const auto self = std::static_pointer_cast<FlickrPhotoSetManager>(shared_from_this());
     sendRequestToEndPoint(
         KorvaneSettings::flickrRESTHost() + QStringLiteral("/services/rest/"),
@@ -30,7 +43,9 @@ void FlickrPhotoSetManager::refreshPhotoSets() {
 
 void FlickrPhotoSetManager::_photoSetsAnswered(const std::optional<NSData> &body, const std::optional<NSError> &error) {
     if (error) NSLog("########### Error %@", error);
-    _photoSets = FlickrPhotoSetResponse::responseWithData(body)->photoSets;
+    const auto response = FlickrPhotoSetResponse::responseWithData(body);
+    _photoSets = response->photoSets;
+    _problem = error ? error : problemOf(*response);
     const auto table = tableDelegate();
     KRAssert(table != nullptr, "_tableDelegate", "-[FlickrPhotoSetManager refreshPhotoSets]", "FlickrPhotoSetManager",
              157);

@@ -30,6 +30,10 @@ public:
     // be loaded. Null before the first answer and while it is being refreshed.
     const std::optional<std::vector<FlickrPhotoSet>> &photoSets() const { return _photoSets; }
 
+    // Why the last answer brought no list; null if it did, before it, and while the list is being refreshed. A network
+    // error, or FlickrResponseErrorDomain with code 0 and Flickr's message.
+    const std::optional<NSError> &problem() const { return _problem; }
+
     // Asks Flickr anew, for the delegate's account. The table delegate hears of the answer, which comes later; if it is
     // gone by then, the process stops.
     void refreshPhotoSets();
@@ -41,6 +45,7 @@ private:
     std::weak_ptr<FlickrComposeOptionViewDelegate> _delegate;
     std::weak_ptr<FlickrPhotoSetTableDelegate> _tableDelegate;
     std::optional<std::vector<FlickrPhotoSet>> _photoSets;
+    std::optional<NSError> _problem;
 };
 
 } // namespace korvane

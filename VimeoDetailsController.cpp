@@ -11,7 +11,6 @@
 namespace korvane {
 namespace {
 
-enum Section : qint64 { SectionDescription = 0, SectionTags = 1, SectionVideoSize = 2, SectionPrivacy = 3 };
 constexpr qint64 numberOfSections = 4;
 constexpr double descriptionHeight = 90; // points
 
@@ -28,16 +27,11 @@ QStringList localizedAll(QStringList keys) {
     return keys;
 }
 
-void makeTransparent(UIView &view) {
-    view.setOpaque(false);
-    view.setBackgroundColor(UIColor::Clear);
-}
-
 std::shared_ptr<UITableViewCell> choiceCell(const QString &identifier, const QString &text, bool isChosen) {
     const auto cell = UITableViewCell::initWithStyle(UITableViewCellStyleDefault, identifier);
     cell->textLabel()->setText(text);
     cell->setAccessoryType(isChosen ? UITableViewCellAccessoryCheckmark : UITableViewCellAccessoryNone);
-    makeTransparent(*cell);
+    cell->makeTransparent();
     return cell;
 }
 
@@ -79,14 +73,13 @@ std::optional<QString> VimeoDetailsController::videoDescription() const {
 
 void VimeoDetailsController::loadView() {
     UITableViewController::loadView();
-    makeTransparent(*view());
+    view()->makeTransparent();
 }
 
-// The base class is not told: what it would do, the sheet does by itself when the screen has gone.
+// The base class is not called, on purpose: all that leaving does is to hand over what was entered, also what is still
+// being edited.
 void VimeoDetailsController::viewWillDisappear(bool) {
-    if (const auto delegate = _delegate.lock())
-        delegate->vimeoComposeOptionsViewDidFinish(
-            std::static_pointer_cast<VimeoDetailsController>(shared_from_this()));
+    if (const auto delegate = _delegate.lock()) delegate->vimeoComposeOptionsViewDidFinish(sharedPointer(this));
 }
 
 CGSize VimeoDetailsController::preferredContentSize() {
@@ -102,13 +95,13 @@ qint64 VimeoDetailsController::numberOfSectionsInTableView(UITableView &) {
 
 qint64 VimeoDetailsController::tableViewNumberOfRowsInSection(UITableView &, qint64 section) {
     switch (section) {
-    case SectionDescription:
+    case VimeoDetailsSectionDescription:
         return 1;
-    case SectionTags:
+    case VimeoDetailsSectionTags:
         return _tags.size() + 1;
-    case SectionVideoSize:
+    case VimeoDetailsSectionVideoSize:
         return _videoSizeFormatStrings.size();
-    case SectionPrivacy:
+    case VimeoDetailsSectionPrivacy:
         return _privacyLevels.size();
     default:
         assertionFailed("0", "-[VimeoDetailsController tableView:numberOfRowsInSection:]", "VimeoDetailsController",
@@ -118,13 +111,13 @@ qint64 VimeoDetailsController::tableViewNumberOfRowsInSection(UITableView &, qin
 
 std::optional<QString> VimeoDetailsController::tableViewTitleForHeaderInSection(UITableView &, qint64 section) {
     switch (section) {
-    case SectionDescription:
+    case VimeoDetailsSectionDescription:
         return localized(QStringLiteral("ADD_DESCRIPTION"));
-    case SectionTags:
+    case VimeoDetailsSectionTags:
         return localized(QStringLiteral("ADD_TAGS"));
-    case SectionVideoSize:
+    case VimeoDetailsSectionVideoSize:
         return localized(QStringLiteral("VIDEO_SIZE"));
-    case SectionPrivacy:
+    case VimeoDetailsSectionPrivacy:
         return localized(QStringLiteral("PRVACY_LEVEL"));
     default:
         assertionFailed("0", "-[VimeoDetailsController tableView:titleForHeaderInSection:]", "VimeoDetailsController",
@@ -133,19 +126,19 @@ std::optional<QString> VimeoDetailsController::tableViewTitleForHeaderInSection(
 }
 
 double VimeoDetailsController::tableViewHeightForRowAtIndexPath(UITableView &tableView, NSIndexPath indexPath) {
-    return indexPath.section == SectionDescription ? descriptionHeight : tableView.rowHeight();
+    return indexPath.section == VimeoDetailsSectionDescription ? descriptionHeight : tableView.rowHeight();
 }
 
 std::shared_ptr<UITableViewCell> VimeoDetailsController::tableViewCellForRowAtIndexPath(UITableView &tableView,
                                                                                         NSIndexPath indexPath) {
     switch (indexPath.section) {
-    case SectionDescription:
+    case VimeoDetailsSectionDescription:
         return _cellOfDescription();
-    case SectionTags:
+    case VimeoDetailsSectionTags:
         return _cellOfTag(tableView, indexPath);
-    case SectionVideoSize:
+    case VimeoDetailsSectionVideoSize:
         return _cellOfVideoSize(indexPath.row);
-    case SectionPrivacy:
+    case VimeoDetailsSectionPrivacy:
         return _cellOfPrivacyLevel(indexPath.row);
     default:
         assertionFailed("0", "-[VimeoDetailsController tableView:cellForRowAtIndexPath:]", "VimeoDetailsController",
@@ -172,14 +165,14 @@ std::shared_ptr<UITableViewCell> VimeoDetailsController::_cellOfTag(UITableView 
         cell->setSelectionStyle(UITableViewCellSelectionStyleNone);
         cell->setAccessoryType(UITableViewCellAccessoryNone);
         cell->setTextFieldOffset(0);
-        cell->editableTextField()->setDelegate(std::static_pointer_cast<VimeoDetailsController>(shared_from_this()));
+        cell->editableTextField()->setDelegate(sharedPointer(this));
         cell->editableTextField()->setTextColor(UIColor::Black);
-        makeTransparent(*cell);
+        cell->makeTransparent();
     }
     if (indexPath.row < _tags.size()) cell->editableTextField()->setText(_tags[indexPath.row]);
     if (_indexPathForPendingFirstResponder == indexPath) {
+        _indexPathForPendingFirstResponder.reset(); // first: the row that is left may go, and other cells be asked for
         cell->editableTextField()->becomeFirstResponder();
-        _indexPathForPendingFirstResponder.reset();
     }
     return cell;
 }
@@ -198,10 +191,10 @@ std::shared_ptr<UITableViewCell> VimeoDetailsController::_cellOfPrivacyLevel(qin
 // What is chosen here is the usual choice of every later share, whether or not this one is posted.
 void VimeoDetailsController::tableViewDidSelectRowAtIndexPath(UITableView &tableView, NSIndexPath indexPath) {
     tableView.deselectRowAtIndexPath(indexPath, true);
-    if (indexPath.section == SectionPrivacy) {
+    if (indexPath.section == VimeoDetailsSectionPrivacy) {
         _privacySetting = indexPath.row;
         remember(privacyKey, indexPath.row);
-    } else if (indexPath.section == SectionVideoSize) {
+    } else if (indexPath.section == VimeoDetailsSectionVideoSize) {
         _videoSize = indexPath.row;
         remember(videoSizeKey, indexPath.row);
     }
@@ -210,8 +203,8 @@ void VimeoDetailsController::tableViewDidSelectRowAtIndexPath(UITableView &table
 
 std::optional<NSIndexPath>
 VimeoDetailsController::_tagIndexPathForTextField(const std::shared_ptr<UITextField> &textField) const {
-    for (qint64 row = 0; row < tableView()->numberOfRowsInSection(SectionTags); ++row) {
-        const NSIndexPath indexPath{row, SectionTags};
+    for (qint64 row = 0; row < tableView()->numberOfRowsInSection(VimeoDetailsSectionTags); ++row) {
+        const NSIndexPath indexPath{row, VimeoDetailsSectionTags};
         const auto cell = tableView()->cellForRowAtIndexPath(indexPath);
         if (cell && cell->editableTextField() == textField) return indexPath;
     }
@@ -222,10 +215,11 @@ bool VimeoDetailsController::textFieldShouldChangeCharactersInRange(const std::s
                                                                     NSRange range, const QString &replacement) {
     const auto indexPath = _tagIndexPathForTextField(textField);
     if (!indexPath) return true;
-    const QString text = QString(textField->text()).replace(range.location, range.length, replacement);
+    const QString text = stringByReplacingCharactersInRange(textField->text(), range, replacement);
     if (indexPath->row == _tags.size()) {
         _tags.append(text);
-        tableView()->insertRowsAtIndexPaths({{indexPath->row + 1, SectionTags}}, UITableViewRowAnimationTop);
+        tableView()->insertRowsAtIndexPaths({{indexPath->row + 1, VimeoDetailsSectionTags}},
+                                            UITableViewRowAnimationTop);
     } else {
         _tags[indexPath->row] = text;
     }

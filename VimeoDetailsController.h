@@ -10,6 +10,15 @@ namespace korvane {
 
 class VimeoDetailsController;
 
+// The rows of sizes and privacy levels are VimeoVideoSize and VimeoPrivacySetting. The last row of the tags begins a
+// new one.
+enum VimeoDetailsSection : qint64 {
+    VimeoDetailsSectionDescription = 0,
+    VimeoDetailsSectionTags = 1,
+    VimeoDetailsSectionVideoSize = 2,
+    VimeoDetailsSectionPrivacy = 3,
+};
+
 class VimeoComposeOptionViewDelegate {
 public:
     virtual ~VimeoComposeOptionViewDelegate() = default;
@@ -59,7 +68,7 @@ public:
                                                                     NSIndexPath indexPath) override;
     void tableViewDidSelectRowAtIndexPath(UITableView &tableView, NSIndexPath indexPath) override;
 
-    // A tag follows what is typed into its row; the last row begins a new one.
+    // A tag follows what is typed into its row.
     bool textFieldShouldChangeCharactersInRange(const std::shared_ptr<UITextField> &textField, NSRange range,
                                                 const QString &replacement) override;
     void textFieldDidEndEditing(const std::shared_ptr<UITextField> &textField) override;

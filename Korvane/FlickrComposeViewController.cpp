@@ -3,6 +3,7 @@
 
 #include "FlickrAudienceController.h"
 #include "FlickrPhotoSetController.h"
+#include "Korvane/AttachmentData.h"
 #include "Korvane/FlickrPost.h"
 #include "Korvane/FlickrUploadSession.h"
 #include "Platform/Accounts/ACAccountStore.h"
@@ -20,27 +21,12 @@ const QString FlickrUploadAudience = QStringLiteral("audience");
 
 namespace {
 
-enum Audience : qint32 { AudiencePublic = 0, AudienceFriends = 1, AudienceFamily = 2, AudienceOnlyMe = 3 };
-
 QString localized(const QString &key) {
     return NSBundle::localizedString(key, QString(), QStringLiteral("Flickr"));
 }
 
 std::vector<std::shared_ptr<ACAccount>> flickrAccounts(const ACAccountStore &store) {
     return store.accountsWithAccountType(store.accountTypeWithAccountTypeIdentifier(ACAccountTypeIdentifierFlickr));
-}
-
-// The image's bytes; null if they cannot be had.
-std::optional<NSData> imageData(const SLAttachment &attachment) {
-    const auto *payload = std::get_if<NSData>(&attachment.payload);
-    NSLog("Got imageData with length %@", QString::number(payload ? payload->length() : 0));
-    if (payload) return *payload;
-    if (!attachment.payloadSourceFileURL) return std::nullopt;
-    std::optional<NSError> error;
-    const auto data = NSData::dataWithContentsOfURL(*attachment.payloadSourceFileURL, &error);
-    NSLog("Loaded imageData with length %@ from payloadSourceFileURL", QString::number(data ? data->length() : 0));
-    if (!data || error) NSLog("Can't get attachment data for flickr post. error %@", error);
-    return data;
 }
 
 } // namespace
@@ -55,7 +41,7 @@ FlickrComposeViewController::initWithNibName(const std::optional<QString> &nibNa
 void FlickrComposeViewController::forgetUnknownAudience() {
     CFPreferencesAppSynchronize(FlickrUploadDomain);
     const auto audience = qint32(CFPreferencesGetAppIntegerValue(FlickrUploadAudience, FlickrUploadDomain));
-    if (audience >= AudiencePublic && audience <= AudienceOnlyMe) return;
+    if (audience >= FlickrAudiencePublic && audience <= FlickrAudienceOnlyMe) return;
     NSLog("The remembered audience %i is not known and is forgotten.", audience);
     CFPreferencesSetAppValue(FlickrUploadAudience, QVariant(), FlickrUploadDomain);
     CFPreferencesAppSynchronize(FlickrUploadDomain);
@@ -81,7 +67,7 @@ bool FlickrComposeViewController::_initWithNibName(const std::optional<QString> 
 std::vector<std::shared_ptr<SLComposeSheetConfigurationItem>> FlickrComposeViewController::configurationItems() {
     if (!_manager) {
         _manager = FlickrPhotoSetManager::init();
-        _manager->setDelegate(std::static_pointer_cast<FlickrComposeViewController>(shared_from_this()));
+        _manager->setDelegate(sharedPointer(this));
     }
     _photoSetConfigurationItem = _photoSetItem();
     _audienceConfigurationItem = _audienceItem();
@@ -93,9 +79,8 @@ std::shared_ptr<SLComposeSheetConfigurationItem> FlickrComposeViewController::_p
     item->setTitle(localized(QStringLiteral("PHOTOSET")));
     // The screen's own title counts once there is a screen, although nothing may have been chosen in it yet.
     item->setValue(_photoSetController ? _photoSetController->photoSetTitle() : _photoSetTitle);
-    item->setTapHandler([weak = weak_from_this()] {
-        if (const auto self = std::static_pointer_cast<FlickrComposeViewController>(weak.lock()))
-            self->_pushPhotoSets();
+    item->setTapHandler([weak = std::weak_ptr(sharedPointer(this))] {
+        if (const auto self = weak.lock()) self->_pushPhotoSets();
     });
     return item;
 }
@@ -103,7 +88,7 @@ std::shared_ptr<SLComposeSheetConfigurationItem> FlickrComposeViewController::_p
 void FlickrComposeViewController::_pushPhotoSets() {
     if (!_photoSetController) {
         _photoSetController = FlickrPhotoSetController::initWithPhotoSetManager(_manager);
-        _photoSetController->setDelegate(std::static_pointer_cast<FlickrComposeViewController>(shared_from_this()));
+        _photoSetController->setDelegate(sharedPointer(this));
     }
     pushConfigurationViewController(_photoSetController);
 }
@@ -112,9 +97,8 @@ std::shared_ptr<SLComposeSheetConfigurationItem> FlickrComposeViewController::_a
     const auto item = SLComposeSheetConfigurationItem::init();
     item->setTitle(localized(QStringLiteral("AUDIENCE")));
     item->setValue(FlickrAudienceController::titleForAudience(_audience));
-    item->setTapHandler([weak = weak_from_this()] {
-        if (const auto self = std::static_pointer_cast<FlickrComposeViewController>(weak.lock()))
-            self->_pushAudiences();
+    item->setTapHandler([weak = std::weak_ptr(sharedPointer(this))] {
+        if (const auto self = weak.lock()) self->_pushAudiences();
     });
     return item;
 }
@@ -122,10 +106,15 @@ std::shared_ptr<SLComposeSheetConfigurationItem> FlickrComposeViewController::_a
 void FlickrComposeViewController::_pushAudiences() {
     if (!_audienceController) {
         _audienceController = FlickrAudienceController::init();
-        _audienceController->setDelegate(std::static_pointer_cast<FlickrComposeViewController>(shared_from_this()));
+        _audienceController->setDelegate(sharedPointer(this));
     }
     _audienceController->setAudience(_audience);
     pushConfigurationViewController(_audienceController);
+}
+
+// The answer is for the screen that shows the photo sets, which goes with the sheet.
+bool FlickrComposeViewController::isWaitingForAnswers() const {
+    return _photoSetController && !_manager->photoSets();
 }
 
 void FlickrComposeViewController::flickrComposeOptionViewDidFinishWithSelection(
@@ -158,13 +147,13 @@ void FlickrComposeViewController::viewDidAppear(bool animated) {
 
 qint32 FlickrComposeViewController::postVisibility() const {
     switch (_audience) {
-    case AudiencePublic:
+    case FlickrAudiencePublic:
         return FlickrVisibilityPublic;
-    case AudienceFriends:
+    case FlickrAudienceFriends:
         return FlickrVisibilityFriends;
-    case AudienceFamily:
+    case FlickrAudienceFamily:
         return FlickrVisibilityFamily;
-    case AudienceOnlyMe:
+    case FlickrAudienceOnlyMe:
         return 0;
     default:
         return _audience;
@@ -197,7 +186,7 @@ std::shared_ptr<FlickrPost> FlickrComposeViewController::_postOfAttachment(const
         if (const auto *url = std::get_if<NSURL>(&attachment.payload)) post->assetURL = *url;
         return post;
     case SLAttachmentTypeData:
-        post->photoData = imageData(attachment);
+        post->photoData = dataOfAttachment(attachment, "image", "flickr");
         return post->photoData ? post : nullptr;
     default:
         // It goes on without a photo: whether it is of any use is for the upload service to say.

@@ -18,8 +18,10 @@ extern const QString FlickrUploadPhotoSetTitle; // text
 extern const QString FlickrUploadPhotoSetID;    // integer
 extern const QString FlickrUploadAudience;      // integer: the row of the audience
 
-// Remembers what is chosen in its option screens at once, posted or not. To be kept until the photo sets have been
-// loaded, if they were asked for.
+// Where the sheet's option rows stand.
+enum FlickrComposeItem : size_t { FlickrComposeItemPhotoSet = 0, FlickrComposeItemAudience = 1 };
+
+// Remembers what is chosen in its option screens at once, posted or not.
 class FlickrComposeViewController : public SLComposeServiceViewController, public FlickrComposeOptionViewDelegate {
 public:
     static std::shared_ptr<FlickrComposeViewController> initWithNibName(const std::optional<QString> &nibName = {},
@@ -35,7 +37,9 @@ public:
     // The client of the last post; null before it.
     const std::shared_ptr<FlickrUploadSession> &session() const { return _session; }
 
-    // Photo set, then audience.
+    // While the photo sets are being loaded, from the first tap on their row.
+    bool isWaitingForAnswers() const override;
+    // As FlickrComposeItem.
     std::vector<std::shared_ptr<SLComposeSheetConfigurationItem>> configurationItems() override;
     void flickrComposeOptionViewDidFinishWithSelection(const std::shared_ptr<UITableViewController> &optionView,
                                                        const QVariant &selection) override;

@@ -16,6 +16,10 @@ public:
     static std::shared_ptr<FlickrPhotoSetResponse> responseWithData(const std::optional<NSData> &body);
     static std::shared_ptr<FlickrPhotoSetResponse> initWithData(const std::optional<NSData> &body);
 
+    // What Flickr says of the call: false without a message where the body says nothing of the kind.
+    bool isSuccess() const { return _success; }
+    const std::optional<QString> &errorDescription() const { return _errorDescription; }
+
     std::vector<FlickrPhotoSet> photoSets; // the no-set entry first, then the user's sets in the answer's order
     qint64 stage = 0;                      // what the characters belong to: 0 nothing, 1 a title, 2 a description
 
@@ -26,7 +30,7 @@ private:
     void parserFoundCharacters(NSXMLParser &, const QString &characters) override;
     void parserDidEndElement(NSXMLParser &, const QString &element) override;
 
-    bool _success = false; // this and the message are kept for a debugger; nothing reads them
+    bool _success = false;
     std::optional<QString> _errorDescription;
     std::optional<FlickrPhotoSet> _currentPhotoSet;
     std::optional<QString> _dataString;

@@ -1,6 +1,7 @@
 // The share sheet for a video to Vimeo.
 #include "Korvane/VimeoComposeViewController.h"
 
+#include "Korvane/AttachmentData.h"
 #include "Korvane/VimeoPost.h"
 #include "Korvane/VimeoUploadSession.h"
 #include "Platform/AVFoundation/AVAssetExportSession.h"
@@ -15,27 +16,12 @@
 namespace korvane {
 namespace {
 
-constexpr quint64 titleLimit = 129; // bytes in UTF-8; a title stays below
-
 QString localized(const QString &key) {
     return NSBundle::localizedString(key, QString(), QStringLiteral("Vimeo"));
 }
 
 quint64 bytesOf(QStringView text) {
     return quint64(text.toUtf8().size());
-}
-
-// The video's bytes, where it is not given as a URL; null if they cannot be had.
-std::optional<NSData> videoData(const SLAttachment &attachment) {
-    const auto *payload = std::get_if<NSData>(&attachment.payload);
-    NSLog("Got videoData with length %@", QString::number(payload ? payload->length() : 0));
-    if (payload) return *payload;
-    if (!attachment.payloadSourceFileURL) return std::nullopt;
-    std::optional<NSError> error;
-    const auto data = NSData::dataWithContentsOfURL(*attachment.payloadSourceFileURL, &error);
-    NSLog("Loaded videoData with length %@ from payloadSourceFileURL", QString::number(data ? data->length() : 0));
-    if (!data || error) NSLog("Can't get attachment data for vimeo post. error %@", error);
-    return data;
 }
 
 const char *classOfPayload(const SLAttachment &attachment) {
@@ -66,8 +52,8 @@ bool VimeoComposeViewController::_initWithNibName(const std::optional<QString> &
 std::vector<std::shared_ptr<SLComposeSheetConfigurationItem>> VimeoComposeViewController::configurationItems() {
     _detailsConfigurationItem = SLComposeSheetConfigurationItem::init();
     _detailsConfigurationItem->setTitle(localized(QStringLiteral("DETAILS")));
-    _detailsConfigurationItem->setTapHandler([weak = weak_from_this()] {
-        if (const auto self = std::static_pointer_cast<VimeoComposeViewController>(weak.lock())) self->_pushDetails();
+    _detailsConfigurationItem->setTapHandler([weak = std::weak_ptr(sharedPointer(this))] {
+        if (const auto self = weak.lock()) self->_pushDetails();
     });
     return {_detailsConfigurationItem};
 }
@@ -76,7 +62,7 @@ void VimeoComposeViewController::_pushDetails() {
     if (!_detailsController) {
         const auto details = VimeoDetailsController::initWithStyle(UITableViewStyleGrouped);
         details->videoSizes().append(_estimatedSizes());
-        details->setDelegate(std::static_pointer_cast<VimeoComposeViewController>(shared_from_this()));
+        details->setDelegate(sharedPointer(this));
         _detailsController = details;
     }
     pushConfigurationViewController(_detailsController);
@@ -112,7 +98,7 @@ bool VimeoComposeViewController::textViewShouldChangeTextInRange(const std::shar
                                                                  NSRange range, const QString &replacement) {
     const quint64 current = bytesOf(textView->text());
     const quint64 replaced = bytesOf(QStringView(textView->text()).mid(range.location, range.length));
-    return current - replaced + bytesOf(replacement) < titleLimit;
+    return current - replaced + bytesOf(replacement) <= VimeoLongestTitle;
 }
 
 void VimeoComposeViewController::vimeoComposeOptionsViewDidFinish(
@@ -133,7 +119,7 @@ void VimeoComposeViewController::didSelectPost() {
     } else if (attachment.type != SLAttachmentTypeVideo) {
         return NSLog("Cannot upload attachment of type %@", classOfPayload(attachment));
     } else {
-        post->assetData = videoData(attachment);
+        post->assetData = dataOfAttachment(attachment, "video", "vimeo");
     }
     if (const auto keyboard = UIKeyboard::activeKeyboard()) keyboard->acceptAutocorrection();
     post->title = textView()->text();

@@ -11,6 +11,11 @@ class ACAccountStore;
 class VimeoPost;
 class VimeoUploadSession;
 
+// Where the sheet's option row stands.
+enum VimeoComposeItem : size_t { VimeoComposeItemDetails = 0 };
+
+inline constexpr quint64 VimeoLongestTitle = 128; // bytes in UTF-8
+
 // The sheet's text is the video's title. Size and privacy that are chosen under "Details" are remembered; the privacy
 // only for the details themselves: a video that is posted without opening them is public.
 class VimeoComposeViewController : public SLComposeServiceViewController, public VimeoComposeOptionViewDelegate {
@@ -33,13 +38,13 @@ public:
     // The client of the last post; null before it.
     const std::shared_ptr<VimeoUploadSession> &session() const { return _session; }
 
-    // The details.
+    // As VimeoComposeItem.
     std::vector<std::shared_ptr<SLComposeSheetConfigurationItem>> configurationItems() override;
     // Presents the settings alert where there is no account with a credential.
     void viewDidAppear(bool animated) override;
     // A video needs a title.
     bool validateText(const QString &text) override;
-    // A title has at most 128 bytes in UTF-8; a change that would go beyond is refused as a whole.
+    // A change that would make the title longer than VimeoLongestTitle is refused as a whole.
     bool textViewShouldChangeTextInRange(const std::shared_ptr<UITextView> &textView, NSRange range,
                                          const QString &replacement) override;
     void vimeoComposeOptionsViewDidFinish(const std::shared_ptr<VimeoDetailsController> &options) override;

@@ -30,7 +30,7 @@ struct SLAttachment {
     // The photo in a file, given in the file system's own bytes. JPEG, PNG and GIF are their own bytes, left in their
     // file. Other formats: an asset if the file is in the photo library, else converted to JPEG here. Without metadata
     // any picture is a copy made here, upright and in sRGB, a PNG of a PNG and a JPEG of everything else. Converting
-    // blocks. Null, with an error placed that names the file.
+    // blocks. Null, with an error placed that names the file. Thread: any; a window calls it on the global queue.
     static std::optional<SLAttachment> photoAttachment(const QByteArray &path, bool withoutMetadata,
                                                        std::optional<NSError> *error = nullptr);
 
@@ -40,7 +40,8 @@ struct SLAttachment {
 
     // The video in a file: its URL in the photo library if it is there, else the file's. Its streams are looked at,
     // which blocks for about a tenth of a second. Null, with an error placed that names the file, for what is no video
-    // that could be played. The sizes of its exports are known after that (see ALAssetsLibrary).
+    // that could be played. The sizes of its exports are known after that (see ALAssetsLibrary). Thread: any; a window
+    // calls it on the global queue.
     static std::optional<SLAttachment> videoAttachment(const QByteArray &path, std::optional<NSError> *error = nullptr);
 };
 

@@ -6,22 +6,29 @@
 namespace korvane {
 namespace {
 
+using Observer = SLComposeServiceViewControllerObserver;
+
 constexpr qint64 userCancelled = 3072; // of NSCocoaErrorDomain
 
-}
+} // namespace
 
 bool SLComposeServiceViewController::_initWithNibName(const std::optional<QString> &nibName,
                                                       const std::optional<QString> &bundle) {
     if (!UIViewController::_initWithNibName(nibName, bundle)) return false;
-    const auto self = std::static_pointer_cast<SLComposeServiceViewController>(shared_from_this());
+    const auto self = sharedPointer(this);
     _textView = UITextView::initWithFrame({});
     _textView->setDelegate(self);
     _extensionContext = std::make_shared<NSExtensionContext>();
     _extensionContext->ended = [weak = std::weak_ptr(self)] {
-        if (const auto sheet = weak.lock())
-            sheet->_observers.tell([](SLComposeServiceViewControllerObserver &observer) { observer.composeDidEnd(); });
+        if (const auto sheet = weak.lock()) sheet->_observers.tell(&Observer::composeDidEnd);
     };
     return true;
+}
+
+void SLComposeServiceViewController::appear() {
+    view();
+    viewWillAppear(false);
+    viewDidAppear(false);
 }
 
 void SLComposeServiceViewController::viewWillAppear(bool animated) {
@@ -30,44 +37,43 @@ void SLComposeServiceViewController::viewWillAppear(bool animated) {
 }
 
 void SLComposeServiceViewController::reloadConfigurationItems() {
-    const auto tell = [this] {
-        _observers.tell([](SLComposeServiceViewControllerObserver &observer) { observer.composeItemsDidChange(); });
-    };
+    for (const auto &item : _items)
+        item->changed = nullptr;
     _items = configurationItems();
     for (const auto &item : _items)
-        item->changed = [weak = weak_from_this(), tell] {
-            if (weak.lock()) tell();
+        item->changed = [weak = std::weak_ptr(sharedPointer(this))] {
+            if (const auto sheet = weak.lock()) sheet->_tellOfItems();
         };
-    tell();
+    _tellOfItems();
 }
 
 void SLComposeServiceViewController::pushConfigurationViewController(
     const std::shared_ptr<UIViewController> &controller) {
-    if (_optionScreen) popConfigurationViewController();
+    popConfigurationViewController();
     controller->view();
     controller->viewWillAppear(true);
     _optionScreen = controller;
-    _observers.tell([&](SLComposeServiceViewControllerObserver &observer) { observer.composeDidPush(controller); });
+    _observers.tell(&Observer::composeDidPush, controller);
     controller->viewDidAppear(true);
 }
 
 void SLComposeServiceViewController::popConfigurationViewController() {
-    if (!_optionScreen) return;
-    const auto screen = _optionScreen;
+    const auto screen = std::exchange(_optionScreen, nullptr);
+    if (!screen) return;
     screen->viewWillDisappear(true);
-    const auto editing = std::dynamic_pointer_cast<UIView>(UIResponder::firstResponder());
-    if (editing && editing->isDescendantOfView(*screen->view())) editing->resignFirstResponder();
-    _optionScreen.reset();
-    _observers.tell([&](SLComposeServiceViewControllerObserver &observer) { observer.composeDidPop(screen); });
+    if (const auto editing = screen->view()->firstResponderWithin()) editing->resignFirstResponder();
+    _observers.tell(&Observer::composeDidPop, screen);
     screen->viewDidDisappear(true);
 }
 
 void SLComposeServiceViewController::presentSettingsAlert(const QString &title, const QString &message,
                                                           const NSURL &targetURL) {
     _settingsAlert = SLSettingsAlert{title, message, targetURL};
-    _observers.tell([alert = *_settingsAlert](SLComposeServiceViewControllerObserver &observer) {
-        observer.composeDidPresentSettingsAlert(alert);
-    });
+    _observers.tell(&Observer::composeDidPresentSettingsAlert, *_settingsAlert);
+}
+
+void SLComposeServiceViewController::dismissSettingsAlert() {
+    if (std::exchange(_settingsAlert, std::nullopt)) _observers.tell(&Observer::composeDidDismissSettingsAlert);
 }
 
 void SLComposeServiceViewController::didSelectPost() {
@@ -79,12 +85,13 @@ void SLComposeServiceViewController::didSelectCancel() {
 }
 
 void SLComposeServiceViewController::userTapsPost() {
+    popConfigurationViewController();
     if (_extensionContext->state() != NSExtensionContext::State::Open || !validateText(_textView->text())) return;
     didSelectPost();
 }
 
 void SLComposeServiceViewController::textViewDidChange(const std::shared_ptr<UITextView> &) {
-    _observers.tell([](SLComposeServiceViewControllerObserver &observer) { observer.composeTextDidChange(); });
+    _observers.tell(&Observer::composeTextDidChange);
 }
 
 } // namespace korvane

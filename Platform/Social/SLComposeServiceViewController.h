@@ -27,16 +27,26 @@ public:
     virtual void composeDidPush(const std::shared_ptr<UIViewController> &) {} // an option screen is to be shown
     virtual void composeDidPop(const std::shared_ptr<UIViewController> &) {}  // and has gone again
     virtual void composeDidPresentSettingsAlert(const SLSettingsAlert &) {}
-    virtual void composeDidEnd() {} // see extensionContext
+    virtual void composeDidDismissSettingsAlert() {}
+    // The request has ended, see extensionContext. This is heard in the middle of didSelectPost or didSelectCancel: the
+    // sheet is let go from the event loop, and only where isWaitingForAnswers is false.
+    virtual void composeDidEnd() {}
 };
 
 // A service derives its sheet from this. The front end gives it attachments, makes it appear, does what the user does,
-// and shows what the observers hear. It keeps the sheet until answers under way have come. Thread: main.
+// and shows what the observers hear. Thread: main.
 class SLComposeServiceViewController : public UIViewController, public UITextViewDelegate {
 public:
     void addObserver(const std::shared_ptr<SLComposeServiceViewControllerObserver> &observer) {
         _observers.add(observer);
     }
+
+    // The sheet comes up, or comes up again after the user has been elsewhere: a service then checks anew whether it
+    // has what it needs, such as an account.
+    void appear();
+    // The front end keeps the sheet as long as this holds, also after the end of the request: the process stops on an
+    // answer that finds it gone.
+    virtual bool isWaitingForAnswers() const { return false; }
 
     // Before the sheet appears.
     void setAttachments(std::vector<SLAttachment> attachments) { _attachments = std::move(attachments); }
@@ -70,13 +80,14 @@ public:
     void presentSettingsAlert(const QString &title, const QString &message, const NSURL &targetURL);
     // Null when none is shown.
     const std::optional<SLSettingsAlert> &settingsAlert() const { return _settingsAlert; }
-    void dismissSettingsAlert() { _settingsAlert.reset(); }
+    void dismissSettingsAlert();
 
     // What the Post button does, without looking whether the text may be posted; by itself it completes the request.
     virtual void didSelectPost();
     // What the Cancel button does: it cancels the request as the user's own wish.
     virtual void didSelectCancel();
-    // The Post button: nothing where the text may not be posted or the request has ended.
+    // The Post button: what is shown over the sheet goes first. Nothing more where the text may not be posted or the
+    // request has ended.
     void userTapsPost();
 
     void viewWillAppear(bool animated) override;
@@ -86,6 +97,8 @@ protected:
     bool _initWithNibName(const std::optional<QString> &nibName, const std::optional<QString> &bundle) override;
 
 private:
+    void _tellOfItems() const { _observers.tell(&SLComposeServiceViewControllerObserver::composeItemsDidChange); }
+
     ObserverList<SLComposeServiceViewControllerObserver> _observers;
     std::vector<SLAttachment> _attachments;
     std::shared_ptr<UITextView> _textView;

@@ -30,8 +30,9 @@ public:
 
 private:
     void _set(std::optional<QString> &text, const std::optional<QString> &newText) {
+        if (text == newText) return;
         text = newText;
-        if (changed) changed();
+        if (const auto told = changed) told(); // a copy: what is told may end in other rows
     }
 
     std::optional<QString> _title;

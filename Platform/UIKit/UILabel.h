@@ -12,10 +12,7 @@ namespace korvane {
 class UILabel : public UIView {
 public:
     const std::optional<QString> &text() const { return _text; }
-    void setText(const std::optional<QString> &text) {
-        _text = text;
-        setNeedsDisplay();
-    }
+    void setText(const std::optional<QString> &text) { change(_text, text); }
 
 private:
     std::optional<QString> _text;

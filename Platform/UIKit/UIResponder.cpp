@@ -25,6 +25,7 @@ bool UIResponder::becomeFirstResponder() {
     if (isFirstResponder()) return true;
     if (!canBecomeFirstResponder()) return false;
     if (const auto former = firstResponder(); former && !former->resignFirstResponder()) return false;
+    if (firstResponder()) return false;
     holder() = weak_from_this();
     didBecomeFirstResponder();
     return true;

@@ -14,7 +14,8 @@ public:
     static std::shared_ptr<UIResponder> firstResponder();
 
     bool isFirstResponder() const;
-    // Takes the keyboard, after the one who has it has given it up. False if either does not want to.
+    // Takes the keyboard, after the one who has it has given it up. False if either does not want to, or if somebody
+    // else has taken it meanwhile.
     bool becomeFirstResponder();
     // False if it does not want to give it up. True also if it does not have it.
     bool resignFirstResponder();
@@ -24,6 +25,12 @@ protected:
     virtual bool canResignFirstResponder() { return true; }
     virtual void didBecomeFirstResponder() {}
     virtual void didResignFirstResponder() {}
+
+    // Of this, as the class that it is called in.
+    template <typename Self>
+    static std::shared_ptr<Self> sharedPointer(Self *self) {
+        return std::static_pointer_cast<Self>(self->shared_from_this());
+    }
 };
 
 } // namespace korvane

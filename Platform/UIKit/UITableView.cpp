@@ -3,6 +3,7 @@
 
 #include "Platform/Foundation/Dispatch.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace korvane {
@@ -12,10 +13,18 @@ constexpr double headerHeight = 28;      // of a section with a title
 constexpr double groupHeaderHeight = 38; // the same in a grouped table
 constexpr CGRect usualBounds(0, 0, 360, 640);
 
-// Where a row stands after others have come or gone before it in its section.
-NSIndexPath shifted(NSIndexPath path, const std::vector<NSIndexPath> &changed, qint64 by) {
-    for (const NSIndexPath &other : changed)
-        if (other.section == path.section && other.row <= path.row) path.row += by;
+// Where a row stands after others, in their order, have come into its section.
+NSIndexPath afterInsertion(NSIndexPath path, const std::vector<NSIndexPath> &sorted) {
+    for (const NSIndexPath &other : sorted)
+        if (other.section == path.section && other.row <= path.row) ++path.row;
+    return path;
+}
+
+// The same after others have gone; null if it is among them.
+std::optional<NSIndexPath> afterDeletion(NSIndexPath path, const std::vector<NSIndexPath> &deleted) {
+    if (std::ranges::find(deleted, path) != deleted.end()) return std::nullopt;
+    const auto isBefore = [&](NSIndexPath other) { return other.section == path.section && other.row < path.row; };
+    path.row -= std::ranges::count_if(deleted, isBefore);
     return path;
 }
 
@@ -32,14 +41,19 @@ std::shared_ptr<UITableView> UITableView::initWithStyle(UITableViewStyle style) 
     return table;
 }
 
+void UITableView::setRowHeight(double height) {
+    if (std::exchange(_rowHeight, height) != height && _layout) reloadData();
+}
+
 void UITableView::reloadData() {
-    _selectedRow.reset();
-    _measure();
-    for (const auto &[path, cell] : std::exchange(_cells, {}))
-        _putAside(path, cell);
+    const auto isEdited = [](const auto &entry) { return entry.second->firstResponderWithin() != nullptr; };
+    const auto found = std::ranges::find_if(_cells, isEdited);
+    const auto edited = found == _cells.end() ? std::nullopt : std::optional(found->first);
+    _moveRows([](NSIndexPath) { return std::nullopt; });
+    _tableObservers.tell(&UITableViewObserver::tableViewDidReload);
+    if (edited) _makeCell(*edited);
     _layOut();
     _dropEditing();
-    _tableObservers.tell([](UITableViewObserver &observer) { observer.tableViewDidReload(); });
 }
 
 void UITableView::_loadIfNeeded() {
@@ -66,46 +80,67 @@ std::vector<NSIndexPath> UITableView::_rowsInView() const {
     return _layout->rowsBetween(bounds().top(), bounds().top() + bounds().height());
 }
 
+// Takes what belongs to a row along to where the row stands now.
+void UITableView::_moveRows(const Movement &moved) {
+    _measure();
+    for (auto &row : _wanted)
+        if (row) row = moved(*row);
+    if (_selectedRow) _selectedRow = moved(*_selectedRow);
+    for (const auto &[path, cell] : std::exchange(_cells, {}))
+        if (const auto place = moved(path))
+            _cells[*place] = cell;
+        else
+            _putAside(path, cell);
+}
+
 void UITableView::_layOut() {
     const auto visible = _rowsInView();
-    const auto isBeingEdited = [](const UIView &cell) {
-        const auto editing = std::dynamic_pointer_cast<UIView>(firstResponder());
-        return editing && editing->isDescendantOfView(cell);
-    };
     for (auto entry = _cells.begin(); entry != _cells.end();) {
-        const bool staysUsed = std::ranges::binary_search(visible, entry->first) || isBeingEdited(*entry->second);
+        const bool staysUsed =
+            std::ranges::binary_search(visible, entry->first) || entry->second->firstResponderWithin();
         if (!staysUsed) _putAside(entry->first, entry->second);
         entry = staysUsed ? std::next(entry) : _cells.erase(entry);
     }
     for (const NSIndexPath &path : visible)
-        if (!_cells.contains(path)) _makeCell(path);
-    _tableObservers.tell([](UITableViewObserver &observer) { observer.tableViewDidLayOut(); });
+        _makeCell(path);
 }
 
+// Passes over a row that has a cell, or is about to get one, and one that has gone while another's cell was made.
 void UITableView::_makeCell(NSIndexPath indexPath) {
     const auto source = _dataSource.lock();
-    if (!source) return;
-    const auto outer = std::exchange(_wanted, indexPath);
+    const bool isWanted = std::ranges::find(_wanted, std::optional(indexPath)) != _wanted.end();
+    if (!source || isWanted || _cells.contains(indexPath) || !_layout->hasRow(indexPath)) return;
+    _wanted.push_back(indexPath);
     const auto cell = source->tableViewCellForRowAtIndexPath(*this, indexPath);
-    _wanted = outer;
-    if (!cell || !_layout->hasRow(indexPath)) return;
+    const auto delegate = _delegate.lock();
+    if (cell && delegate && _wanted.back()) delegate->tableViewWillDisplayCell(*this, cell, *_wanted.back());
+    const auto place = _wanted.back();
+    _wanted.pop_back();
+    if (!cell || !place) return;
     adopt(*cell);
-    const auto [top, end] = _layout->span(indexPath);
-    cell->setFrame({0, top, bounds().width(), end - top});
     std::erase_if(_spares, [&](const Spare &spare) { return spare.cell == cell; });
-    _cells[indexPath] = cell;
-    if (const auto delegate = _delegate.lock()) delegate->tableViewWillDisplayCell(*this, cell, indexPath);
+    _cells[*place] = cell;
+    _tableObservers.tell(&UITableViewObserver::tableViewCellDidChange, *place);
 }
 
 void UITableView::_putAside(NSIndexPath indexPath, const std::shared_ptr<UITableViewCell> &cell) {
-    if (!cell->reuseIdentifier().isEmpty()) _spares.push_back({indexPath, cell});
+    const QString &identifier = cell->reuseIdentifier();
+    if (identifier.isEmpty()) return;
+    std::erase_if(_spares, [&](const Spare &spare) {
+        return spare.formerPath == indexPath && spare.cell->reuseIdentifier() == identifier;
+    });
+    _spares.push_back({indexPath, cell});
 }
 
 std::shared_ptr<UITableViewCell> UITableView::dequeueReusableCellWithIdentifier(const QString &identifier) {
     const auto fits = [&](const Spare &spare) { return spare.cell->reuseIdentifier() == identifier; };
-    const auto isOwn = [&](const Spare &spare) { return fits(spare) && spare.formerPath == _wanted; };
+    const auto isOwn = [&](const Spare &spare) {
+        return fits(spare) && !_wanted.empty() && spare.formerPath == _wanted.back();
+    };
+    // What is being typed in one row must not go on in another.
+    const auto isFree = [&](const Spare &spare) { return fits(spare) && !spare.cell->firstResponderWithin(); };
     auto found = std::ranges::find_if(_spares, isOwn);
-    if (found == _spares.end()) found = std::ranges::find_if(_spares, fits);
+    if (found == _spares.end()) found = std::ranges::find_if(_spares, isFree);
     if (found == _spares.end()) return nullptr;
     const auto cell = found->cell;
     _spares.erase(found);
@@ -115,40 +150,26 @@ std::shared_ptr<UITableViewCell> UITableView::dequeueReusableCellWithIdentifier(
 
 // Who was typing into a row that has gone is typing no more.
 void UITableView::_dropEditing() {
-    const auto editing = std::dynamic_pointer_cast<UIView>(firstResponder());
-    if (!editing || !editing->isDescendantOfView(*this)) return;
-    const bool isShown =
-        std::ranges::any_of(_cells, [&](const auto &entry) { return editing->isDescendantOfView(*entry.second); });
-    if (!isShown) editing->resignFirstResponder();
+    const auto editing = firstResponderWithin();
+    const auto isWithin = [&](const auto &entry) { return editing->isDescendantOfView(*entry.second); };
+    if (editing && std::ranges::none_of(_cells, isWithin)) editing->resignFirstResponder();
 }
 
 void UITableView::insertRowsAtIndexPaths(const std::vector<NSIndexPath> &paths, UITableViewRowAnimation animation) {
     if (!_layout) return _loadIfNeeded();
-    _measure();
     auto sorted = paths;
     std::ranges::sort(sorted);
-    Cells moved;
-    for (const auto &[path, cell] : _cells)
-        moved[shifted(path, sorted, 1)] = cell;
-    _cells = std::move(moved);
+    _moveRows([&](NSIndexPath path) { return afterInsertion(path, sorted); });
+    _tableObservers.tell(&UITableViewObserver::tableViewDidInsertRows, paths, animation);
     _layOut();
-    _tableObservers.tell([&](UITableViewObserver &observer) { observer.tableViewDidInsertRows(paths, animation); });
 }
 
 void UITableView::deleteRowsAtIndexPaths(const std::vector<NSIndexPath> &paths, UITableViewRowAnimation animation) {
     if (!_layout) return _loadIfNeeded();
-    _measure();
-    Cells moved;
-    for (const auto &[path, cell] : _cells) {
-        if (std::ranges::find(paths, path) != paths.end())
-            _putAside(path, cell);
-        else
-            moved[shifted(path, paths, -1)] = cell;
-    }
-    _cells = std::move(moved);
+    _moveRows([&](NSIndexPath path) { return afterDeletion(path, paths); });
+    _tableObservers.tell(&UITableViewObserver::tableViewDidDeleteRows, paths, animation);
     _layOut();
     _dropEditing();
-    _tableObservers.tell([&](UITableViewObserver &observer) { observer.tableViewDidDeleteRows(paths, animation); });
 }
 
 qint64 UITableView::numberOfSections() {
@@ -170,6 +191,12 @@ CGRect UITableView::rectForSection(qint64 section) {
     if (section < 0 || section >= numberOfSections()) return {};
     const auto &place = _layout->sections()[size_t(section)];
     return {0, place.top, bounds().width(), place.rowTops.back() - place.top};
+}
+
+CGRect UITableView::rectForHeaderInSection(qint64 section) {
+    if (section < 0 || section >= numberOfSections()) return {};
+    const auto &place = _layout->sections()[size_t(section)];
+    return {0, place.top, bounds().width(), place.rowTops.front() - place.top};
 }
 
 CGRect UITableView::rectForRowAtIndexPath(NSIndexPath indexPath) {
@@ -195,13 +222,17 @@ std::vector<NSIndexPath> UITableView::indexPathsForVisibleRows() {
     return _rowsInView();
 }
 
-void UITableView::setBounds(const CGRect &bounds) {
-    const bool isWider = bounds.width() != this->bounds().width();
-    UIView::setBounds(bounds);
-    if (!_layout) return;
+std::vector<NSIndexPath> UITableView::rowsWithCells() {
+    _loadIfNeeded();
+    std::vector<NSIndexPath> rows;
     for (const auto &[path, cell] : _cells)
-        if (isWider) cell->setFrame({0, cell->frame().top(), bounds.width(), cell->frame().height()});
-    _layOut();
+        rows.push_back(path);
+    return rows;
+}
+
+void UITableView::setBounds(const CGRect &bounds) {
+    UIView::setBounds(bounds);
+    if (_layout) _layOut();
 }
 
 void UITableView::scrollToRowAtIndexPath(NSIndexPath indexPath, UITableViewScrollPosition position, bool animated) {
@@ -212,8 +243,6 @@ void UITableView::scrollToRowAtIndexPath(NSIndexPath indexPath, UITableViewScrol
     switch (position) {
     case UITableViewScrollPositionTop:
         return _scrollTo(top, animated);
-    case UITableViewScrollPositionMiddle:
-        return _scrollTo((top + end - height) / 2, animated);
     case UITableViewScrollPositionBottom:
         return _scrollTo(end - height, animated);
     case UITableViewScrollPositionNone:
@@ -223,12 +252,12 @@ void UITableView::scrollToRowAtIndexPath(NSIndexPath indexPath, UITableViewScrol
 }
 
 void UITableView::_scrollTo(double top, bool animated) {
-    const auto go = [table = std::weak_ptr(std::static_pointer_cast<UITableView>(shared_from_this())), top, animated] {
+    const auto go = [table = std::weak_ptr(sharedPointer(this)), top, animated] {
         const auto self = table.lock();
         if (!self) return;
         const double lowest = std::max(0.0, self->_layout->height() - self->bounds().height());
         self->setBounds({{0, std::clamp(top, 0.0, lowest)}, self->bounds().size()});
-        self->_tableObservers.tell([&](UITableViewObserver &observer) { observer.tableViewDidScroll(animated); });
+        self->_tableObservers.tell(&UITableViewObserver::tableViewDidScroll, animated);
     };
     animated ? dispatchMain(go) : go();
 }
@@ -236,21 +265,21 @@ void UITableView::_scrollTo(double top, bool animated) {
 void UITableView::deselectRowAtIndexPath(NSIndexPath indexPath, bool) {
     if (_selectedRow != indexPath) return;
     _selectedRow.reset();
-    _tableObservers.tell([&](UITableViewObserver &observer) { observer.tableViewCellDidChange(indexPath); });
+    _tableObservers.tell(&UITableViewObserver::tableViewCellDidChange, indexPath);
 }
 
 void UITableView::userSelectsRow(NSIndexPath indexPath) {
     _loadIfNeeded();
     if (!_layout->hasRow(indexPath)) return;
     _selectedRow = indexPath;
-    _tableObservers.tell([&](UITableViewObserver &observer) { observer.tableViewCellDidChange(indexPath); });
+    _tableObservers.tell(&UITableViewObserver::tableViewCellDidChange, indexPath);
     if (const auto delegate = _delegate.lock()) delegate->tableViewDidSelectRowAtIndexPath(*this, indexPath);
 }
 
 void UITableView::descendantDidChange(UIView &view) {
     for (const auto &[path, cell] : _cells)
         if (view.isDescendantOfView(*cell))
-            return _tableObservers.tell([&](UITableViewObserver &observer) { observer.tableViewCellDidChange(path); });
+            return _tableObservers.tell(&UITableViewObserver::tableViewCellDidChange, path);
 }
 
 } // namespace korvane

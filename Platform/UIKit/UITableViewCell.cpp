@@ -17,19 +17,10 @@ std::shared_ptr<UITableViewCell> UITableViewCell::initWithStyle(UITableViewCellS
     return cell;
 }
 
-void UITableViewCell::setTextFieldOffset(double offset) {
-    _textFieldOffset = offset;
-    setNeedsDisplay();
-}
-
-void UITableViewCell::setAccessoryType(qint64 type) {
-    _accessoryType = type;
-    setNeedsDisplay();
-}
-
-void UITableViewCell::setSelectionStyle(qint64 style) {
-    _selectionStyle = style;
-    setNeedsDisplay();
+std::shared_ptr<UITextView> UITableViewCell::textView() const {
+    for (const auto &view : subviews())
+        if (auto textView = std::dynamic_pointer_cast<UITextView>(view)) return textView;
+    return nullptr;
 }
 
 void UITableViewCell::prepareForReuse() {

@@ -3,6 +3,7 @@
 
 #include "Platform/UIKit/UILabel.h"
 #include "Platform/UIKit/UITextField.h"
+#include "Platform/UIKit/UITextView.h"
 
 namespace korvane {
 
@@ -30,13 +31,15 @@ public:
     const std::shared_ptr<UILabel> &textLabel() const { return _textLabel; }
     // Null but for style 1000.
     const std::shared_ptr<UITextField> &editableTextField() const { return _editableTextField; }
+    // The text of several lines that the data source has put into the cell; null if there is none.
+    std::shared_ptr<UITextView> textView() const;
     // Points between the cell's edge and the field.
     double textFieldOffset() const { return _textFieldOffset; }
-    void setTextFieldOffset(double offset);
-    qint64 accessoryType() const { return _accessoryType; }
-    void setAccessoryType(qint64 type);
-    qint64 selectionStyle() const { return _selectionStyle; }
-    void setSelectionStyle(qint64 style);
+    void setTextFieldOffset(double offset) { change(_textFieldOffset, offset); }
+    UITableViewCellAccessoryType accessoryType() const { return _accessoryType; }
+    void setAccessoryType(UITableViewCellAccessoryType type) { change(_accessoryType, type); }
+    UITableViewCellSelectionStyle selectionStyle() const { return _selectionStyle; }
+    void setSelectionStyle(UITableViewCellSelectionStyle style) { change(_selectionStyle, style); }
 
     // Before it is given out for another row: the text field is emptied, all else is left to the next user.
     void prepareForReuse();
@@ -49,8 +52,8 @@ private:
     std::shared_ptr<UILabel> _textLabel;
     std::shared_ptr<UITextField> _editableTextField;
     double _textFieldOffset = 15;
-    qint64 _accessoryType = UITableViewCellAccessoryNone;
-    qint64 _selectionStyle = UITableViewCellSelectionStyleDefault;
+    UITableViewCellAccessoryType _accessoryType = UITableViewCellAccessoryNone;
+    UITableViewCellSelectionStyle _selectionStyle = UITableViewCellSelectionStyleDefault;
 };
 
 } // namespace korvane

@@ -11,7 +11,7 @@ bool UITableViewController::_initWithStyle(UITableViewStyle style) {
 }
 
 void UITableViewController::loadView() {
-    const auto self = std::static_pointer_cast<UITableViewController>(shared_from_this());
+    const auto self = sharedPointer(this);
     _tableView = UITableView::initWithStyle(_style);
     _tableView->setDataSource(self);
     _tableView->setDelegate(self);

@@ -3,8 +3,6 @@
 
 #include "Platform/UIKit/UIView.h"
 
-#include <QString>
-
 namespace korvane {
 
 class UITextField;
@@ -26,9 +24,9 @@ public:
 class UITextField : public UIView {
 public:
     const QString &text() const { return _text; }
-    void setText(const QString &text); // asks nobody
+    void setText(const QString &text) { change(_text, text); } // asks nobody
     UIColor textColor() const { return _textColor; }
-    void setTextColor(UIColor color);
+    void setTextColor(UIColor color) { change(_textColor, color); }
     void setDelegate(std::weak_ptr<UITextFieldDelegate> delegate) { _delegate = std::move(delegate); }
 
     // What the user does; the field takes the keyboard first. A range beyond the text is cut to it.
@@ -45,8 +43,6 @@ protected:
     void didResignFirstResponder() override;
 
 private:
-    std::shared_ptr<UITextField> _self() { return std::static_pointer_cast<UITextField>(shared_from_this()); }
-
     QString _text;
     bool _isChanging = false;
     UIColor _textColor = UIColor::Default;

@@ -3,8 +3,6 @@
 
 #include "Platform/UIKit/UIView.h"
 
-#include <QString>
-
 namespace korvane {
 
 class UITextView;
@@ -27,7 +25,7 @@ public:
     static std::shared_ptr<UITextView> initWithFrame(const CGRect &frame);
 
     const QString &text() const { return _text; }
-    void setText(const QString &text); // asks nobody
+    void setText(const QString &text) { change(_text, text); } // asks nobody
     void setDelegate(std::weak_ptr<UITextViewDelegate> delegate) { _delegate = std::move(delegate); }
 
     // What the user does; the view takes the keyboard first. A range beyond the text is cut to it. False, and nothing

@@ -5,6 +5,7 @@
 #include "Platform/UIKit/UIGeometry.h"
 #include "Platform/UIKit/UIResponder.h"
 
+#include <type_traits>
 #include <vector>
 
 namespace korvane {
@@ -32,33 +33,44 @@ public:
     static std::shared_ptr<UIView> init() { return std::make_shared<UIView>(); }
 
     void addObserver(const std::shared_ptr<UIViewObserver> &observer) { _observers.add(observer); }
-    void removeObserver(const std::shared_ptr<UIViewObserver> &observer) { _observers.remove(observer); }
 
     bool isOpaque() const { return _isOpaque; }
-    void setOpaque(bool isOpaque);
+    void setOpaque(bool isOpaque) { change(_isOpaque, isOpaque); }
     UIColor backgroundColor() const { return _backgroundColor; }
-    void setBackgroundColor(UIColor color);
+    void setBackgroundColor(UIColor color) { change(_backgroundColor, color); }
+    // What is behind it shows through: not opaque, and clear.
+    void makeTransparent();
 
-    // In the coordinates of the view above.
+    // Frame and mask are kept as they are set, and move nothing: where a view stands is for the front end, and where a
+    // row of a table stands for UITableView::rectForRowAtIndexPath.
     const CGRect &frame() const { return _frame; }
-    void setFrame(const CGRect &frame);
-    // What is shown of the view, in its own coordinates.
-    const CGRect &bounds() const { return _bounds; }
-    virtual void setBounds(const CGRect &bounds);
+    void setFrame(const CGRect &frame) { change(_frame, frame); }
     quint32 autoresizingMask() const { return _autoresizingMask; } // UIViewAutoresizing bits
     void setAutoresizingMask(quint32 mask) { _autoresizingMask = mask; }
+    // What is shown of the view, in its own coordinates.
+    const CGRect &bounds() const { return _bounds; }
+    virtual void setBounds(const CGRect &bounds) { change(_bounds, bounds); }
 
     void addSubview(const std::shared_ptr<UIView> &view);
     const std::vector<std::shared_ptr<UIView>> &subviews() const { return _subviews; }
     std::shared_ptr<UIView> superview() const { return _superview.lock(); }
     bool isDescendantOfView(const UIView &view) const; // also of itself
+    // What has the keyboard, if that is the view or one below it; else null.
+    std::shared_ptr<UIView> firstResponderWithin() const;
 
 protected:
     // To be called by whoever changes something that is drawn; tells the observers here and above.
     void setNeedsDisplay();
+    // Sets a field that is drawn, and calls the above if that changes it.
+    template <typename Field>
+    void change(Field &field, const std::type_identity_t<Field> &value) {
+        if (field == value) return;
+        field = value;
+        setNeedsDisplay();
+    }
     virtual void descendantDidChange(UIView &) {}
     // For views that are kept elsewhere than among the subviews.
-    void adopt(UIView &view) { view._superview = std::static_pointer_cast<UIView>(shared_from_this()); }
+    void adopt(UIView &view) { view._superview = sharedPointer(this); }
 
 private:
     ObserverList<UIViewObserver> _observers;

@@ -17,7 +17,6 @@ public:
 
     // Loaded when it is first asked for.
     const std::shared_ptr<UIView> &view();
-    bool isViewLoaded() const { return _view != nullptr; }
     virtual void loadView();
     virtual void viewWillAppear(bool animated) { Q_UNUSED(animated) }
     virtual void viewDidAppear(bool animated) { Q_UNUSED(animated) }

@@ -2,6 +2,8 @@
 #include "FlickrPhotoSetController.h"
 #include "Korvane/FlickrComposeViewController.h"
 #include "Korvane/VimeoComposeViewController.h"
+#include "Platform/Accounts/CredentialStore.h"
+#include "Platform/AssetsLibrary/ALAssetsLibrary.h"
 #include "Platform/Preferences/CFPreferences.h"
 #include "Platform/UIKit/UIKeyboard.h"
 #include "Tests/EndToEnd/ServiceHarness.h"
@@ -23,9 +25,7 @@ struct Compose : ServiceTest {
     std::shared_ptr<Sheet> open(std::vector<SLAttachment> attachments) {
         const auto sheet = Sheet::initWithNibName();
         sheet->setAttachments(std::move(attachments));
-        sheet->view();
-        sheet->viewWillAppear(false);
-        sheet->viewDidAppear(false);
+        sheet->appear();
         return sheet;
     }
     std::shared_ptr<FlickrComposeViewController> openFlickr(std::vector<SLAttachment> attachments) {
@@ -135,17 +135,19 @@ TEST_F(Compose, OneOfFiveHundredAlbumsIsChosen) {
 
 TEST_F(Compose, ABatchLosesWhatHasNoDataAndKeepsWhatIsUnknown) {
     const QByteArray path = home.file("source.jpg", jpegOfSize(8000));
+    const QByteArray picture = home.file("library/Pictures/a.png", dataBytes("16bit.png"));
     const auto sheet =
         openFlickr({photo(jpegOfSize(5000)),
                     {SLAttachmentTypeData, std::monostate(), std::nullopt},
                     {SLAttachmentTypeData, std::monostate(), NSURL::fileURLWithPath(home.path("missing.jpg").toUtf8())},
                     {SLAttachmentTypeData, std::monostate(), NSURL::fileURLWithPath(path)},
-                    {1, NSData(QByteArray("what is this")), std::nullopt}});
+                    {1, NSData(QByteArray("what is this")), std::nullopt},
+                    {SLAttachmentTypeAssetURL, *ALAssetsLibrary::assetURLForFile(picture), std::nullopt}});
     ASSERT_TRUE(post(*sheet));
-    ASSERT_TRUE(waitForState("done", 2));
+    ASSERT_TRUE(waitForState("done", 3));
     ASSERT_TRUE(waitForState("failed", 1));
-    EXPECT_EQ(server.photos().size(), 2u);
-    EXPECT_EQ(uploads().size(), 3);
+    EXPECT_EQ(server.photos().size(), 3u);
+    EXPECT_EQ(uploads().size(), 4);
     EXPECT_TRUE(logged("Got imageData with length 0"));
     EXPECT_TRUE(logged("Loaded imageData with length 8000 from payloadSourceFileURL"));
     EXPECT_TRUE(logged("Can't get attachment data for flickr post. error "));
@@ -164,8 +166,24 @@ TEST_F(Compose, ARefusedHandOverCancelsTheRequestWithTheServicesReason) {
     EXPECT_EQ(cancelled->extensionContext()->error()->code(), 3072);
 }
 
+TEST_F(Compose, ASheetThatIsCancelledIsKeptUntilItsAlbumsAreThere) {
+    auto sheet = openFlickr({});
+    EXPECT_FALSE(sheet->isWaitingForAnswers());
+    server.on("getList").delay(300);
+    openOption(*sheet, FlickrComposeItemPhotoSet);
+    sheet->didSelectCancel();
+    EXPECT_TRUE(sheet->isWaitingForAnswers());
+    ASSERT_TRUE(waitFor([&] { return !sheet->isWaitingForAnswers(); }));
+    const std::weak_ptr<FlickrComposeViewController> gone = sheet;
+    sheet.reset();
+    EXPECT_TRUE(gone.expired());
+    QCoreApplication::processEvents();
+}
+
 TEST_F(Compose, WithoutAnAccountThereIsAnAlertAndNoPost) {
     ASSERT_TRUE(ACAccountStore().removeAccount(flickr.account->identifier()));
+    CredentialStore::remove(flickr.vimeoAccount->identifier(), SecretPlace::File);
+    ASSERT_TRUE(openVimeo({})->settingsAlert()) << "an account without its credential is none";
     ASSERT_TRUE(ACAccountStore().removeAccount(flickr.vimeoAccount->identifier()));
     const auto sheet = openFlickr({photo(jpegOfSize(5000))});
     ASSERT_TRUE(sheet->settingsAlert());
@@ -177,6 +195,17 @@ TEST_F(Compose, WithoutAnAccountThereIsAnAlertAndNoPost) {
     ASSERT_TRUE(video->settingsAlert());
     EXPECT_EQ(video->settingsAlert()->targetURL.absoluteString(), QStringLiteral("prefs:root=VIMEO"));
     EXPECT_EQ(servicePid(), 0);
+
+    ACAccountStore store;
+    const auto user = standin::StandIn::flickrCredential();
+    ASSERT_TRUE(store.saveAccount(store.accountTypeWithAccountTypeIdentifier(ACAccountTypeIdentifierFlickr),
+                                  QString::fromUtf8(user.username),
+                                  {QString::fromUtf8(user.consumerKey), QString::fromUtf8(user.consumerSecret),
+                                   QString::fromUtf8(user.token), QString::fromUtf8(user.tokenSecret)}));
+    sheet->dismissSettingsAlert();
+    sheet->appear();
+    EXPECT_FALSE(sheet->settingsAlert());
+    EXPECT_TRUE(post(*sheet));
 }
 
 TEST_F(Compose, StrangeRememberedChoicesAreReadAsTheyCanBe) {
@@ -207,8 +236,7 @@ TEST_F(Compose, AVideoFromItsFirstTagToThePost) {
     tag(0)->userPressesReturn();
     std::dynamic_pointer_cast<UITextField>(UIResponder::firstResponder())
         ->userReplacesCharacters({0, 0}, QStringLiteral("sun"));
-    const auto description = details.cellForRowAtIndexPath({0, 0})->subviews().back();
-    std::dynamic_pointer_cast<UITextView>(description)->userReplacesText({0, 0}, QStringLiteral("Am Meer"));
+    details.cellForRowAtIndexPath({0, 0})->textView()->userReplacesText({0, 0}, QStringLiteral("Am Meer"));
     details.userSelectsRow({1, 3});
     sheet->popConfigurationViewController();
     EXPECT_EQ(&openOption(*sheet, 0), &details) << "the same screen with what was entered";
@@ -234,6 +262,32 @@ TEST_F(Compose, AVideoFromItsFirstTagToThePost) {
     openOption(*next, 0);
     next->popConfigurationViewController();
     EXPECT_EQ(next->privacySettings(), VimeoPrivacyPrivate);
+}
+
+TEST_F(Compose, AVideoGivenAsDataArrivesWithTheRememberedSizeAndPublic) {
+    const QString domain = QStringLiteral("com.zorvex.vimeo-upload");
+    CFPreferencesSetAppValue(QStringLiteral("VideoSize"), qint64(VimeoVideoSizeSmall), domain);
+    CFPreferencesSetAppValue(QStringLiteral("PrivacySetting"), qint64(VimeoPrivacyPrivate), domain);
+    const QByteArray bytes = variedBytes(300'000);
+    const NSURL source = NSURL::fileURLWithPath(home.file("film.mp4", bytes));
+    const SLAttachment attachments[] = {{SLAttachmentTypeVideo, NSData(bytes), std::nullopt},
+                                        {SLAttachmentTypeVideo, std::monostate(), source}};
+    for (int i = 0; i < 2; ++i) {
+        const auto sheet = openVimeo({attachments[i]});
+        EXPECT_EQ(sheet->videoSize(), VimeoVideoSizeSmall);
+        EXPECT_FALSE(sheet->postDescription());
+        EXPECT_FALSE(sheet->tags());
+        sheet->textView()->userReplacesText({0, 0}, QStringLiteral("Film"));
+        ASSERT_TRUE(post(*sheet));
+        ASSERT_TRUE(waitForState("done", i + 1)) << qPrintable(errorOf(i));
+        const auto video = server.videos().at(size_t(i));
+        EXPECT_EQ(video.sha256, sha256Of(bytes));
+        EXPECT_EQ(video.privacy, QStringLiteral("anybody"));
+        EXPECT_EQ(video.description, QString());
+        EXPECT_EQ(video.tags, QStringList());
+    }
+    EXPECT_TRUE(logged("Got videoData with length 300000"));
+    EXPECT_TRUE(logged("Loaded videoData with length 300000 from payloadSourceFileURL"));
 }
 
 TEST_F(Compose, ATitleHasAtMost128BytesAndIsNeverCut) {

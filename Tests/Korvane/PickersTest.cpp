@@ -2,6 +2,7 @@
 #include "FlickrAudienceController.h"
 #include "FlickrPhotoSetController.h"
 #include "Platform/Foundation/NSBundle.h"
+#include "Tests/Support/ShownRows.h"
 #include "Tests/Support/StandInAccount.h"
 #include "Tests/Support/Testing.h"
 
@@ -21,19 +22,6 @@ struct Sheet : FlickrComposeOptionViewDelegate {
         heard.emplace_back(optionView, selection);
     }
 };
-
-// "Public|Friends*": what the rows show.
-QString shown(const UITableViewController &screen) {
-    QStringList rows;
-    for (qint64 row = 0; row < screen.tableView()->numberOfRowsInSection(0); ++row) {
-        const auto cell = screen.tableView()->cellForRowAtIndexPath({row, 0});
-        rows.append(cell->textLabel()->text().value_or(QStringLiteral("(null)")) +
-                    (cell->accessoryType() == UITableViewCellAccessoryCheckmark ? QStringLiteral("*") : QString()));
-        EXPECT_FALSE(cell->isOpaque());
-        EXPECT_EQ(cell->backgroundColor(), UIColor::Clear);
-    }
-    return rows.join(u'|');
-}
 
 struct Pickers : ::testing::Test {
     TemporaryHome home;
@@ -66,16 +54,16 @@ TEST_F(Pickers, AudienceMovesItsMarkAndTellsEachChoice) {
     screen->setAudience(2);
     EXPECT_EQ(screen->preferredContentSize(), CGSize(0, 0)) << "there is no table yet";
     screen->viewWillAppear(false);
-    EXPECT_EQ(shown(*screen), QStringLiteral("Public|Friends|Family*|Only Me"));
+    EXPECT_EQ(shownRows(*screen->tableView()), QStringLiteral("Public|Friends|Family*|Only Me"));
     EXPECT_EQ(screen->preferredContentSize(), CGSize(0, 4 * screen->tableView()->rowHeight()));
     screen->tableView()->userSelectsRow({3, 0});
     screen->tableView()->userSelectsRow({3, 0});
-    EXPECT_EQ(shown(*screen), QStringLiteral("Public|Friends|Family|Only Me*"));
+    EXPECT_EQ(shownRows(*screen->tableView()), QStringLiteral("Public|Friends|Family|Only Me*"));
     ASSERT_EQ(sheet->heard.size(), 2u);
     EXPECT_EQ(sheet->heard[0].first, screen);
     EXPECT_EQ(sheet->heard[0].second, QVariant(quint32(3)));
     screen->tableView()->reloadData();
-    EXPECT_EQ(shown(*screen), QStringLiteral("Public|Friends|Family|Only Me*"));
+    EXPECT_EQ(shownRows(*screen->tableView()), QStringLiteral("Public|Friends|Family|Only Me*"));
     sheet.reset();
     screen->tableView()->userSelectsRow({0, 0}); // nobody hears of it
     EXPECT_EQ(screen->audience(), 0);
@@ -96,17 +84,17 @@ TEST_F(Pickers, AlbumsAreLoadedAndOneIsChosen) {
     EXPECT_FALSE(manager->photoSets());
     EXPECT_EQ(screen->tableView()->numberOfRowsInSection(0), 0);
     ASSERT_TRUE(loaded());
-    EXPECT_EQ(shown(*screen), someAlbums);
+    EXPECT_EQ(shownRows(*screen->tableView()), someAlbums);
     EXPECT_EQ(screen->title(), QStringLiteral("Choose Album"));
     screen->tableView()->userSelectsRow({2, 0});
-    EXPECT_EQ(shown(*screen), QStringLiteral("No album|Holidays|Family & friends*|Straßenfotos 日本"));
+    EXPECT_EQ(shownRows(*screen->tableView()), QStringLiteral("No album|Holidays|Family & friends*|Straßenfotos 日本"));
     const qint64 id = flickr.server.albums()[1].id;
     EXPECT_EQ(screen->photoSetID(), id);
     EXPECT_EQ(sheet->heard.back().second, QVariant(id));
     EXPECT_EQ(screen->photoSetTitle(), QStringLiteral("Family & friends"));
     manager->refreshPhotoSets();
     ASSERT_TRUE(loaded());
-    EXPECT_EQ(shown(*screen), QStringLiteral("No album|Holidays|Family & friends*|Straßenfotos 日本"));
+    EXPECT_EQ(shownRows(*screen->tableView()), QStringLiteral("No album|Holidays|Family & friends*|Straßenfotos 日本"));
     screen->tableView()->userSelectsRow({0, 0});
     EXPECT_EQ(screen->photoSetID(), 0);
     EXPECT_EQ(screen->photoSetTitle(), QStringLiteral("No album"));
@@ -114,17 +102,45 @@ TEST_F(Pickers, AlbumsAreLoadedAndOneIsChosen) {
     EXPECT_EQ(flickr.server.protocolErrors(), QStringList());
 }
 
-TEST_F(Pickers, AlbumsThatCannotBeLoadedLeaveTheRowForNone) {
+TEST_F(Pickers, AlbumsThatCannotBeLoadedLeaveTheRowForNoneAndSayWhy) {
     const LogCapture log;
-    flickr.server.on("getList").fail(500, 1).thenOk();
+    flickr.server.on("getList")
+        .answer(200, "text/xml", "<rsp stat=\"fail\"><err code=\"98\" msg=\"Invalid auth\"/></rsp>")
+        .fail(500, 1)
+        .thenOk();
     const auto screen = albums();
+    for (const char *said : {"Flickr says: Invalid auth", "is not understood"}) {
+        ASSERT_TRUE(loaded());
+        EXPECT_TRUE(says(manager->problem(), said));
+        EXPECT_EQ(shownRows(*screen->tableView()), QStringLiteral("No album*"));
+        manager->refreshPhotoSets();
+        EXPECT_FALSE(manager->problem());
+    }
     ASSERT_TRUE(loaded());
-    EXPECT_EQ(shown(*screen), QStringLiteral("No album*"));
+    EXPECT_FALSE(manager->problem());
+    EXPECT_EQ(shownRows(*screen->tableView()), someAlbums);
     flickr.server.stop();
     manager->refreshPhotoSets();
     ASSERT_TRUE(loaded());
-    EXPECT_EQ(shown(*screen), QStringLiteral("No album*"));
+    EXPECT_EQ(manager->problem()->domain(), NSURLErrorDomain);
+    EXPECT_EQ(shownRows(*screen->tableView()), QStringLiteral("No album*"));
     EXPECT_TRUE(log.lines().join(u'\n').contains(QStringLiteral("########### Error ")));
+}
+
+TEST_F(Pickers, AlbumsOfOneNumberAreAllMarkedAndTheLastCounts) {
+    flickr.server.on("getList").answer(200, "text/xml",
+                                       "<rsp stat=\"ok\"><photosets><photoset id=\"7\"><title>a</title></photoset>"
+                                       "<photoset id=\"8\"><title>b</title></photoset><photoset "
+                                       "id=\"7\"><title>c</title></photoset></photosets></rsp>",
+                                       2);
+    const auto screen = albums();
+    ASSERT_TRUE(loaded());
+    screen->tableView()->userSelectsRow({1, 0});
+    EXPECT_EQ(screen->selectedIndexRow(), 1);
+    manager->refreshPhotoSets();
+    ASSERT_TRUE(loaded());
+    EXPECT_EQ(shownRows(*screen->tableView()), QStringLiteral("No album|a*|b|c*"));
+    EXPECT_EQ(screen->selectedIndexRow(), 3);
 }
 
 TEST_F(Pickers, ASheetThatIsGoneIsNotAskedAndAScreenThatIsGoneStopsTheProcess) {
@@ -133,7 +149,7 @@ TEST_F(Pickers, ASheetThatIsGoneIsNotAskedAndAScreenThatIsGoneStopsTheProcess) {
     ASSERT_TRUE(loaded());
     manager->refreshPhotoSets();
     ASSERT_TRUE(loaded()) << "without an account Flickr refuses, and that is an answer";
-    EXPECT_EQ(shown(*screen), QStringLiteral("No album*"));
+    EXPECT_EQ(shownRows(*screen->tableView()), QStringLiteral("No album*"));
     const auto lose = [&] {
         albums().reset();
         loaded();

@@ -1,7 +1,9 @@
 // The string tables, in all languages, against the keys that the code looks up.
+#include "Platform/Foundation/NSBundle.h"
 #include "Tests/Support/Testing.h"
 
 #include <QDirIterator>
+#include <QLocale>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTranslator>
@@ -25,14 +27,17 @@ QString contents(const QString &path) {
     return QString::fromUtf8(file.readAll());
 }
 
-// The keys in the sources whose names begin with the table's.
+// The keys that are looked up, one or a list at a time, in the sources whose names begin with the table's.
 QSet<QString> keysInSources(const QString &table) {
-    static const QRegularExpression key(QStringLiteral("QStringLiteral\\(\"([A-Z]+(?:_[A-Z]+)*)\"\\)"));
+    static const QRegularExpression lookUp(
+        QStringLiteral("(?:\\blocalized\\w*\\(|\\btitles)\\s*\\{?\\s*((?:QStringLiteral\\(\"[A-Z_]+\"\\),?\\s*)+)"));
+    static const QRegularExpression key(QStringLiteral("\"([A-Z_]+)\""));
     QSet<QString> keys;
     const QDir root(QStringLiteral(KORVANE_SOURCE));
     for (const QString &folder : {QStringLiteral("."), QStringLiteral("Korvane")})
         for (const QFileInfo &file : QDir(root.filePath(folder)).entryInfoList({table + QStringLiteral("*.cpp")}))
-            keys += found(key, contents(file.filePath()));
+            for (const QString &list : found(lookUp, contents(file.filePath())))
+                keys += found(key, list);
     return keys;
 }
 
@@ -56,5 +61,21 @@ TEST(StringTables, HaveATextForEachKeyInEachLanguageAndNoKeyMore) {
                     << qPrintable(name + u' ' + key);
             }
         }
+    }
+}
+
+TEST(StringTablesDeathTest, SpeakTheUsersLanguageElseEnglish) {
+    const std::pair<const char *, const char *> cases[] = {
+        {"de_AT", "Alle"}, {"fr_CA", "Tout le monde"}, {"ja_JP", "全員"}, {"pt_BR", "Public"}, {"C", "Public"}};
+    for (const auto &[locale, text] : cases) {
+        const auto say = [&, name = locale] {
+            QLocale::setDefault(QLocale(QString::fromLatin1(name)));
+            const QString flickr = QStringLiteral("Flickr"), value = QStringLiteral("|");
+            const QString said = NSBundle::localizedString(QStringLiteral("PUBLIC"), value, flickr) +
+                                 NSBundle::localizedString(QStringLiteral("NO_SUCH_KEY"), value, flickr);
+            fputs(qPrintable(said), stderr);
+            _exit(0);
+        };
+        EXPECT_EXIT(say(), ::testing::ExitedWithCode(0), text + std::string("\\|$")) << locale;
     }
 }

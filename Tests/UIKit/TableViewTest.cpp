@@ -11,7 +11,9 @@ namespace {
 struct Screen : UITableViewController {
     QStringList editable{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
     qint64 lastRows = 2;
+    bool reusesCells = true;
     int cellsMade = 0;
+    std::function<void(NSIndexPath)> whileMaking;
 
     static std::shared_ptr<Screen> init() {
         const auto screen = std::make_shared<Screen>();
@@ -35,19 +37,21 @@ struct Screen : UITableViewController {
                                                                     NSIndexPath indexPath) override {
         const bool isEditable = indexPath.section == 1;
         const QString identifier = isEditable ? QStringLiteral("editable") : QStringLiteral("plain");
-        auto cell = tableView.dequeueReusableCellWithIdentifier(identifier);
+        auto cell = reusesCells ? tableView.dequeueReusableCellWithIdentifier(identifier) : nullptr;
         if (!cell) {
             ++cellsMade;
             cell = UITableViewCell::initWithStyle(
                 isEditable ? UITableViewCellStyleEditable : UITableViewCellStyleDefault, identifier);
         }
         if (isEditable) cell->editableTextField()->setText(editable[indexPath.row]);
+        if (isEditable && whileMaking) whileMaking(indexPath);
         return cell;
     }
 };
 
 struct Watcher : UITableViewObserver {
     QStringList heard;
+    std::function<void()> atEachCell;
     void tableViewDidReload() override { heard.append(QStringLiteral("reload")); }
     void tableViewDidInsertRows(const std::vector<NSIndexPath> &paths, UITableViewRowAnimation animation) override {
         heard.append(QStringLiteral("insert %1 %2").arg(paths[0].row).arg(animation));
@@ -56,7 +60,10 @@ struct Watcher : UITableViewObserver {
         heard.append(QStringLiteral("delete %1 %2").arg(paths[0].row).arg(animation));
     }
     void tableViewDidScroll(bool animated) override { heard.append(QStringLiteral("scroll %1").arg(animated)); }
-    void tableViewCellDidChange(NSIndexPath path) override { heard.append(QStringLiteral("cell %1").arg(path.row)); }
+    void tableViewCellDidChange(NSIndexPath path) override {
+        heard.append(QStringLiteral("cell %1").arg(path.row));
+        if (atEachCell) atEachCell();
+    }
 };
 
 struct Table : ::testing::Test {
@@ -68,6 +75,12 @@ struct Table : ::testing::Test {
     std::shared_ptr<UITextField> field(qint64 row) {
         return table.cellForRowAtIndexPath({row, 1})->editableTextField();
     }
+    void fill(int count) {
+        screen->editable.clear();
+        for (int row = 0; row < count; ++row)
+            screen->editable.append(QString::number(row));
+        table.reloadData();
+    }
 };
 
 } // namespace
@@ -77,12 +90,16 @@ TEST_F(Table, StandsWhereItsRowsAndHeadersPutIt) {
     EXPECT_EQ(table.rectForSection(1), CGRect(0, 180, 360, 132));
     EXPECT_EQ(table.rectForSection(2), CGRect(0, 312, 360, 28 + 88));
     EXPECT_EQ(table.rectForRowAtIndexPath({1, 2}), CGRect(0, 312 + 28 + 44, 360, 44));
+    EXPECT_EQ(table.rectForHeaderInSection(2), CGRect(0, 312, 360, 28));
+    EXPECT_EQ(table.rectForHeaderInSection(1).height(), 0);
     EXPECT_TRUE(table.rectForSection(3).isEmpty());
     EXPECT_TRUE(table.rectForRowAtIndexPath({2, 2}).isEmpty());
     EXPECT_EQ(table.contentSize().height(), 428);
     EXPECT_EQ(table.titleForHeaderInSection(2), QStringLiteral("last"));
     EXPECT_FALSE(table.titleForHeaderInSection(0));
     EXPECT_EQ(table.numberOfRowsInSection(-1), 0);
+    table.setRowHeight(50);
+    EXPECT_EQ(table.rectForSection(1), CGRect(0, 180, 360, 150));
 }
 
 TEST_F(Table, HasCellsForTheRowsInViewAndMakesNoMoreThanThose) {
@@ -121,6 +138,8 @@ TEST_F(Table, ReloadGivesEachRowItsOwnCellBackAndItsEditingGoesOn) {
 }
 
 TEST_F(Table, RowsComeAndGoAndTheOthersKeepTheirCells) {
+    screen->lastRows = 100;
+    table.reloadData();
     const auto first = field(0);
     const auto last = field(2);
     last->becomeFirstResponder();
@@ -135,11 +154,54 @@ TEST_F(Table, RowsComeAndGoAndTheOthersKeepTheirCells) {
     table.deleteRowsAtIndexPaths({{0, 1}}, UITableViewRowAnimationAutomatic);
     EXPECT_EQ(field(2), last);
     EXPECT_EQ(table.numberOfRowsInSection(1), 3);
-    EXPECT_TRUE(watcher->heard.contains(QStringLiteral("insert 1 3")));
-    EXPECT_TRUE(watcher->heard.contains(QStringLiteral("delete 0 100")));
     screen->editable.removeAt(2);
     table.deleteRowsAtIndexPaths({{2, 1}}, UITableViewRowAnimationAutomatic);
     EXPECT_FALSE(last->isFirstResponder());
+    const QString all = QStringLiteral("insert 1 3|cell 1|delete 0 100|cell 6|delete 2 100|cell 7");
+    EXPECT_EQ(watcher->heard.join(u'|'), all) << "rows first, then the cells of those that come into view";
+}
+
+TEST_F(Table, ManyRowsGoAtOnce) {
+    fill(6);
+    const auto second = field(1), fifth = field(4), sixth = field(5);
+    screen->editable = {QStringLiteral("1"), QStringLiteral("4"), QStringLiteral("5")};
+    table.deleteRowsAtIndexPaths({{0, 1}, {2, 1}, {3, 1}}, UITableViewRowAnimationAutomatic);
+    EXPECT_EQ(field(0), second);
+    EXPECT_EQ(field(1), fifth);
+    EXPECT_EQ(field(2), sixth);
+}
+
+TEST_F(Table, TheKeyboardGoesWithTheRowAndNotToAnother) {
+    fill(30);
+    field(0)->becomeFirstResponder();
+    screen->editable.removeFirst();
+    table.deleteRowsAtIndexPaths({{0, 1}}, UITableViewRowAnimationAutomatic);
+    EXPECT_FALSE(UIResponder::firstResponder());
+}
+
+TEST_F(Table, ACellInTheMakingGoesWithItsRow) {
+    fill(30);
+    QStringList made;
+    screen->whileMaking = [&](NSIndexPath path) {
+        made.append(screen->editable[path.row]);
+        if (made.size() > 1) return;
+        screen->editable.removeFirst();
+        table.deleteRowsAtIndexPaths({{0, 1}}, UITableViewRowAnimationAutomatic);
+    };
+    table.scrollToRowAtIndexPath({20, 1}, UITableViewScrollPositionBottom, false);
+    EXPECT_GT(made.size(), 5);
+    EXPECT_EQ(made.removeDuplicates(), 0);
+    for (const NSIndexPath path : table.indexPathsForVisibleRows())
+        EXPECT_EQ(field(path.row)->text(), screen->editable[path.row]);
+}
+
+TEST_F(Table, CellsThatAreNeverReusedDoNotGather) {
+    screen->reusesCells = false;
+    table.reloadData();
+    const std::weak_ptr<UITableViewCell> cell = table.cellForRowAtIndexPath({0, 0});
+    table.reloadData();
+    table.reloadData();
+    EXPECT_TRUE(cell.expired());
 }
 
 TEST_F(Table, ACellThatIsGivenToAnotherRowBringsNoTextAlong) {
@@ -162,6 +224,12 @@ TEST_F(Table, ACellThatIsBeingEditedStaysAlsoOutOfView) {
     ASSERT_TRUE(table.cellForRowAtIndexPath({0, 1}));
     EXPECT_EQ(field(0), edited);
     EXPECT_FALSE(table.cellForRowAtIndexPath({1, 1}));
+    watcher->heard.clear();
+    table.reloadData();
+    EXPECT_EQ(watcher->heard.mid(0, 2).join(u'|'), QStringLiteral("reload|cell 0"));
+    EXPECT_EQ(table.rowsWithCells().front(), (NSIndexPath{0, 1}));
+    EXPECT_EQ(field(0), edited);
+    EXPECT_TRUE(edited->isFirstResponder());
 }
 
 TEST_F(Table, AnAnimatedScrollArrivesLater) {
@@ -171,7 +239,7 @@ TEST_F(Table, AnAnimatedScrollArrivesLater) {
     table.scrollToRowAtIndexPath({50, 2}, UITableViewScrollPositionBottom, true);
     EXPECT_FALSE(table.cellForRowAtIndexPath({50, 2}));
     EXPECT_TRUE(waitFor([&] { return table.cellForRowAtIndexPath({50, 2}) != nullptr; }));
-    EXPECT_EQ(watcher->heard, QStringList{QStringLiteral("scroll 1")});
+    EXPECT_EQ(watcher->heard.filter(QStringLiteral("scroll")), QStringList{QStringLiteral("scroll 1")});
 }
 
 TEST_F(Table, TellsWhoWatchesOfEachChangeInACell) {
@@ -182,7 +250,12 @@ TEST_F(Table, TellsWhoWatchesOfEachChangeInACell) {
     EXPECT_TRUE(table.indexPathForSelectedRow());
     table.deselectRowAtIndexPath({1, 0}, true);
     EXPECT_FALSE(table.indexPathForSelectedRow());
+    const auto later = std::make_shared<Watcher>();
+    table.addTableObserver(later);
+    watcher->atEachCell = [&] { table.setBounds({0, 0, 360, 100}); }; // the row's cell goes
+    field(2)->setText(screen->editable[2]);
     field(2)->setText(QStringLiteral("x"));
+    EXPECT_EQ(later->heard, QStringList{QStringLiteral("cell 2")}) << "once, and of the row that was meant";
     EXPECT_EQ(watcher->heard,
               (QStringList{QStringLiteral("cell 1"), QStringLiteral("cell 1"), QStringLiteral("cell 2")}));
     table.userSelectsRow({7, 0});

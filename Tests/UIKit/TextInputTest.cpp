@@ -10,6 +10,7 @@ namespace {
 struct Delegate : UITextFieldDelegate, UITextViewDelegate {
     bool allows = true;
     std::function<void()> whileAsked;
+    std::function<void()> whileEnding;
     QStringList heard;
 
     bool textFieldShouldChangeCharactersInRange(const std::shared_ptr<UITextField> &field, NSRange range,
@@ -21,6 +22,7 @@ struct Delegate : UITextFieldDelegate, UITextViewDelegate {
     }
     void textFieldDidEndEditing(const std::shared_ptr<UITextField> &field) override {
         heard.append(QStringLiteral("end ") + field->text());
+        if (whileEnding) whileEnding();
     }
     bool textViewShouldChangeTextInRange(const std::shared_ptr<UITextView> &, NSRange, const QString &) override {
         return allows;
@@ -77,4 +79,12 @@ TEST_F(TextInput, NobodyTakesTheKeyboardInTheMiddleOfAChange) {
     EXPECT_FALSE(taken);
     EXPECT_EQ(field->text(), QStringLiteral("abcd"));
     EXPECT_TRUE(other->becomeFirstResponder());
+}
+
+TEST_F(TextInput, WhoTakesTheKeyboardBeforeItIsPassedOnKeepsIt) {
+    const auto quick = std::make_shared<UITextField>();
+    field->becomeFirstResponder();
+    delegate->whileEnding = [&] { quick->becomeFirstResponder(); };
+    EXPECT_FALSE(other->becomeFirstResponder());
+    EXPECT_TRUE(quick->isFirstResponder());
 }
