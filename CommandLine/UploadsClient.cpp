@@ -32,7 +32,7 @@ std::vector<Upload> uploadsOf(const QVariant &value) {
 
 } // namespace
 
-UploadsClient::UploadsClient() : _connection(FlickrRemoteServiceName) {}
+UploadsClient::UploadsClient() : _connection(FlickrRemoteServiceName, true) {}
 
 bool UploadsClient::connectToBus(std::optional<NSError> *error) {
     return _connection.open(greetingMilliseconds, error) == ServiceConnection::Answered;

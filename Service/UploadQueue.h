@@ -128,6 +128,7 @@ private:
     bool _started = false;
     bool _mayHaveSuspects = true; // only what is queued again can be one
     bool _suspectRuns = false;
+    bool _awaitsOtherNetwork = false; // than the cellular one, which nothing new may begin on
     std::atomic<bool> _paused = false;
     mutable std::mutex _runningMutex;
     std::map<qint64, Running> _running; // written on the queue's thread under the mutex

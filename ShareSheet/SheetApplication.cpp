@@ -45,8 +45,9 @@ bool SheetApplication::open(const SheetRequest &request) {
     case SheetRequest::Flickr:
     case SheetRequest::Vimeo:
         return _openSheet(request);
-    case SheetRequest::Settings:
     case SheetRequest::Uploads:
+        return _openUploads();
+    case SheetRequest::Settings:
     case SheetRequest::Help:
         break;
     }
@@ -72,6 +73,20 @@ bool SheetApplication::_openSheet(const SheetRequest &request) {
         return false;
     afterNextFrame(*window(), [this] { _sheet->begin(*window()); });
     return true;
+}
+
+bool SheetApplication::_openUploads() {
+    _uploads = std::make_unique<Uploads>();
+    if (!_openWindow(QStringLiteral("UploadsPage"), {{QStringLiteral("uploads"), QVariant::fromValue(_uploads.get())}}))
+        return false;
+    _endWithWindow();
+    return true;
+}
+
+void SheetApplication::_endWithWindow() {
+    connect(window(), &QWindow::visibleChanged, this, [this](bool isVisible) {
+        if (!isVisible) Q_EMIT finished(0);
+    });
 }
 
 bool SheetApplication::_openWindow(const QString &page, const QVariantMap &properties) {

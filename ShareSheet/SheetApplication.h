@@ -3,6 +3,7 @@
 
 #include "ShareSheet/SheetModel.h"
 #include "ShareSheet/SheetRequest.h"
+#include "ShareSheet/Uploads.h"
 
 #include <QQmlApplicationEngine>
 
@@ -31,6 +32,8 @@ Q_SIGNALS:
 
 private:
     bool _openSheet(const SheetRequest &request);
+    bool _openUploads();
+    void _endWithWindow(); // of a page that has no say in it
     // Shows a page of that name (the file's, without its ending) with these properties.
     bool _openWindow(const QString &page, const QVariantMap &properties);
     void _end(int status);
@@ -38,6 +41,7 @@ private:
     std::shared_ptr<SLComposeServiceViewController> _controller;
     std::unique_ptr<AttachmentsModel> _attachments;
     std::unique_ptr<SheetModel> _sheet;
+    std::unique_ptr<Uploads> _uploads;
     std::unique_ptr<QQmlApplicationEngine> _engine; // the first to go
 };
 

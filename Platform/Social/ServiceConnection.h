@@ -4,6 +4,7 @@
 #include "Platform/Foundation/NSError.h"
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QString>
 #include <QVariantList>
 
@@ -23,7 +24,7 @@ public:
     };
 
     // serviceName: the bus name under which the service is reached and started.
-    explicit ServiceConnection(QString serviceName);
+    explicit ServiceConnection(QString serviceName, bool mayBeInterrupted = false);
     ~ServiceConnection() { close(); }
     ServiceConnection(const ServiceConnection &) = delete;
     ServiceConnection &operator=(const ServiceConnection &) = delete;
@@ -33,8 +34,8 @@ public:
     Outcome open(int milliseconds, std::optional<NSError> *error);
     void close();
     bool isOpen() const { return _isOpen; }
-    // Thread: any. A call that is under way ends as Lost, and from now on there is none.
-    void interrupt();
+    // Where that may be, a call that is under way ends as Lost, and so do all after it. Thread: any.
+    void interrupt() { _isInterrupted = true; }
     QDBusConnection bus() const { return QDBusConnection(_connectionName); }
 
     Outcome call(const QString &path, const QString &interface, const QString &member, const QVariantList &arguments,
@@ -43,7 +44,10 @@ public:
 private:
     Outcome _agreeOnSettings(int milliseconds, std::optional<NSError> *error) const;
 
+    QDBusMessage _replyUnlessInterrupted(const QDBusMessage &message, int milliseconds) const;
+
     const QString _serviceName;
+    const bool _mayBeInterrupted;
     const QString _connectionName;
     bool _isOpen = false;
     std::atomic<bool> _isInterrupted = false;

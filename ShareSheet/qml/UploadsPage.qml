@@ -37,7 +37,6 @@ T.Page {
         clip: true
         model: page.uploads.model
         cacheBuffer: 400
-        reuseItems: true
         boundsBehavior: Flickable.StopAtBounds
         activeFocusOnTab: count > 0
         focus: true

@@ -112,6 +112,7 @@ bool PageWindow::tabTo(const std::function<bool(QQuickItem *)> &isIt) {
     for (int i = 0; i < 100; ++i) {
         if (focused() && isIt(focused())) return true;
         press(Qt::Key_Tab);
+        if (qEnvironmentVariableIsSet("SHOWTAB")) qDebug() << focused() << (focused() ? textOf(focused()) : QString());
     }
     return false;
 }
