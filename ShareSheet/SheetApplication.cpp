@@ -9,7 +9,6 @@
 #include "ShareSheet/ThumbnailMaker.h"
 #include "ShareSheet/ThumbnailProvider.h"
 
-#include <QDesktopServices>
 #include <QTimer>
 
 #include <sys/resource.h>
@@ -48,6 +47,7 @@ bool SheetApplication::open(const SheetRequest &request) {
     case SheetRequest::Uploads:
         return _openUploads();
     case SheetRequest::Settings:
+        return _openSettings(request.settingsOf == SheetRequest::Vimeo);
     case SheetRequest::Help:
         break;
     }
@@ -83,6 +83,18 @@ bool SheetApplication::_openUploads() {
     return true;
 }
 
+bool SheetApplication::_openSettings(bool isVimeoFirst) {
+    if (!_openWindow(QStringLiteral("SettingsPage"), _settingsPage(isVimeoFirst))) return false;
+    _endWithWindow();
+    return true;
+}
+
+QVariantMap SheetApplication::_settingsPage(bool isVimeoFirst) {
+    if (!_settings) _settings = std::make_unique<Settings>();
+    return {{QStringLiteral("settings"), QVariant::fromValue(_settings.get())},
+            {QStringLiteral("isVimeoFirst"), isVimeoFirst}};
+}
+
 void SheetApplication::_endWithWindow() {
     connect(window(), &QWindow::visibleChanged, this, [this](bool isVisible) {
         if (!isVisible) Q_EMIT finished(0);
@@ -101,7 +113,13 @@ QQuickWindow *SheetApplication::window() const {
 }
 
 void SheetApplication::openPreferences(const NSURL &address) {
-    QDesktopServices::openUrl(QUrl(address.absoluteString()));
+    QString problem;
+    const auto request = SheetRequest::parse({address.absoluteString().toUtf8()}, problem);
+    if (!request || request->page != SheetRequest::Settings) return;
+    const QVariantMap properties = _settingsPage(request->settingsOf == SheetRequest::Vimeo);
+    QMetaObject::invokeMethod(window(), "openPage",
+                              Q_ARG(QVariant, QUrl(qmlFolder + QStringLiteral("SettingsPage.qml"))),
+                              Q_ARG(QVariant, properties));
 }
 
 // The sheet is kept until nobody waits for its answers any more; the window has gone by then.

@@ -1,6 +1,7 @@
 // The window program: what it is asked to show, and the window that shows it.
 #pragma once
 
+#include "ShareSheet/Settings.h"
 #include "ShareSheet/SheetModel.h"
 #include "ShareSheet/SheetRequest.h"
 #include "ShareSheet/Uploads.h"
@@ -23,6 +24,10 @@ public:
     // Null while no sheet is shown.
     SheetModel *sheet() const { return _sheet.get(); }
 
+    // Null while their pages are not shown.
+    Uploads *uploads() const { return _uploads.get(); }
+    Settings *settings() const { return _settings.get(); }
+
     // Shows the settings that an address "prefs:root=SERVICE" stands for.
     void openPreferences(const NSURL &address);
 
@@ -33,7 +38,9 @@ Q_SIGNALS:
 private:
     bool _openSheet(const SheetRequest &request);
     bool _openUploads();
-    void _endWithWindow(); // of a page that has no say in it
+    bool _openSettings(bool isVimeoFirst);
+    QVariantMap _settingsPage(bool isVimeoFirst); // its properties
+    void _endWithWindow();                        // of a page that has no say in it
     // Shows a page of that name (the file's, without its ending) with these properties.
     bool _openWindow(const QString &page, const QVariantMap &properties);
     void _end(int status);
@@ -42,6 +49,7 @@ private:
     std::unique_ptr<AttachmentsModel> _attachments;
     std::unique_ptr<SheetModel> _sheet;
     std::unique_ptr<Uploads> _uploads;
+    std::unique_ptr<Settings> _settings;
     std::unique_ptr<QQmlApplicationEngine> _engine; // the first to go
 };
 

@@ -30,7 +30,6 @@ Item {
     ActionButton {
         id: removal
 
-        objectName: "remove-" + row.username
         anchors.right: parent.right
         height: parent.height
         text: "✕"

@@ -37,7 +37,6 @@ Column {
     InputField {
         id: key
 
-        objectName: "key-" + panel.serviceName
         x: Theme.margin
         width: parent.width - 2 * Theme.margin
         visible: panel.showsFields
@@ -48,7 +47,6 @@ Column {
     InputField {
         id: secret
 
-        objectName: "secret-" + panel.serviceName
         x: Theme.margin
         width: parent.width - 2 * Theme.margin
         visible: panel.showsFields
@@ -75,7 +73,6 @@ Column {
         width: parent.width - 2 * x
 
         ActionButton {
-            objectName: "storeKeys-" + panel.serviceName
             visible: panel.showsFields
             text: qsTr("Store the keys")
             onClicked: panel.keys.store(key.text, secret.text)
@@ -86,7 +83,6 @@ Column {
             onClicked: panel.isEditing = false
         }
         ActionButton {
-            objectName: "editKeys-" + panel.serviceName
             visible: panel.keys.areStored && !panel.showsFields
             text: qsTr("Other keys…")
             onClicked: {
@@ -96,7 +92,6 @@ Column {
             }
         }
         ActionButton {
-            objectName: "removeKeys-" + panel.serviceName
             visible: panel.keys.areStored && !panel.showsFields
             text: qsTr("Remove the keys")
             onClicked: panel.keys.remove()

@@ -58,7 +58,6 @@ T.Popup {
                 layoutDirection: LayoutMirroring.enabled ? Qt.LeftToRight : Qt.RightToLeft
 
                 ActionButton {
-                    objectName: "accept"
                     text: question.acceptText
                     ink: Theme.problem
                     onClicked: {
@@ -69,7 +68,6 @@ T.Popup {
                 ActionButton {
                     id: keep
 
-                    objectName: "reject"
                     text: question.rejectText
                     onClicked: question.close()
                 }

@@ -26,7 +26,6 @@ T.Page {
     Flickable {
         id: scroll
 
-        objectName: "settings"
         anchors.top: header.bottom
         anchors.bottom: parent.bottom
         anchors.horizontalCenter: parent.horizontalCenter
@@ -67,7 +66,6 @@ T.Page {
                 text: qsTr("Uploads")
             }
             NumberRow {
-                objectName: "flickrParallelUploads"
                 width: parent.width
                 text: qsTr("Photos at a time")
                 choices: [1, 2, 3, 4, 6, 8, 16]
@@ -75,7 +73,6 @@ T.Page {
                 onPicked: number => page.settings.flickrParallelUploads = number
             }
             NumberRow {
-                objectName: "vimeoParallelUploads"
                 width: parent.width
                 text: qsTr("Videos at a time")
                 choices: [1, 2, 3, 4]
@@ -83,14 +80,12 @@ T.Page {
                 onPicked: number => page.settings.vimeoParallelUploads = number
             }
             SwitchRow {
-                objectName: "uploadsOverCellular"
                 width: parent.width
                 text: qsTr("Upload over the cellular network")
                 isOn: page.settings.uploadsOverCellular
                 onToggled: page.settings.uploadsOverCellular = !page.settings.uploadsOverCellular
             }
             NumberRow {
-                objectName: "displayImageMaxPixels"
                 width: parent.width
                 text: qsTr("Largest edge of newly encoded pictures")
                 choices: [0, 1024, 2048, 4096, 8192]

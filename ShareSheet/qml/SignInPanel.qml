@@ -34,13 +34,11 @@ Column {
         visible: panel.isAtRest
 
         ActionButton {
-            objectName: "add-" + panel.serviceName
             text: qsTr("Add an account…")
             enabled: panel.canStart
             onClicked: panel.startAsked(false)
         }
         ActionButton {
-            objectName: "addByCode-" + panel.serviceName
             text: qsTr("Add with a code…")
             enabled: panel.canStart
             Accessible.description: qsTr("For a browser on another device: it shows a code that you type here.")
@@ -61,7 +59,6 @@ Column {
                                      : qsTr("Allow Korvane to upload in the browser that has opened. If none has, open this address on this device:")
     }
     TextEdit {
-        objectName: "address-" + panel.serviceName
         x: Theme.margin
         width: parent.width - 2 * Theme.margin
         visible: panel.signIn.step === "person"
@@ -83,7 +80,6 @@ Column {
     InputField {
         id: code
 
-        objectName: "code-" + panel.serviceName
         x: Theme.margin
         width: parent.width - 2 * Theme.margin
         visible: panel.signIn.step === "person" && panel.signIn.typesCode

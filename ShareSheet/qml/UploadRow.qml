@@ -95,9 +95,9 @@ FocusScope {
             textFormat: Text.PlainText
         }
         ActionButton {
-            objectName: "retry-" + row.uploadID
             visible: row.canRetry
             text: qsTr("Retry")
+            Accessible.name: qsTr("Retry “%1”").arg(row.title)
             leftPadding: 0
             focusPolicy: row.canRetry ? Qt.StrongFocus : Qt.NoFocus
             onClicked: row.retryAsked()
@@ -106,7 +106,6 @@ FocusScope {
     ActionButton {
         id: removal
 
-        objectName: "remove-" + row.uploadID
         anchors.right: parent.right
         anchors.rightMargin: 4
         y: 2

@@ -64,7 +64,6 @@ Column {
             ChoiceButton {
                 required property var modelData
 
-                objectName: "filter-" + modelData.name
                 text: qsTr("%1 (%2)").arg(modelData.text).arg(modelData.count)
                 isChosen: head.uploads.filter === modelData.name
                 onClicked: head.uploads.filter = modelData.name

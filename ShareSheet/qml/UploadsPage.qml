@@ -14,6 +14,7 @@ T.Page {
     background: Rectangle {
         color: Theme.page
     }
+    Keys.onEscapePressed: page.T.ApplicationWindow.window.closePage()
 
     PageHeader {
         id: header
@@ -29,7 +30,7 @@ T.Page {
     ListView {
         id: list
 
-        objectName: "uploadList"
+        objectName: "uploads"
         anchors.top: header.bottom
         anchors.bottom: parent.bottom
         anchors.horizontalCenter: parent.horizontalCenter

@@ -1,15 +1,14 @@
-// GoogleTest with windows that nobody sees.
+// GoogleTest with a window system that nobody sees.
 #include <QGuiApplication>
-#include <QStyleHints>
 
 #include <gtest/gtest.h>
 
 int main(int argc, char **argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("LC_ALL", "C.UTF-8"); // texts and numbers are compared as they are in English
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     qunsetenv("LANGUAGE");
     ::testing::InitGoogleTest(&argc, argv);
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
     QGuiApplication application(argc, argv);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
 }
