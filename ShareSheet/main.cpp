@@ -26,6 +26,7 @@ int main(int argc, char *argv[]) {
     }
     QGuiApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("korvane-sheet"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("korvane-sheet"));
     QGuiApplication::setQuitOnLastWindowClosed(false); // the end has a status
     QTranslator translator;
     if (translator.load(QLocale(), QStringLiteral("Sheet"), QStringLiteral("_"), QStringLiteral(":/korvane/strings")))
