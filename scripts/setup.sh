@@ -5,9 +5,11 @@ set -euo pipefail
 
 packages=(
   ca-certificates g++ cmake ninja-build ccache pkg-config
-  qt6-base-dev qt6-tools-dev qt6-l10n-tools libqt6sql6-sqlite
+  qt6-base-dev qt6-declarative-dev qt6-tools-dev qt6-l10n-tools libqt6sql6-sqlite
+  qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-window
+  qml6-module-qtquick-templates qml6-module-qtqml-workerscript fonts-dejavu-core
   libsecret-1-dev libcurl4-openssl-dev libvips-dev libcpp-httplib-dev libcli11-dev libfmt-dev nlohmann-json3-dev
-  shared-mime-info dbus ffmpeg file
+  shared-mime-info dbus ffmpeg file desktop-file-utils appstream
   libgtest-dev libgmock-dev libbenchmark-dev curl
   "$@"
 )

@@ -179,6 +179,20 @@ std::shared_ptr<ACAccount> ACAccountStore::saveAccount(const ACAccountType &type
     return entry.account();
 }
 
+bool ACAccountStore::useAccount(const QString &identifier, std::optional<NSError> *error) {
+    const auto putLast = [&](QVariantMap &values) {
+        if (!checkList(values, error)) return false;
+        QVariantList list = values.value(accountsKey).toList();
+        const qsizetype position = positionOf(list, identifier);
+        if (position == list.size())
+            return fail(error, ACErrorAccountMissing, QStringLiteral("There is no account \"%1\".").arg(identifier));
+        list.append(list.takeAt(position));
+        values.insert(accountsKey, list);
+        return true;
+    };
+    return accountsFile().update(putLast, error);
+}
+
 bool ACAccountStore::removeAccount(const QString &identifier, std::optional<NSError> *error) {
     std::optional<Entry> removed;
     const auto take = [&](QVariantMap &values) {

@@ -21,6 +21,7 @@ namespace {
 constexpr std::chrono::minutes longestRun(11); // the program gives up by itself after ten
 constexpr int exitPictureUnusable = 1;
 constexpr int exitOutputFailed = 3;
+constexpr std::chrono::seconds longestThumbnail(30);
 constexpr qint64 copyPiece = 256 * 1024;
 
 // Invalid, with errno, if there can be none.
@@ -84,19 +85,44 @@ NSError errorOf(const ChildProcess::Result &result) {
                   : QStringLiteral("the picture cannot be decoded (%1)").arg(result.description()));
 }
 
+// How long a run may take, and who may end it.
+struct Terms {
+    std::chrono::milliseconds timeLimit = longestRun;
+    std::stop_token cancellation;
+    int niceness = 0;
+};
+
 // The error, if there was one.
-std::optional<NSError> runOn(const NSData &picture, const QByteArrayList &arguments, int output) {
+std::optional<NSError> runOn(const NSData &picture, const QByteArrayList &arguments, int output,
+                             const Terms &terms = {}) {
     const FileDescriptor input = fileFor(picture);
     if (!input) return NSError::errorWithErrno(errno, QStringLiteral("the picture's file"));
     ChildProcess program("korvane-picture", arguments);
     program.setStandardInput(input.get());
     program.setStandardOutput(output);
     program.setEnvironmentVariable("TMPDIR", QFile::encodeName(NSTemporaryDirectory()));
-    program.setTimeLimit(longestRun);
+    program.setTimeLimit(terms.timeLimit);
+    program.setCancellation(terms.cancellation);
+    if (terms.niceness > 0) program.setNiceness(terms.niceness);
     std::optional<NSError> error;
     const auto result = program.run(&error);
     if (!result || result->succeeded()) return error;
     return errorOf(*result);
+}
+
+// The program's output, in an unnamed file in the temporary folder.
+std::optional<NSData> outputOf(const NSData &picture, const QByteArrayList &arguments, const Terms &terms,
+                               std::optional<NSError> *error) {
+    const auto fail = [&](const NSError &reason) {
+        setError(error, reason);
+        return std::nullopt;
+    };
+    auto output = std::make_shared<FileDescriptor>(unnamedFile());
+    if (!*output) return fail(NSError::errorWithErrno(errno, NSTemporaryDirectory()));
+    if (const auto reason = runOn(picture, arguments, output->get(), terms)) return fail(*reason);
+    struct stat status;
+    if (::fstat(output->get(), &status) != 0) return fail(NSError::errorWithErrno(errno, NSTemporaryDirectory()));
+    return NSData::dataWithFile(std::move(output), 0, status.st_size);
 }
 
 } // namespace
@@ -107,16 +133,13 @@ std::optional<NSError> PictureProgram::check(const NSData &picture) {
 
 std::optional<NSData> PictureProgram::convert(const NSData &picture, const QByteArrayList &arguments,
                                               std::optional<NSError> *error) {
-    const auto fail = [&](const NSError &reason) {
-        setError(error, reason);
-        return std::nullopt;
-    };
-    auto output = std::make_shared<FileDescriptor>(unnamedFile());
-    if (!*output) return fail(NSError::errorWithErrno(errno, NSTemporaryDirectory()));
-    if (const auto reason = runOn(picture, QByteArrayList{"convert"} + arguments, output->get())) return fail(*reason);
-    struct stat status;
-    if (::fstat(output->get(), &status) != 0) return fail(NSError::errorWithErrno(errno, NSTemporaryDirectory()));
-    return NSData::dataWithFile(std::move(output), 0, status.st_size);
+    return outputOf(picture, QByteArrayList{"convert"} + arguments, {}, error);
+}
+
+std::optional<NSData> PictureProgram::thumbnail(const NSData &picture, int maxPixels, std::stop_token cancellation,
+                                                std::optional<NSError> *error) {
+    return outputOf(picture, {"thumbnail", "--to", "jpeg", "--size", QByteArray::number(maxPixels)},
+                    {longestThumbnail, std::move(cancellation), 5}, error);
 }
 
 } // namespace korvane

@@ -23,7 +23,13 @@ public:
         _end(State::Cancelled);
     }
 
-    // Hears the end of the request, once.
+    // The front end's: after a request that was cancelled with an error the person may try again.
+    void reopen() {
+        _state = State::Open;
+        _error.reset();
+    }
+
+    // Hears each end of the request.
     std::function<void()> ended;
 
 private:

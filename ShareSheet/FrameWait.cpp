@@ -1,0 +1,44 @@
+// Waiting until the window has drawn.
+#include "ShareSheet/FrameWait.h"
+
+#include <QTimer>
+
+namespace korvane {
+namespace {
+
+constexpr int longestWait = 500; // milliseconds
+
+// The first frame that comes may have been begun before the change.
+class FrameWait : public QObject {
+public:
+    FrameWait(QQuickWindow &window, std::function<void()> work)
+        : QObject(&window), _window(window), _work(std::move(work)) {
+        connect(&window, &QQuickWindow::frameSwapped, this, &FrameWait::_frameShown, Qt::QueuedConnection);
+        QTimer::singleShot(longestWait, this, &FrameWait::_end);
+        window.update();
+    }
+
+private:
+    void _frameShown() {
+        if (++_frames < 2) return _window.update();
+        _end();
+    }
+    void _end() {
+        if (!_work) return;
+        const auto work = std::exchange(_work, nullptr);
+        deleteLater();
+        work();
+    }
+
+    QQuickWindow &_window;
+    std::function<void()> _work;
+    int _frames = 0;
+};
+
+} // namespace
+
+void afterNextFrame(QQuickWindow &window, std::function<void()> work) {
+    new FrameWait(window, std::move(work));
+}
+
+} // namespace korvane

@@ -1,0 +1,137 @@
+// The window program.
+#include "ShareSheet/SheetApplication.h"
+
+#include "CommandLine/SystemLog.h"
+#include "Korvane/FlickrComposeViewController.h"
+#include "Korvane/VimeoComposeViewController.h"
+#include "ShareSheet/EditableText.h"
+#include "ShareSheet/FrameWait.h"
+#include "ShareSheet/ThumbnailMaker.h"
+#include "ShareSheet/ThumbnailProvider.h"
+
+#include <QTimer>
+
+#include <sys/resource.h>
+
+namespace korvane {
+namespace {
+
+constexpr int lookInterval = 50; // milliseconds
+const QString qmlFolder = QStringLiteral("qrc:/qt/qml/Korvane/Sheet/qml/");
+
+// Every photo keeps its file open until it is handed over.
+void raiseFileLimit() {
+    rlimit limit{};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
+    limit.rlim_cur = limit.rlim_max;
+    ::setrlimit(RLIMIT_NOFILE, &limit);
+}
+
+} // namespace
+
+SheetApplication::SheetApplication() : _engine(std::make_unique<QQmlApplicationEngine>()) {
+    qmlRegisterType<EditableText>("Korvane.Models", 1, 0, "EditableText");
+    _engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    _engine->addImageProvider(ThumbnailProvider::name(), new ThumbnailProvider(&ThumbnailMaker::make));
+}
+
+SheetApplication::~SheetApplication() {
+    _engine.reset();
+}
+
+bool SheetApplication::open(const SheetRequest &request) {
+    switch (request.page) {
+    case SheetRequest::Flickr:
+    case SheetRequest::Vimeo:
+        return _openSheet(request);
+    case SheetRequest::Uploads:
+        return _openUploads();
+    case SheetRequest::Settings:
+        return _openSettings(request.settingsOf == SheetRequest::Vimeo);
+    case SheetRequest::Help:
+        break;
+    }
+    return false;
+}
+
+bool SheetApplication::_openSheet(const SheetRequest &request) {
+    sendLogToSystemLog();
+    raiseFileLimit();
+    const bool isVideo = request.page == SheetRequest::Vimeo;
+    _attachments = std::make_unique<AttachmentsModel>(
+        isVideo ? AttachmentsModel::Kind::Video : AttachmentsModel::Kind::Photos, request.files);
+    if (isVideo) {
+        _controller = VimeoComposeViewController::initWithNibName();
+    } else {
+        FlickrComposeViewController::forgetUnknownAudience();
+        _controller = FlickrComposeViewController::initWithNibName();
+    }
+    _sheet = std::make_unique<SheetModel>(_controller, *_attachments, isVideo ? qsizetype(VimeoLongestTitle) : 0);
+    connect(_sheet.get(), &SheetModel::finished, this, &SheetApplication::_end);
+    connect(_sheet.get(), &SheetModel::settingsRequested, this, &SheetApplication::openPreferences);
+    if (!_openWindow(QStringLiteral("SheetPage"), {{QStringLiteral("sheet"), QVariant::fromValue(_sheet.get())}}))
+        return false;
+    afterNextFrame(*window(), [this] { _sheet->begin(*window()); });
+    return true;
+}
+
+bool SheetApplication::_openUploads() {
+    _uploads = std::make_unique<Uploads>();
+    if (!_openWindow(QStringLiteral("UploadsPage"), {{QStringLiteral("uploads"), QVariant::fromValue(_uploads.get())}}))
+        return false;
+    _endWithWindow();
+    return true;
+}
+
+bool SheetApplication::_openSettings(bool isVimeoFirst) {
+    if (!_openWindow(QStringLiteral("SettingsPage"), _settingsPage(isVimeoFirst))) return false;
+    _endWithWindow();
+    return true;
+}
+
+QVariantMap SheetApplication::_settingsPage(bool isVimeoFirst) {
+    if (!_settings) _settings = std::make_unique<Settings>();
+    return {{QStringLiteral("settings"), QVariant::fromValue(_settings.get())},
+            {QStringLiteral("isVimeoFirst"), isVimeoFirst}};
+}
+
+void SheetApplication::_endWithWindow() {
+    connect(window(), &QWindow::visibleChanged, this, [this](bool isVisible) {
+        if (!isVisible) Q_EMIT finished(0);
+    });
+}
+
+bool SheetApplication::_openWindow(const QString &page, const QVariantMap &properties) {
+    _engine->setInitialProperties({{QStringLiteral("firstPage"), QUrl(qmlFolder + page + QStringLiteral(".qml"))},
+                                   {QStringLiteral("firstPageProperties"), properties}});
+    _engine->load(QUrl(qmlFolder + QStringLiteral("Main.qml")));
+    return window() != nullptr;
+}
+
+QQuickWindow *SheetApplication::window() const {
+    return qobject_cast<QQuickWindow *>(_engine->rootObjects().value(0));
+}
+
+void SheetApplication::openPreferences(const NSURL &address) {
+    QString problem;
+    const auto request = SheetRequest::parse({address.absoluteString().toUtf8()}, problem);
+    if (!request || request->page != SheetRequest::Settings) return;
+    const QVariantMap properties = _settingsPage(request->settingsOf == SheetRequest::Vimeo);
+    QMetaObject::invokeMethod(window(), "openPage",
+                              Q_ARG(QVariant, QUrl(qmlFolder + QStringLiteral("SettingsPage.qml"))),
+                              Q_ARG(QVariant, properties));
+}
+
+// The sheet is kept until nobody waits for its answers any more; the window has gone by then.
+void SheetApplication::_end(int status) {
+    if (window()) window()->hide();
+    const auto timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, [this, timer, status] {
+        if (_controller->isWaitingForAnswers()) return;
+        timer->stop();
+        Q_EMIT finished(status);
+    });
+    timer->start(_controller->isWaitingForAnswers() ? lookInterval : 0);
+}
+
+} // namespace korvane

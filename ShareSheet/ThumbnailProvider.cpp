@@ -1,0 +1,77 @@
+// Gives the window's pages small pictures of files.
+#include "ShareSheet/ThumbnailProvider.h"
+
+namespace korvane {
+namespace {
+
+constexpr int usualEdge = 256;
+constexpr int largestEdge = 1024;
+
+class Response;
+
+// Where the answer goes; nowhere after the response's end.
+struct Recipient {
+    std::mutex mutex;
+    Response *response = nullptr;
+};
+
+// Says once that it is finished, also where it was cancelled; who asked deletes it after that, or at the window's end.
+class Response : public QQuickImageResponse {
+public:
+    Response(const std::shared_ptr<ThumbnailQueue> &queue, const ThumbnailQueue::Order &order)
+        : _queue(queue), _recipient(std::make_shared<Recipient>()) {
+        _recipient->response = this;
+        queue->ask(order, _wanted, [recipient = _recipient](const QImage &image) {
+            const std::lock_guard lock(recipient->mutex);
+            if (recipient->response) recipient->response->_arrived(image);
+        });
+    }
+    ~Response() override {
+        const std::lock_guard lock(_recipient->mutex);
+        _recipient->response = nullptr;
+        _wanted.request_stop();
+    }
+    QQuickTextureFactory *textureFactory() const override {
+        return QQuickTextureFactory::textureFactoryForImage(_image);
+    }
+    QString errorString() const override {
+        return _image.isNull() ? QStringLiteral("there is no thumbnail") : QString();
+    }
+    void cancel() override {
+        _wanted.request_stop();
+        if (const auto queue = _queue.lock()) queue->dropCancelled();
+    }
+
+private:
+    void _arrived(const QImage &image) {
+        _image = image;
+        QMetaObject::invokeMethod(
+            this, [this] { Q_EMIT finished(); }, Qt::QueuedConnection);
+    }
+
+    std::weak_ptr<ThumbnailQueue> _queue;
+    const std::shared_ptr<Recipient> _recipient;
+    std::stop_source _wanted;
+    QImage _image;
+};
+
+} // namespace
+
+QString ThumbnailProvider::address(const QByteArray &path, bool isVideo) {
+    return QStringLiteral("image://%1/%2/%3")
+        .arg(name(), isVideo ? QStringLiteral("video") : QStringLiteral("photo"), QString::fromLatin1(path.toHex()));
+}
+
+ThumbnailProvider::ThumbnailProvider(ThumbnailQueue::Maker maker)
+    : _queue(std::make_shared<ThumbnailQueue>(std::move(maker))) {}
+
+QQuickImageResponse *ThumbnailProvider::requestImageResponse(const QString &id, const QSize &requestedSize) {
+    ThumbnailQueue::Order order;
+    order.isVideo = id.startsWith(QLatin1String("video/"));
+    order.path = QByteArray::fromHex(id.mid(id.indexOf(u'/') + 1).toLatin1());
+    const int edge = std::max(requestedSize.width(), requestedSize.height());
+    order.edge = edge > 0 ? std::min(edge, largestEdge) : usualEdge;
+    return new Response(_queue, order);
+}
+
+} // namespace korvane

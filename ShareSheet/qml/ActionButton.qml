@@ -1,0 +1,50 @@
+// A button with words; the page's main one stands out.
+import QtQuick
+import QtQuick.Templates as T
+import Korvane.Sheet
+
+T.Button {
+    id: control
+
+    property bool isMain: false
+    property color ink: isMain ? Theme.accentText : Theme.accent
+
+    implicitWidth: Math.max(Theme.touchHeight, label.implicitWidth + leftPadding + rightPadding)
+    implicitHeight: Math.max(Theme.touchHeight, label.implicitHeight + topPadding + bottomPadding)
+    leftPadding: Theme.margin * 0.75
+    rightPadding: leftPadding
+    topPadding: 4
+    bottomPadding: 4
+    focusPolicy: Qt.StrongFocus
+    opacity: enabled ? 1 : 0.45
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+    Keys.onReturnPressed: if (enabled) clicked()
+    Keys.onEnterPressed: if (enabled) clicked()
+
+    contentItem: Text {
+        id: label
+
+        text: control.text
+        color: control.ink
+        font.bold: control.isMain
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        wrapMode: Text.Wrap
+    }
+    background: Rectangle {
+        radius: Theme.radius
+        color: control.isMain ? Theme.accent : control.down ? Theme.pressed : "transparent"
+        opacity: control.isMain && control.down ? 0.8 : 1
+
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: control.isMain ? 3 : 0
+            radius: control.isMain ? Theme.radius - 3 : Theme.radius
+            color: "transparent"
+            border.width: Theme.focusWidth
+            border.color: control.isMain ? Theme.accentText : Theme.focus
+            visible: control.activeFocus
+        }
+    }
+}

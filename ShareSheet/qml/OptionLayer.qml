@@ -1,0 +1,121 @@
+// The option screen over the sheet. It slides in from the side, and out again with its button or a swipe.
+import QtQuick
+import Korvane.Sheet
+
+FocusScope {
+    id: layer
+
+    required property var sheet
+    readonly property bool isShown: sheet.option !== null
+    readonly property bool isMirrored: LayoutMirroring.enabled
+    property real away: isShown ? 0 : 1    // how far it has left, in its own widths
+    property real pulled: 0                // how far a finger has pulled it
+    property var table: null               // kept while it leaves
+    property string heading
+
+    function follow() {
+        if (!sheet.option)
+            return;
+        table = sheet.option;
+        heading = sheet.optionTitle;
+        list.currentIndex = 0;
+        list.positionViewAtBeginning();
+        forceActiveFocus();
+        list.tellRowsSoon();
+    }
+
+    visible: away < 1
+    enabled: isShown
+    onAwayChanged: if (away === 1) pulled = 0
+    Accessible.role: Accessible.Pane
+    Accessible.name: heading
+
+    Behavior on away {
+        NumberAnimation {
+            duration: Theme.slideDuration
+            easing.type: Easing.OutCubic
+        }
+    }
+    Behavior on pulled {
+        enabled: !pull.active
+
+        NumberAnimation {
+            duration: Theme.slideDuration
+        }
+    }
+    Connections {
+        target: layer.sheet
+
+        function onOptionChanged() {
+            layer.follow();
+        }
+    }
+
+    FocusScope {
+        id: screen
+
+        width: parent.width
+        height: parent.height
+        x: Math.max(layer.away, layer.pulled) * width * (layer.isMirrored ? -1 : 1)
+        focus: true
+
+        Rectangle {
+            anchors.fill: parent
+            color: Theme.page
+
+            MouseArea { // nothing below is reached
+                anchors.fill: parent
+            }
+        }
+        PageHeader {
+            id: header
+
+            width: parent.width
+            title: layer.heading
+            leadingText: layer.isMirrored ? "›" : "‹"
+            leadingName: qsTr("Back")
+            onLeadingClicked: layer.sheet.popOption()
+        }
+        TableList {
+            id: list
+
+            anchors.top: header.bottom
+            anchors.bottom: parent.bottom
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.min(parent.width, Theme.widestPage)
+            table: layer.table
+        }
+        Text {
+            anchors.centerIn: list
+            width: list.width - 2 * Theme.margin
+            text: qsTr("Loading…")
+            visible: list.count === 0
+            color: Theme.secondaryText
+            wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignHCenter
+        }
+        Item {
+            x: layer.isMirrored ? parent.width - width : 0
+            y: header.height
+            width: 22
+            height: parent.height - y
+
+            DragHandler {
+                id: pull
+
+                readonly property real way: Math.max(0, activeTranslation.x * (layer.isMirrored ? -1 : 1)) / layer.width
+
+                target: null
+                yAxis.enabled: false
+                grabPermissions: PointerHandler.CanTakeOverFromAnything
+                onWayChanged: if (active) layer.pulled = Math.min(1, way)
+                onActiveChanged: if (!active) {
+                    if (layer.pulled > 0.3)
+                        layer.sheet.popOption();
+                    else
+                        layer.pulled = 0;
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,48 @@
+// Several lines of text to type in.
+import QtQuick
+import QtQuick.Templates as T
+import Korvane.Sheet
+
+T.TextArea {
+    id: area
+
+    property int fewestLines: 3
+
+    implicitHeight: Math.max(Theme.touchHeight, Theme.lineHeight * fewestLines, contentHeight) + topPadding + bottomPadding
+    leftPadding: Theme.margin
+    rightPadding: Theme.margin
+    topPadding: Theme.spacing
+    bottomPadding: Theme.spacing
+    color: Theme.text
+    placeholderTextColor: Theme.secondaryText
+    selectionColor: Theme.accent
+    selectedTextColor: Theme.accentText
+    selectByMouse: true
+    textFormat: TextEdit.PlainText
+    wrapMode: TextEdit.Wrap
+    Accessible.role: Accessible.EditableText
+    Accessible.name: placeholderText
+    Accessible.multiLine: true
+    Keys.onTabPressed: nextItemInFocusChain().forceActiveFocus(Qt.TabFocusReason)
+    Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+
+    background: Rectangle {
+        color: Theme.surface
+
+        FocusRing {
+            control: area
+        }
+    }
+
+    Text {
+        x: area.leftPadding
+        y: area.topPadding
+        width: area.width - area.leftPadding - area.rightPadding
+        text: area.placeholderText
+        color: area.placeholderTextColor
+        wrapMode: Text.Wrap
+        horizontalAlignment: Text.AlignLeft
+        visible: area.length === 0 && area.preeditText.length === 0
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,43 @@
+// A small picture of a photo or video.
+import QtQuick
+import QtQuick.Window
+import Korvane.Sheet
+
+Rectangle {
+    id: tile
+
+    property alias source: picture.source // as ThumbnailProvider gives it
+    property alias fillMode: picture.fillMode
+    property bool isVideo: false
+    property bool isUnusable: false
+    property int edge: 96 // of the square that the picture fills, in the page's units
+
+    implicitWidth: edge
+    implicitHeight: edge
+    radius: 6
+    color: Theme.pressed
+    clip: true
+
+    Image {
+        id: picture
+
+        readonly property int pixels: Math.ceil(tile.edge * Screen.devicePixelRatio * 1.5)
+
+        anchors.fill: parent
+        asynchronous: true
+        cache: false // the provider keeps them
+        fillMode: Image.PreserveAspectCrop
+        sourceSize: Qt.size(pixels, pixels)
+    }
+    Text {
+        anchors.centerIn: parent
+        text: tile.isUnusable ? "!" : "▶"
+        visible: tile.isUnusable || tile.isVideo
+        color: tile.isUnusable ? Theme.problem : "white"
+        style: tile.isUnusable ? Text.Normal : Text.Outline
+        styleColor: "#80000000"
+        font.pixelSize: Theme.lineHeight * 1.6
+        font.bold: true
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,140 @@
+// What a person does in front of the window.
+#include "Tests/ShareSheet/WindowUser.h"
+
+#include "Tests/Support/WaitFor.h"
+
+#include <QAccessible>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QPointingDevice>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace korvane::test {
+namespace {
+
+QPointingDevice *finger() {
+    static QPointingDevice *const device = QTest::createTouchDevice();
+    return device;
+}
+
+bool hasPlace(QQuickItem *item) {
+    const QQuickItem *root = item->window() ? item->window()->contentItem() : nullptr;
+    const QRectF place = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+    return root && place.intersects(QRectF(0, 0, root->width(), root->height())) && place.isValid();
+}
+
+} // namespace
+
+QString WindowUser::nameOf(QQuickItem *item) {
+    QAccessibleInterface *interface = item ? QAccessible::queryAccessibleInterface(item) : nullptr;
+    return interface && interface->role() != QAccessible::NoRole ? interface->text(QAccessible::Name) : QString();
+}
+
+QQuickItem *WindowUser::_search(QQuickItem *item, const std::function<bool(QQuickItem *)> &fits) const {
+    if (!item->isVisible() || item->opacity() == 0) return nullptr;
+    // What is drawn last lies on top.
+    const auto children = item->childItems();
+    for (auto child = children.rbegin(); child != children.rend(); ++child)
+        if (QQuickItem *found = _search(*child, fits)) return found;
+    return hasPlace(item) && fits(item) ? item : nullptr;
+}
+
+QQuickItem *WindowUser::find(const QString &name) const {
+    QQuickItem *found = nullptr;
+    waitFor(
+        [&] {
+            found = _search(_window.contentItem(), [&](QQuickItem *item) { return nameOf(item) == name; });
+            return found != nullptr;
+        },
+        5000);
+    EXPECT_TRUE(found) << "nothing called " << qPrintable(name);
+    return found;
+}
+
+bool WindowUser::sees(const QString &name) const {
+    return _search(_window.contentItem(), [&](QQuickItem *item) { return nameOf(item) == name; }) != nullptr;
+}
+
+bool WindowUser::reads(const QString &text) const {
+    return _search(_window.contentItem(),
+                   [&](QQuickItem *item) { return item->property("text").toString().contains(text); }) != nullptr;
+}
+
+bool WindowUser::isChecked(const QString &name) const {
+    QQuickItem *item = find(name);
+    return item && QAccessible::queryAccessibleInterface(item)->state().checked;
+}
+
+bool WindowUser::isEnabled(const QString &name) const {
+    QQuickItem *item = find(name);
+    return item && item->isEnabled();
+}
+
+QPoint WindowUser::_middleOf(const QString &name) const {
+    waitsUntilStill();
+    QQuickItem *item = find(name);
+    return item ? item->mapToScene({item->width() / 2, item->height() / 2}).toPoint() : QPoint();
+}
+
+void WindowUser::clicks(const QString &name) const {
+    QTest::mouseClick(&_window, Qt::LeftButton, Qt::NoModifier, _middleOf(name));
+    QCoreApplication::processEvents();
+}
+
+void WindowUser::taps(const QString &name) const {
+    const QPoint place = _middleOf(name);
+    QTest::touchEvent(&_window, finger()).press(1, place, &_window);
+    QTest::touchEvent(&_window, finger()).release(1, place, &_window);
+    QCoreApplication::processEvents();
+}
+
+void WindowUser::swipes(QPointF from, QPointF to) const {
+    waitsUntilStill();
+    QTest::touchEvent(&_window, finger()).press(1, from.toPoint(), &_window);
+    for (int step = 1; step <= 8; ++step) {
+        QTest::touchEvent(&_window, finger()).move(1, (from + (to - from) * step / 8).toPoint(), &_window);
+        QTest::qWait(5);
+    }
+    QTest::touchEvent(&_window, finger()).release(1, to.toPoint(), &_window);
+    QCoreApplication::processEvents();
+}
+
+void WindowUser::presses(int key, Qt::KeyboardModifiers modifiers) const {
+    QTest::keyClick(&_window, Qt::Key(key), modifiers);
+    QCoreApplication::processEvents();
+}
+
+void WindowUser::types(const QString &text) const {
+    for (const QChar letter : text) {
+        QTest::sendKeyEvent(QTest::Click, &_window, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+        QCoreApplication::processEvents();
+    }
+}
+
+void WindowUser::composes(const QString &preedit, const QString &commit) const {
+    QInputMethodEvent event(preedit, {});
+    event.setCommitString(commit);
+    QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+    QCoreApplication::processEvents();
+}
+
+QString WindowUser::nameOfFocused() const {
+    waitsUntilStill();
+    return nameOf(focused());
+}
+
+void WindowUser::waitsUntilStill() const {
+    QTest::qWait(20);
+    waitFor(
+        [&] {
+            return !_search(_window.contentItem(), [](QQuickItem *item) {
+                const double away = item->property("away").isValid() ? item->property("away").toDouble() : 0;
+                return away > 0 && away < 1;
+            });
+        },
+        3000);
+}
+
+} // namespace korvane::test
