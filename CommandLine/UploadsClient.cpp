@@ -32,7 +32,7 @@ std::vector<Upload> uploadsOf(const QVariant &value) {
 
 } // namespace
 
-UploadsClient::UploadsClient() : _connection(FlickrRemoteServiceName) {}
+UploadsClient::UploadsClient() : _connection(FlickrRemoteServiceName, true) {}
 
 bool UploadsClient::connectToBus(std::optional<NSError> *error) {
     return _connection.open(greetingMilliseconds, error) == ServiceConnection::Answered;
@@ -60,6 +60,13 @@ std::optional<QVariant> UploadsClient::_property(const QString &name, std::optio
 
 std::optional<std::vector<Upload>> UploadsClient::list(qint64 after, std::optional<NSError> *error) {
     const auto page = _uploads(QStringLiteral("List"), {after, pageSize}, error);
+    if (!page) return std::nullopt;
+    return uploadsOf(*page);
+}
+
+std::optional<std::vector<Upload>> UploadsClient::recent(qint64 before, quint32 limit, const QStringList &states,
+                                                         std::optional<NSError> *error) {
+    const auto page = _uploads(QStringLiteral("Recent"), {before, limit, states}, error);
     if (!page) return std::nullopt;
     return uploadsOf(*page);
 }

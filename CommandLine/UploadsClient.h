@@ -17,7 +17,8 @@ class QDBusServiceWatcher;
 namespace korvane {
 
 // Calls block; the first of them connects, and starts the service where it is not running. Calls that fail place an
-// error of RemoteServiceErrorDomain. Thread: the main one; signals need its event loop.
+// error of RemoteServiceErrorDomain. Thread: the one it lives on;
+// signals need its event loop.
 class UploadsClient : public QObject {
     Q_OBJECT
 
@@ -26,9 +27,14 @@ public:
 
     // Connects to the bus, anew if it was connected. False with the error placed.
     bool connectToBus(std::optional<NSError> *error);
+    // Thread: any. Ends a call that is under way; it and all after it fail.
+    void interrupt() { _connection.interrupt(); }
 
     // Uploads with an id above after, oldest first; empty at the end.
     std::optional<std::vector<Upload>> list(qint64 after, std::optional<NSError> *error);
+    // Uploads with an id below before, newest first and at most limit; of these states, or of all where none is given.
+    std::optional<std::vector<Upload>> recent(qint64 before, quint32 limit, const QStringList &states,
+                                              std::optional<NSError> *error);
     // Goes through all uploads in pages, so that memory does not grow with their number. False with the error placed.
     bool forEach(const std::function<void(const Upload &upload)> &visit, std::optional<NSError> *error);
     // Those that exist, in the order of their ids.

@@ -2,13 +2,27 @@
 #include "Service/Notifier.h"
 
 #include <QDBusMessage>
-#include <QDBusPendingCall>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 
+#include <algorithm>
 #include <chrono>
 
 namespace korvane {
 
-Notifier::Notifier(QDBusConnection bus) : _bus(std::move(bus)) {
+namespace {
+
+constexpr size_t mostRemembered = 50;
+const QString service = QStringLiteral("org.freedesktop.Notifications");
+const QString path = QStringLiteral("/org/freedesktop/Notifications");
+
+} // namespace
+
+Notifier::Notifier(QDBusConnection bus, std::function<void()> showUploads)
+    : _bus(std::move(bus)), _showUploads(std::move(showUploads)) {
+    if (_showUploads)
+        _bus.connect(service, path, service, QStringLiteral("ActionInvoked"), this,
+                     SLOT(_actionInvoked(uint, QString)));
     _gathering.setSingleShot(true);
     _gathering.setInterval(std::chrono::seconds(2));
     connect(&_gathering, &QTimer::timeout, this, &Notifier::_tell);
@@ -37,14 +51,26 @@ void Notifier::_tell() {
     _tallies.clear();
 }
 
-void Notifier::_notify(const QString &summary, const QString &body) const {
-    auto call = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("/org/freedesktop/Notifications"),
-        QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("Notify"));
+void Notifier::_notify(const QString &summary, const QString &body) {
+    auto call = QDBusMessage::createMethodCall(service, path, service, QStringLiteral("Notify"));
+    QStringList actions;
+    if (_showUploads)
+        for (const QString &action : {QStringLiteral("default"), QStringLiteral("show-uploads")})
+            actions += {action, QStringLiteral("Show uploads")};
     // The body is markup to some servers: titles must not be.
-    call.setArguments({QStringLiteral("Korvane"), 0U, QStringLiteral("korvane"), summary, body.toHtmlEscaped(),
-                       QStringList(), QVariantMap(), -1});
-    _bus.asyncCall(call);
+    call.setArguments({QStringLiteral("Korvane"), 0U, QStringLiteral("korvane"), summary, body.toHtmlEscaped(), actions,
+                       QVariantMap{{QStringLiteral("desktop-entry"), QStringLiteral("korvane-sheet")}}, -1});
+    const auto watcher = new QDBusPendingCallWatcher(_bus.asyncCall(call), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        if (const QDBusPendingReply<uint> reply = *watcher; reply.isValid()) _ours.push_back(reply.value());
+        if (_ours.size() > mostRemembered) _ours.pop_front();
+        watcher->deleteLater();
+    });
+}
+
+// Every program hears of every notification's actions.
+void Notifier::_actionInvoked(uint notification, const QString &) {
+    if (std::ranges::find(_ours, notification) != _ours.end()) _showUploads();
 }
 
 } // namespace korvane

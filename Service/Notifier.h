@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QTimer>
 
+#include <deque>
+#include <functional>
 #include <map>
 
 namespace korvane {
@@ -16,8 +18,12 @@ namespace korvane {
 class Notifier : public QObject {
     Q_OBJECT
 public:
-    explicit Notifier(QDBusConnection bus);
+    // showUploads: what "Show uploads" does; without it the notification does not offer that.
+    explicit Notifier(QDBusConnection bus, std::function<void()> showUploads = {});
     void uploadFinished(const UploadJob &job);
+
+private Q_SLOTS:
+    void _actionInvoked(uint notification, const QString &action);
 
 private:
     struct Tally {
@@ -27,9 +33,11 @@ private:
         QString lastReason;
     };
     void _tell();
-    void _notify(const QString &summary, const QString &body) const;
+    void _notify(const QString &summary, const QString &body);
 
     QDBusConnection _bus;
+    const std::function<void()> _showUploads;
+    std::deque<uint> _ours; // ids of the latest notifications
     QTimer _gathering;
     std::map<QString, Tally> _tallies; // by service
 };

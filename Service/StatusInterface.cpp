@@ -62,6 +62,9 @@ bool StatusInterface::_handleUploads(const QDBusMessage &message) {
     message.setDelayedReply(true);
     if (call == QLatin1String("List(xu)"))
         _queue->list(arguments.at(0).toLongLong(), arguments.at(1).toUInt(), _replyTo(message));
+    else if (call == QLatin1String("Recent(xuas)"))
+        _queue->recent(arguments.at(0).toLongLong(), arguments.at(1).toUInt(), arguments.at(2).toStringList(),
+                       _replyTo(message));
     else if (call == QLatin1String("Get(as)"))
         _queue->get(texts(), _replyTo(message));
     else if (call == QLatin1String("OfMessage(s)"))

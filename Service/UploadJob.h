@@ -13,6 +13,8 @@
 namespace korvane {
 
 enum class UploadState { Queued = 0, Running = 1, Waiting = 2, Done = 3, Failed = 4 };
+inline constexpr UploadState allUploadStates[] = {UploadState::Queued, UploadState::Running, UploadState::Waiting,
+                                                  UploadState::Done, UploadState::Failed};
 enum class WaitReason { None = 0, Network = 1, SignIn = 2, NextTry = 3 };
 
 // As the status interface names it.

@@ -6,6 +6,7 @@
 #include "Platform/Foundation/NSLog.h"
 #include "Platform/Preferences/KorvaneSettings.h"
 #include "Platform/Social/RemoteServiceError.h"
+#include "Platform/SystemConfiguration/SCNetworkReachability.h"
 #include "Service/FlickrRunner.h"
 #include "Service/JobAccount.h"
 #include "Service/RecordCodec.h"
@@ -20,7 +21,8 @@ namespace {
 
 constexpr qint64 messageMemory = 7 * 24 * 3'600'000LL; // how long a lost reply may be asked for again
 constexpr qint64 recordAgainAfter = 10'000;
-constexpr qint64 accountHold = 60'000; // an account that is added ends it
+constexpr qint64 networkAgainAfter = 60'000; // nobody tells of a setting that is changed
+constexpr qint64 accountHold = 60'000;       // an account that is added ends it
 
 qint64 now() {
     return QDateTime::currentMSecsSinceEpoch();
@@ -108,6 +110,8 @@ void UploadQueue::_taken(const QString &messageID, const TakenMessage &taken, co
 
 void UploadQueue::_schedule() {
     if (!_started || _paused || _stopped || _suspectRuns || !_unrecorded.empty()) return;
+    _awaitsOtherNetwork = !KorvaneSettings::uploadsOverCellular() && isDefaultRouteCellular();
+    if (_awaitsOtherNetwork) return;
     // What may have ended the service before is tried alone, so that its end names the culprit.
     const auto suspect = _mayHaveSuspects ? _store->suspect() : std::nullopt;
     _mayHaveSuspects = suspect.has_value();
@@ -320,6 +324,7 @@ void UploadQueue::_armWake() {
     std::optional<qint64> due = _store->nextDue();
     for (const auto &[service, hold] : _holds)
         if (hold.until > now()) due = std::min(due.value_or(hold.until), hold.until);
+    if (_awaitsOtherNetwork) due = std::min(due.value_or(now() + networkAgainAfter), now() + networkAgainAfter);
     if (!_unrecorded.empty()) due = now() + recordAgainAfter;
     if (due && _observer.wakeAfter) _observer.wakeAfter(std::max<qint64>(0, *due - now()));
 }

@@ -54,13 +54,14 @@ public:
                   const XPCTransferCompletion &reply);
 
     using Answer = std::function<void(const QVariant &value)>;
-    void list(qint64 after, quint32 limit, const Answer &answer);      // QList<QVariantMap>
-    void get(const QStringList &ids, const Answer &answer);            // QList<QVariantMap>
-    void idsOfMessage(const QString &messageID, const Answer &answer); // QStringList
-    void counts(const Answer &answer);                                 // QVariantMap
-    void retry(const QStringList &ids, const Answer &answer);          // uint
-    void remove(const QStringList &ids, const Answer &answer);         // uint
-    void clear(const Answer &answer);                                  // uint
+    void list(qint64 after, quint32 limit, const Answer &answer);                               // QList<QVariantMap>
+    void recent(qint64 before, quint32 limit, const QStringList &states, const Answer &answer); // QList<QVariantMap>
+    void get(const QStringList &ids, const Answer &answer);                                     // QList<QVariantMap>
+    void idsOfMessage(const QString &messageID, const Answer &answer);                          // QStringList
+    void counts(const Answer &answer);                                                          // QVariantMap
+    void retry(const QStringList &ids, const Answer &answer);                                   // uint
+    void remove(const QStringList &ids, const Answer &answer);                                  // uint
+    void clear(const Answer &answer);                                                           // uint
     void setPaused(bool paused, const Answer &answer);
     bool isPaused() const { return _paused; }
 
@@ -127,6 +128,7 @@ private:
     bool _started = false;
     bool _mayHaveSuspects = true; // only what is queued again can be one
     bool _suspectRuns = false;
+    bool _awaitsOtherNetwork = false; // than the cellular one, which nothing new may begin on
     std::atomic<bool> _paused = false;
     mutable std::mutex _runningMutex;
     std::map<qint64, Running> _running; // written on the queue's thread under the mutex

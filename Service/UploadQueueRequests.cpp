@@ -40,6 +40,21 @@ void UploadQueue::list(qint64 after, quint32 limit, const Answer &answer) {
         answer);
 }
 
+void UploadQueue::recent(qint64 before, quint32 limit, const QStringList &states, const Answer &answer) {
+    _answerWhenDone(
+        [=, this] {
+            std::vector<UploadState> wanted;
+            for (const UploadState state : allUploadStates)
+                if (states.contains(stateText(state))) wanted.push_back(state);
+            QList<QVariantMap> page;
+            if (wanted.empty() != states.isEmpty()) return QVariant::fromValue(page); // only states that there are not
+            for (const UploadJob &job : _store->jobsBefore(before, int(std::min(limit, largestPage)), wanted))
+                page.append(_dictionary(job));
+            return QVariant::fromValue(page);
+        },
+        answer);
+}
+
 void UploadQueue::get(const QStringList &ids, const Answer &answer) {
     _answerWhenDone(
         [=, this] {
@@ -60,8 +75,7 @@ void UploadQueue::counts(const Answer &answer) {
         [this] {
             auto counts = _store->counts();
             QVariantMap named;
-            for (const UploadState state : {UploadState::Queued, UploadState::Running, UploadState::Waiting,
-                                            UploadState::Done, UploadState::Failed})
+            for (const UploadState state : allUploadStates)
                 named.insert(stateText(state), counts[state]);
             return QVariant(named);
         },
@@ -148,7 +162,11 @@ void UploadQueue::setPaused(bool paused, const Answer &answer) {
 void UploadQueue::wake() {
     _queue.async([this] {
         _recordAgain();
-        _requeue(_store->dueBefore(QDateTime::currentMSecsSinceEpoch()));
+        const auto due = _store->dueBefore(QDateTime::currentMSecsSinceEpoch());
+        for (const UploadJob &job : due)
+            if (job.waitReason == WaitReason::SignIn)
+                _holds.erase(job.service); // it is its turn to look for an account
+        _requeue(due);
     });
 }
 

@@ -4,6 +4,7 @@
 #include "Platform/Foundation/Dispatch.h"
 #include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/NSLog.h"
+#include "Platform/Foundation/ProgramPath.h"
 #include "Platform/Social/SessionBus.h"
 #include "Platform/SystemConfiguration/NetworkWatch.h"
 #include "Service/DeathMarker.h"
@@ -13,6 +14,7 @@
 #include <QDBusError>
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QThread>
 
 #include <sys/file.h>
@@ -32,6 +34,13 @@ constexpr auto idleInterval = 5s;
 constexpr auto stopLimit = 45s;  // a commit may have to be waited for
 constexpr int lockAttempts = 50; // a service that is just ending lets go within seconds
 constexpr int lockAttemptMilliseconds = 100;
+
+// Opens the window's page of uploads; null where the window is not installed.
+std::function<void()> uploadsPage() {
+    const QString program = QFile::decodeName(pathOfProgram("korvane-sheet"));
+    if (program.isEmpty()) return {};
+    return [program] { QProcess::startDetached(program, {QStringLiteral("--uploads")}); };
+}
 
 } // namespace
 
@@ -102,7 +111,7 @@ bool UploadService::_openQueue(std::optional<NSError> *error) {
     QDir(_folder + QStringLiteral("/tmp")).removeRecursively();
     setTemporaryDirectory(_folder + QStringLiteral("/tmp"));
     _status = std::make_unique<StatusInterface>(_bus);
-    _notifier = std::make_unique<Notifier>(_bus);
+    _notifier = std::make_unique<Notifier>(_bus, uploadsPage());
     _queue = std::make_unique<UploadQueue>(_folder, RetryPolicy::fromEnvironment(), _observer());
     if (!_queue->open(DeathMarker::isThere(marker), error)) return false;
     DeathMarker::remove(marker);

@@ -127,6 +127,15 @@ std::vector<UploadJob> UploadStore::jobsAfter(qint64 id, int limit) {
     return _select(QStringLiteral("id > ? ORDER BY id LIMIT ?"), {id, limit});
 }
 
+std::vector<UploadJob> UploadStore::jobsBefore(qint64 id, int limit, const std::vector<UploadState> &states) {
+    QVariantList values;
+    for (const UploadState state : states)
+        values.append(int(state));
+    const QString condition =
+        states.empty() ? QString() : QStringLiteral("state IN (%1) AND ").arg(placeholders(values.size()));
+    return _select(condition + QStringLiteral("id < ? ORDER BY id DESC LIMIT ?"), values + QVariantList{id, limit});
+}
+
 std::map<UploadState, qint64> UploadStore::counts() {
     std::map<UploadState, qint64> counts;
     Query query = _prepared(QStringLiteral("SELECT state, uploads FROM counts"));

@@ -40,6 +40,8 @@ public:
     std::optional<UploadJob> job(qint64 id);
     QByteArray record(qint64 id);
     std::vector<UploadJob> jobsAfter(qint64 id, int limit);
+    // The newest first; of these states, or of all where none is given.
+    std::vector<UploadJob> jobsBefore(qint64 id, int limit, const std::vector<UploadState> &states);
     std::map<UploadState, qint64> counts();
 
     // The next queued uploads of a service, oldest first.

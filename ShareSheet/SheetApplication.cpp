@@ -9,7 +9,6 @@
 #include "ShareSheet/ThumbnailMaker.h"
 #include "ShareSheet/ThumbnailProvider.h"
 
-#include <QDesktopServices>
 #include <QLocale>
 #include <QTimer>
 
@@ -50,8 +49,10 @@ bool SheetApplication::open(const SheetRequest &request) {
     case SheetRequest::Flickr:
     case SheetRequest::Vimeo:
         return _openSheet(request);
-    case SheetRequest::Settings:
     case SheetRequest::Uploads:
+        return _openUploads();
+    case SheetRequest::Settings:
+        return _openSettings(request.settingsOf == SheetRequest::Vimeo);
     case SheetRequest::Help:
         break;
     }
@@ -79,6 +80,32 @@ bool SheetApplication::_openSheet(const SheetRequest &request) {
     return true;
 }
 
+bool SheetApplication::_openUploads() {
+    _uploads = std::make_unique<Uploads>();
+    if (!_openWindow(QStringLiteral("UploadsPage"), {{QStringLiteral("uploads"), QVariant::fromValue(_uploads.get())}}))
+        return false;
+    _endWithWindow();
+    return true;
+}
+
+bool SheetApplication::_openSettings(bool isVimeoFirst) {
+    if (!_openWindow(QStringLiteral("SettingsPage"), _settingsPage(isVimeoFirst))) return false;
+    _endWithWindow();
+    return true;
+}
+
+QVariantMap SheetApplication::_settingsPage(bool isVimeoFirst) {
+    if (!_settings) _settings = std::make_unique<Settings>();
+    return {{QStringLiteral("settings"), QVariant::fromValue(_settings.get())},
+            {QStringLiteral("isVimeoFirst"), isVimeoFirst}};
+}
+
+void SheetApplication::_endWithWindow() {
+    connect(window(), &QWindow::visibleChanged, this, [this](bool isVisible) {
+        if (!isVisible) Q_EMIT finished(0);
+    });
+}
+
 bool SheetApplication::_openWindow(const QString &page, const QVariantMap &properties) {
     _engine->setInitialProperties({{QStringLiteral("firstPage"), QUrl(qmlFolder + page + QStringLiteral(".qml"))},
                                    {QStringLiteral("firstPageProperties"), properties}});
@@ -91,7 +118,13 @@ QQuickWindow *SheetApplication::window() const {
 }
 
 void SheetApplication::openPreferences(const NSURL &address) {
-    QDesktopServices::openUrl(QUrl(address.absoluteString()));
+    QString problem;
+    const auto request = SheetRequest::parse({address.absoluteString().toUtf8()}, problem);
+    if (!request || request->page != SheetRequest::Settings) return;
+    const QVariantMap properties = _settingsPage(request->settingsOf == SheetRequest::Vimeo);
+    QMetaObject::invokeMethod(window(), "openPage",
+                              Q_ARG(QVariant, QUrl(qmlFolder + QStringLiteral("SettingsPage.qml"))),
+                              Q_ARG(QVariant, properties));
 }
 
 // The sheet is kept until nobody waits for its answers any more; the window has gone by then.

@@ -1,8 +1,10 @@
 // The window program: what it is asked to show, and the window that shows it.
 #pragma once
 
+#include "ShareSheet/Settings.h"
 #include "ShareSheet/SheetModel.h"
 #include "ShareSheet/SheetRequest.h"
+#include "ShareSheet/Uploads.h"
 
 #include <QQmlApplicationEngine>
 #include <QTranslator>
@@ -23,6 +25,10 @@ public:
     // Null while no sheet is shown.
     SheetModel *sheet() const { return _sheet.get(); }
 
+    // Null while their pages are not shown.
+    Uploads *uploads() const { return _uploads.get(); }
+    Settings *settings() const { return _settings.get(); }
+
     // Shows the settings that an address "prefs:root=SERVICE" stands for.
     void openPreferences(const NSURL &address);
 
@@ -32,6 +38,10 @@ Q_SIGNALS:
 
 private:
     bool _openSheet(const SheetRequest &request);
+    bool _openUploads();
+    bool _openSettings(bool isVimeoFirst);
+    QVariantMap _settingsPage(bool isVimeoFirst); // its properties
+    void _endWithWindow();                        // of a page that has no say in it
     // Shows a page of that name (the file's, without its ending) with these properties.
     bool _openWindow(const QString &page, const QVariantMap &properties);
     void _end(int status);
@@ -40,6 +50,8 @@ private:
     std::shared_ptr<SLComposeServiceViewController> _controller;
     std::unique_ptr<AttachmentsModel> _attachments;
     std::unique_ptr<SheetModel> _sheet;
+    std::unique_ptr<Uploads> _uploads;
+    std::unique_ptr<Settings> _settings;
     std::unique_ptr<QQmlApplicationEngine> _engine; // the first to go
 };
 

@@ -24,6 +24,7 @@ int main(int argc, char *argv[]) {
     }
     QGuiApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("korvane-sheet"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("korvane-sheet"));
     QGuiApplication::setQuitOnLastWindowClosed(false); // the end has a status
     SheetApplication sheet;
     QObject::connect(&sheet, &SheetApplication::finished, &application, &QCoreApplication::exit);

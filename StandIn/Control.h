@@ -6,8 +6,8 @@
 //    only the seed must be there; what is left out is 0, or all operations of both services
 //   {"quota": {"free": BYTES, "hd": true, "sd": true}} or {"quota": null} for the true one again
 //   {"delay": MILLISECONDS} before each answer   {"release": true}   {"clear": true} ends all but the delay
-// Operations are "upload", "getList", "addPhoto", "login"; "getQuota", "getTicket", "chunk", "verify", "complete",
-// "setTitle", "setDescription", "addTags", "setPrivacy".
+// Operations are "request_token", "access_token", "upload", "getList", "addPhoto", "login"; "getQuota", "getTicket",
+// "chunk", "verify", "complete", "setTitle", "setDescription", "addTags", "setPrivacy".
 #pragma once
 
 #include "StandIn/Exchange.h"

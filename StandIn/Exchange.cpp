@@ -1,5 +1,8 @@
 #include "StandIn/Exchange.h"
 
+#include <QDateTime>
+#include <QLocale>
+
 namespace standin {
 
 namespace {
@@ -97,6 +100,9 @@ void Exchange::answer(int status, const QByteArray &contentType, const QByteArra
     const qint64 delay = _context.delay + _fault.delay;
     if (delay > 0 && !_context.gate.sleep(std::chrono::milliseconds(delay))) return _drop();
     if (_fault.kind == Fault::Kind::DropBeforeAnswer) return _drop();
+    setHeader("Date", QLocale::c()
+                          .toString(QDateTime::currentDateTimeUtc(), QStringLiteral("ddd, dd MMM yyyy HH:mm:ss 'GMT'"))
+                          .toLatin1());
     _record.status = status;
     // Before the answer is out, so that a client that has it finds it in the log.
     _context.log.update(_recordIndex, _record);

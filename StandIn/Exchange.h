@@ -9,6 +9,7 @@
 #include "StandIn/PhotoStore.h"
 #include "StandIn/ProtocolErrors.h"
 #include "StandIn/RequestLog.h"
+#include "StandIn/TokenStore.h"
 #include "StandIn/VideoStore.h"
 
 #include <atomic>
@@ -23,6 +24,7 @@ struct ServiceContext {
     VideoStore videos;
     RequestLog log;
     ProtocolErrors protocolErrors;
+    TokenStore tokens;
     Faults faults;
     Gate gate;
     std::atomic<qint64> delay = 0; // milliseconds before each answer

@@ -19,9 +19,17 @@ bool isStored(const QByteArray &name) {
 
 } // namespace
 
-FlickrService::FlickrService(ServiceContext &context) : _context(context), _check(credential()) {}
+FlickrService::FlickrService(ServiceContext &context)
+    : _context(context), _check(credential(), {}, accessSecretsOf(context, credential())),
+      _desk(context, _check, credential(),
+            {.service = "Flickr",
+             .path = "/services/oauth",
+             .permission = "perms",
+             .account = {{"fullname", "Stand In"}, {"user_nsid", UserId}, {"username", credential().username}},
+             .refusal = "oauth_problem=user_refused"}) {}
 
 void FlickrService::addRoutes(HttpServer &server) {
+    _desk.addRoutes(server);
     const auto route = [this](auto serve) { return routeTo(*this, serve, _context); };
     server.Post("/services/upload/?", route(&FlickrService::_upload));
     server.Post("/services/rest/?", route(&FlickrService::_rest));

@@ -4,6 +4,7 @@
 #include "StandIn/Exchange.h"
 #include "StandIn/HttpServer.h"
 #include "StandIn/OAuthCheck.h"
+#include "StandIn/SignInDesk.h"
 
 namespace standin {
 
@@ -29,6 +30,7 @@ private:
 
     ServiceContext &_context;
     OAuthCheck _check;
+    SignInDesk _desk;
 };
 
 } // namespace standin

@@ -26,19 +26,33 @@ QByteArray baseStringUri(const SignedRequest &request) {
 
 } // namespace
 
-OAuthCheck::OAuthCheck(Credential credential, Clock clock)
+OAuthCheck::OAuthCheck(Credential credential, Clock clock, Secrets accessSecrets)
     : _credential(std::move(credential)),
-      _clock(clock ? std::move(clock) : Clock([] { return QDateTime::currentSecsSinceEpoch(); })) {}
+      _clock(clock ? std::move(clock) : Clock([] { return QDateTime::currentSecsSinceEpoch(); })),
+      _accessSecrets(std::move(accessSecrets)) {}
 
 std::optional<QByteArray> OAuthCheck::problem(const SignedRequest &request) {
+    return problem(request, [this](const QByteArray &token) { return _accessSecret(token); });
+}
+
+std::optional<QByteArray> OAuthCheck::_accessSecret(const QByteArray &token) const {
+    if (token == _credential.token) return _credential.tokenSecret;
+    return _accessSecrets ? _accessSecrets(token) : std::nullopt;
+}
+
+std::optional<QByteArray> OAuthCheck::problem(const SignedRequest &request, const Secrets &secrets) {
+    const bool hasToken = bool(secrets);
     const auto oauth = parametersOfHeader(request.authorization);
     if (!oauth)
-        return request.authorization.isEmpty() ? _formProblem({}) : QByteArray("oauth_problem=parameter_rejected");
-    if (const auto problem = _formProblem(*oauth)) return problem;
+        return request.authorization.isEmpty() ? _formProblem({}, hasToken)
+                                               : QByteArray("oauth_problem=parameter_rejected");
+    if (const auto problem = _formProblem(*oauth, hasToken)) return problem;
+    const auto tokenSecret = hasToken ? secrets(valueOf(*oauth, "oauth_token")) : QByteArray();
+    if (!tokenSecret) return QByteArray("oauth_problem=token_rejected");
     if (const auto problem = _timestampProblem(*oauth)) return problem;
 
     const QByteArray base = baseString(request, *oauth);
-    if (valueOf(*oauth, "oauth_signature") != signature(base, _credential.consumerSecret, _credential.tokenSecret))
+    if (valueOf(*oauth, "oauth_signature") != signature(base, _credential.consumerSecret, *tokenSecret))
         return "oauth_problem=signature_invalid&debug_sbs=" + percentEncoded(base);
     if (!_useNonce(*oauth)) return QByteArray("oauth_problem=nonce_used");
     return std::nullopt;
@@ -85,13 +99,15 @@ QByteArray OAuthCheck::signature(const QByteArray &baseString, const QByteArray 
     return QMessageAuthenticationCode::hash(baseString, key, QCryptographicHash::Sha1).toBase64();
 }
 
-std::optional<QByteArray> OAuthCheck::_formProblem(const Parameters &oauth) const {
+std::optional<QByteArray> OAuthCheck::_formProblem(const Parameters &oauth, bool hasToken) const {
     QByteArrayList absent;
     for (const char *name : {"oauth_consumer_key", "oauth_token", "oauth_signature_method", "oauth_signature",
                              "oauth_timestamp", "oauth_nonce"}) {
         const auto count = std::count_if(oauth.begin(), oauth.end(), [&](const auto &p) { return p.first == name; });
-        if (count > 1) return "oauth_problem=parameter_rejected&oauth_parameters_rejected=" + QByteArray(name);
-        if (count == 0 || valueOf(oauth, name).isEmpty()) absent.append(name);
+        const bool isUnwanted = !hasToken && qstrcmp(name, "oauth_token") == 0;
+        if (count > (isUnwanted ? 0 : 1))
+            return "oauth_problem=parameter_rejected&oauth_parameters_rejected=" + QByteArray(name);
+        if (!isUnwanted && valueOf(oauth, name).isEmpty()) absent.append(name);
     }
     if (!absent.isEmpty())
         return "oauth_problem=parameter_absent&oauth_parameters_absent=" + percentEncoded(absent.join('&'));
@@ -103,7 +119,6 @@ std::optional<QByteArray> OAuthCheck::_formProblem(const Parameters &oauth) cons
         return QByteArray("oauth_problem=signature_method_rejected");
     if (valueOf(oauth, "oauth_consumer_key") != _credential.consumerKey)
         return QByteArray("oauth_problem=consumer_key_unknown");
-    if (valueOf(oauth, "oauth_token") != _credential.token) return QByteArray("oauth_problem=token_rejected");
     return std::nullopt;
 }
 

@@ -1,4 +1,4 @@
-// Verifies OAuth 1.0a signatures (RFC 5849, HMAC-SHA1 in the Authorization header) for one user of one application.
+// Verifies OAuth 1.0a signatures (RFC 5849, HMAC-SHA1 in the Authorization header) of one application.
 #pragma once
 
 #include "StandIn/Parameters.h"
@@ -33,14 +33,19 @@ struct SignedRequest {
 class OAuthCheck {
 public:
     using Clock = std::function<qint64()>; // seconds since 1970
+    // The secret of a token; nothing when the token is not known.
+    using Secrets = std::function<std::optional<QByteArray>(const QByteArray &token)>;
 
     static constexpr qint64 TimestampWindow = 300; // seconds that a time stamp may lie in the past or in the future
 
-    explicit OAuthCheck(Credential credential, Clock clock = {});
+    // The credential's token is known in any case.
+    explicit OAuthCheck(Credential credential, Clock clock = {}, Secrets accessSecrets = {});
 
     // Nothing when the request is genuine, else the text that goes out with status 401 ("oauth_problem=…"). A nonce is
     // used up only by a request whose signature holds.
     std::optional<QByteArray> problem(const SignedRequest &request);
+    // The same for a step of a sign-in, which takes those tokens; without a function it takes none.
+    std::optional<QByteArray> problem(const SignedRequest &request, const Secrets &requestSecrets);
 
     // The parameters of an Authorization header, realm left out; nothing when it is not a well-formed OAuth header.
     static std::optional<Parameters> parametersOfHeader(const QByteArray &authorization);
@@ -50,12 +55,14 @@ public:
                                 const QByteArray &tokenSecret);
 
 private:
-    std::optional<QByteArray> _formProblem(const Parameters &oauth) const;
+    std::optional<QByteArray> _accessSecret(const QByteArray &token) const;
+    std::optional<QByteArray> _formProblem(const Parameters &oauth, bool hasToken) const;
     std::optional<QByteArray> _timestampProblem(const Parameters &oauth) const;
     bool _useNonce(const Parameters &oauth);
 
     const Credential _credential;
     const Clock _clock;
+    const Secrets _accessSecrets;
     std::mutex _mutex;
     std::map<qint64, QSet<QByteArray>> _noncesByTimestamp;
 };

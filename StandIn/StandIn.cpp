@@ -194,7 +194,8 @@ bool StandIn::_openState(QString *error) {
         }
     }
     return _context->photos.open(folder, _options.albums, _options.keepBodies, error) &&
-           _context->videos.open(folder, _options.keepBodies, error) && _context->protocolErrors.open(folder, error);
+           _context->videos.open(folder, _options.keepBodies, error) && _context->protocolErrors.open(folder, error) &&
+           _context->tokens.open(folder, error);
 }
 
 void StandIn::_addRoutes() {

@@ -48,15 +48,15 @@ public:
 
     // "http://127.0.0.1:PORT", without a slash at the end.
     QString url() const;
-    // Of the one user that each half knows.
+    // Of the one user that each half knows. Its key pair is that of the only application; sign-ins give further tokens.
     static Credential flickrCredential();
     static Credential vimeoCredential();
     // A video_id that exists and belongs to another user.
     static QByteArray foreignVideoId();
 
-    // "upload" for photos' upload endpoint, "chunk" and "verify" for a ticket's, else the last word of a REST method:
-    // "getList", "addPhoto", "login", "getQuota", "getTicket", "complete", "setTitle", "setDescription", "addTags",
-    // "setPrivacy".
+    // "request_token" and "access_token" of a sign-in, "upload" for photos' upload endpoint, "chunk" and "verify" for a
+    // ticket's, else the last word of a REST method: "getList", "addPhoto", "login", "getQuota", "getTicket",
+    // "complete", "setTitle", "setDescription", "addTags", "setPrivacy".
     FaultQueue &on(const QByteArray &operation);
     // For all requests that no fault is planned for.
     void weather(const Weather &weather);

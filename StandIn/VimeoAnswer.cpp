@@ -29,6 +29,12 @@ QByteArray vimeoFailure(int code, const QByteArray &message, const QByteArray &e
     return answer({{QStringLiteral("err"), err}}, "fail");
 }
 
+QByteArray vimeoLogin(const QByteArray &userId, const QByteArray &username) {
+    const QJsonObject user{{QStringLiteral("id"), QString::fromLatin1(userId)},
+                           {QStringLiteral("username"), QString::fromUtf8(username)}};
+    return vimeoOk({{QStringLiteral("user"), user}});
+}
+
 QByteArray vimeoQuota(const QByteArray &userId, const Quota &quota, qint64 bytesUsed) {
     const QJsonObject space{{QStringLiteral("free"), QString::number(quota.free)},
                             {QStringLiteral("max"), QString::number(quota.free + bytesUsed)},

@@ -8,6 +8,7 @@ namespace standin {
 QByteArray vimeoOk(const QJsonObject &content = {});
 QByteArray vimeoFailure(int code, const QByteArray &message, const QByteArray &explanation);
 
+QByteArray vimeoLogin(const QByteArray &userId, const QByteArray &username);
 QByteArray vimeoQuota(const QByteArray &userId, const Quota &quota, qint64 bytesUsed);
 
 } // namespace standin

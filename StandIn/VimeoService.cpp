@@ -39,9 +39,14 @@ void addTags(Video &video, const QString &tags) {
 
 } // namespace
 
-VimeoService::VimeoService(ServiceContext &context) : _context(context), _check(credential()) {}
+// A person who refuses comes back without a verifier.
+VimeoService::VimeoService(ServiceContext &context)
+    : _context(context), _check(credential(), {}, accessSecretsOf(context, credential())),
+      _desk(context, _check, credential(),
+            {.service = "Vimeo", .path = "/oauth", .permission = "permission", .account = {}, .refusal = {}}) {}
 
 void VimeoService::addRoutes(HttpServer &server) {
+    _desk.addRoutes(server);
     const auto route = [this](auto serve) { return routeTo(*this, serve, _context); };
     server.Post("/api/rest/v2", route(&VimeoService::_rest));
     server.Put("/upload", route(&VimeoService::_put));
@@ -70,6 +75,7 @@ void VimeoService::_rest(Exchange &exchange) {
 
 QByteArray VimeoService::_call(const Exchange &exchange) {
     const QByteArray method = valueOf(exchange.parameters(), "method");
+    if (method == "vimeo.test.login") return vimeoLogin(UserId, credential().username);
     if (method == "vimeo.videos.upload.getQuota") return _quota();
     if (method == "vimeo.videos.upload.getTicket") return _ticket(exchange);
     if (method == "vimeo.videos.upload.complete") return _commit(exchange);

@@ -12,8 +12,8 @@ target_include_directories(korvane INTERFACE
 
 # Headers that no public header includes and an embedding program has no use for.
 set(privateHeaders
-  AssetLocation ChildLaunch CredentialStore CurlPool DataFile ExportPlan ExportProgress HandOver LocalNetwork LockedJSONFile LogOnce MediaInfo MediaProgram NetworkRoute
-  PictureProgram PreferenceDomain RunningChild SecretKeyring ServiceConnection URLTransfer UserBus WireRecord)
+  AssetLocation CallbackListener ChildLaunch CredentialStore CurlPool DataFile ExportPlan ExportProgress HandOver LocalNetwork LockedJSONFile LogOnce MediaInfo MediaProgram NetworkRoute
+  PictureProgram PreferenceDomain RunningChild SecretKeyring ServiceConnection SignInAnswer SignInService URLTransfer UserBus WireRecord)
 list(JOIN privateHeaders "|" privateHeaders)
 
 include(CMakePackageConfigHelpers)

@@ -78,7 +78,7 @@ if [ "$shared" -ne $((${#photos[@]} + ${#videos[@]})) ]; then
   exit 1
 fi
 echo
-echo "${#photos[@]} photos and ${#videos[@]} video(s) arrived."
+echo "${#photos[@]} photo(s) and ${#videos[@]} video(s) arrived."
 if [ -t 0 ] && [ -t 1 ]; then
   read -r -p "Look at them: $url   (Enter ends the demo) "
 else

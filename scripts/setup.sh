@@ -9,7 +9,7 @@ packages=(
   qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-window
   qml6-module-qtquick-templates qml6-module-qtqml-workerscript fonts-dejavu-core
   libsecret-1-dev libcurl4-openssl-dev libvips-dev libcpp-httplib-dev libcli11-dev libfmt-dev nlohmann-json3-dev
-  shared-mime-info dbus ffmpeg file
+  shared-mime-info dbus ffmpeg file desktop-file-utils appstream
   libgtest-dev libgmock-dev libbenchmark-dev curl
   "$@"
 )

@@ -16,10 +16,12 @@ class ACAccountStore {
 public:
     ACAccountType accountTypeWithAccountTypeIdentifier(const QString &identifier) const;
 
-    // In the order in which they were added. Empty, with a log line, if the list cannot be read.
-    std::vector<std::shared_ptr<ACAccount>> accountsWithAccountType(const ACAccountType &type) const;
+    // In the order in which they were added or put into use. Empty, with a log line and the error placed, if the list
+    // cannot be read.
+    std::vector<std::shared_ptr<ACAccount>> accountsWithAccountType(const ACAccountType &type,
+                                                                    std::optional<NSError> *error = nullptr) const;
     std::shared_ptr<ACAccount> accountWithIdentifier(const QString &identifier) const; // null if there is none
-    // The account of that type that was added last, with which posts go out; null if there is none.
+    // The account of that type that was added or put into use last, with which posts go out; null if there is none.
     std::shared_ptr<ACAccount> accountInUse(const QString &typeIdentifier) const;
 
     // Stores an account and its credential; may take up to five seconds. An account of the same type and user name
@@ -28,6 +30,10 @@ public:
     std::shared_ptr<ACAccount> saveAccount(const ACAccountType &type, const QString &username,
                                            const ACAccountCredential &credential,
                                            std::optional<NSError> *error = nullptr);
+
+    // Puts the account behind all others, so that posts of its service go out with it. False with the error placed if
+    // there is none or the list cannot be written.
+    bool useAccount(const QString &identifier, std::optional<NSError> *error = nullptr);
 
     // Removes the account and its credential. False with the error placed if there is none or the list cannot be
     // written.

@@ -35,14 +35,19 @@ QVariantMap mapOf(const ACAccountCredential &credential) {
             {QStringLiteral("tokenSecret"), credential.tokenSecret}};
 }
 
-std::optional<ACAccountCredential> credentialOf(const QVariantMap &map, std::optional<NSError> *error) {
-    for (const auto &key : {QStringLiteral("consumerKey"), QStringLiteral("consumerSecret"), QStringLiteral("token"),
-                            QStringLiteral("tokenSecret")}) {
+QString addAgain(SecretOf kind) {
+    return kind == SecretOf::Account ? QStringLiteral("Add the account again") : QStringLiteral("Enter the keys again");
+}
+
+std::optional<ACAccountCredential> credentialOf(const QVariantMap &map, SecretOf kind, std::optional<NSError> *error) {
+    QStringList needed{QStringLiteral("consumerKey"), QStringLiteral("consumerSecret")};
+    if (kind == SecretOf::Account) needed += {QStringLiteral("token"), QStringLiteral("tokenSecret")};
+    for (const QString &key : std::as_const(needed)) {
         if (map.value(key).typeId() == QMetaType::QString && !map.value(key).toString().isEmpty()) continue;
         setError(error,
                  NSError::errorWithDescription(
                      ACErrorDomain, ACErrorCredentialInvalid,
-                     QStringLiteral("The stored credential has no usable \"%1\". Add the account again.").arg(key)));
+                     QStringLiteral("The stored credential has no usable \"%1\". %2.").arg(key, addAgain(kind))));
         return std::nullopt;
     }
     const auto text = [&map](const char *key) { return map.value(QLatin1String(key)).toString(); };
@@ -54,32 +59,35 @@ std::nullopt_t missing(std::optional<NSError> *error, const QString &text) {
     return std::nullopt;
 }
 
-std::optional<ACAccountCredential> loadFromKeyring(const QString &identifier, std::optional<NSError> *error) {
+std::optional<ACAccountCredential> loadFromKeyring(const QString &identifier, SecretOf kind,
+                                                   std::optional<NSError> *error) {
     if (keyringForbidden())
-        return missing(error, QStringLiteral("It is in the keyring, which KORVANE_SECRETS=file forbids to use. Add the "
-                                             "account again to keep it in a file."));
+        return missing(error,
+                       QStringLiteral("It is in the keyring, which KORVANE_SECRETS=file forbids to use. %1 to keep it "
+                                      "in a file.")
+                           .arg(addAgain(kind)));
     const SecretKeyring::Answer answer = SecretKeyring::load(identifier);
     switch (answer.outcome) {
     case Outcome::Done:
         return credentialOf(NSJSONSerialization::JSONObjectWithData(answer.text.toUtf8()).value_or(QVariant()).toMap(),
-                            error);
+                            kind, error);
     case Outcome::Locked:
         return missing(error, QStringLiteral("The keyring is locked. Unlock it and try again."));
     case Outcome::Missing:
-        return missing(error, QStringLiteral("The keyring does not hold it any more. Add the account again."));
+        return missing(error, QStringLiteral("The keyring does not hold it any more. %1.").arg(addAgain(kind)));
     default:
         return missing(error, QStringLiteral("The keyring cannot be used: %1.").arg(answer.text));
     }
 }
 
-std::optional<ACAccountCredential> loadFromFile(const QString &identifier, std::optional<NSError> *error) {
+std::optional<ACAccountCredential> loadFromFile(const QString &identifier, SecretOf kind,
+                                                std::optional<NSError> *error) {
     const auto values = credentialsFile().read(error);
     if (!values) return std::nullopt;
     sayThatTheFileIsUsed(QStringLiteral("they were not stored in a keyring"));
     if (!values->contains(identifier))
-        return missing(error,
-                       QStringLiteral("%1 does not hold it. Add the account again.").arg(credentialsFile().path()));
-    return credentialOf(values->value(identifier).toMap(), error);
+        return missing(error, QStringLiteral("%1 does not hold it. %2.").arg(credentialsFile().path(), addAgain(kind)));
+    return credentialOf(values->value(identifier).toMap(), kind, error);
 }
 
 std::optional<SecretPlace> storeInFile(const QString &identifier, const ACAccountCredential &credential,
@@ -96,8 +104,9 @@ std::optional<SecretPlace> storeInFile(const QString &identifier, const ACAccoun
 } // namespace
 
 std::optional<ACAccountCredential> CredentialStore::load(const QString &identifier, SecretPlace place,
-                                                         std::optional<NSError> *error) {
-    return place == SecretPlace::Keyring ? loadFromKeyring(identifier, error) : loadFromFile(identifier, error);
+                                                         std::optional<NSError> *error, SecretOf kind) {
+    return place == SecretPlace::Keyring ? loadFromKeyring(identifier, kind, error)
+                                         : loadFromFile(identifier, kind, error);
 }
 
 std::optional<SecretPlace> CredentialStore::store(const QString &identifier, const QString &label,

@@ -1,4 +1,4 @@
-// Where the secrets of accounts are kept: the keyring, or a private file where there is none.
+// Where the secrets of accounts and applications are kept: the keyring, or a private file where there is none.
 #pragma once
 
 #include "Platform/Accounts/ACAccountCredential.h"
@@ -10,12 +10,16 @@ namespace korvane {
 
 enum class SecretPlace { Keyring, File };
 
+// What a secret has to hold to be usable: an account's all four texts, an application's only its key pair.
+enum class SecretOf { Account, Application };
+
 // The file is the configuration folder's credentials.json, mode 0600; its first use is logged. KORVANE_SECRETS=file in
 // the environment keeps the keyring out of everything. Calls may take up to five seconds. Thread: any.
 namespace CredentialStore {
 
-// Null, with the error placed, if there is no usable secret of that account in that place, or it cannot be had now.
-std::optional<ACAccountCredential> load(const QString &identifier, SecretPlace place, std::optional<NSError> *error);
+// Null, with the error placed, if there is no usable secret of that identifier in that place, or it cannot be had now.
+std::optional<ACAccountCredential> load(const QString &identifier, SecretPlace place, std::optional<NSError> *error,
+                                        SecretOf kind = SecretOf::Account);
 
 // Stores or replaces. The place it went to; null, with the error placed, if none took it.
 std::optional<SecretPlace> store(const QString &identifier, const QString &label, const ACAccountCredential &credential,

@@ -107,4 +107,11 @@ int KorvaneSettings::displayImageMaxPixels() {
     return number("DisplayImageMaxPixels", 0, std::numeric_limits<int>::max(), 0);
 }
 
+bool KorvaneSettings::uploadsOverCellular() {
+    const QVariant value = preference("UploadsOverCellular");
+    if (value.isValid() && value.typeId() != QMetaType::Bool)
+        logOnce(QStringLiteral("The preference UploadsOverCellular is ignored: it is neither true nor false."));
+    return value.typeId() != QMetaType::Bool || value.toBool();
+}
+
 } // namespace korvane

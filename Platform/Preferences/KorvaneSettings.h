@@ -28,6 +28,7 @@ QString vimeoSignInHost();
 int flickrParallelUploads(); // "FlickrParallelUploads", 1 to 16, else 3
 int vimeoParallelUploads();  // "VimeoParallelUploads", 1 to 4, else 1
 int displayImageMaxPixels(); // "DisplayImageMaxPixels"; 0 is full size
+bool uploadsOverCellular();  // "UploadsOverCellular", else true
 
 } // namespace KorvaneSettings
 

@@ -66,13 +66,14 @@ QByteArray OAuthSigner::signature(const QByteArray &baseString, const ACAccountC
 
 QByteArray OAuthSigner::authorizationHeader(const QByteArray &method, const NSURL &url,
                                             const OAuthParameters &parameters, const ACAccountCredential &credential,
-                                            qint64 timestamp, const QString &nonce) {
+                                            qint64 timestamp, const QString &nonce, const OAuthParameters &protocol) {
     OAuthParameters oauth{{QStringLiteral("oauth_consumer_key"), credential.consumerKey},
                           {QStringLiteral("oauth_nonce"), nonce},
                           {QStringLiteral("oauth_signature_method"), QStringLiteral("HMAC-SHA1")},
                           {QStringLiteral("oauth_timestamp"), QString::number(timestamp)},
-                          {QStringLiteral("oauth_token"), credential.token},
                           {QStringLiteral("oauth_version"), QStringLiteral("1.0")}};
+    if (!credential.token.isEmpty()) oauth.append({QStringLiteral("oauth_token"), credential.token});
+    oauth += protocol;
     const QByteArray base = signatureBaseString(method, url, parameters + oauth);
     oauth.append({QStringLiteral("oauth_signature"), QString::fromLatin1(signature(base, credential))});
 

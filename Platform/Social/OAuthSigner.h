@@ -28,9 +28,12 @@ QByteArray signatureBaseString(const QByteArray &method, const NSURL &url, const
 // RFC 5849 section 3.4.2, in Base64.
 QByteArray signature(const QByteArray &baseString, const ACAccountCredential &credential);
 
-// The value of the "Authorization" header. The timestamp is in seconds since 1970; no nonce may come twice with it.
+// The value of the "Authorization" header. The timestamp is in seconds since 1970; no nonce may come twice with it. A
+// credential without token signs for the application alone. protocol: further "oauth_" parameters, such as the
+// call-back of a sign-in; they go into the header and are not among the parameters.
 QByteArray authorizationHeader(const QByteArray &method, const NSURL &url, const OAuthParameters &parameters,
-                               const ACAccountCredential &credential, qint64 timestamp, const QString &nonce);
+                               const ACAccountCredential &credential, qint64 timestamp, const QString &nonce,
+                               const OAuthParameters &protocol = {});
 
 } // namespace OAuthSigner
 

@@ -9,10 +9,18 @@
 #include <QDBusArgument>
 #include <QDBusError>
 #include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QUuid>
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
 
 namespace korvane {
 namespace {
+
+constexpr std::chrono::microseconds shortestPause(100);
+constexpr std::chrono::microseconds longestPause(20'000);
 
 void fail(std::optional<NSError> *error, const QString &text) {
     setError(error, NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorUnreachable, text));
@@ -20,11 +28,15 @@ void fail(std::optional<NSError> *error, const QString &text) {
 
 } // namespace
 
+ServiceConnection::ServiceConnection(QString serviceName, bool mayBeInterrupted)
+    : _serviceName(std::move(serviceName)), _mayBeInterrupted(mayBeInterrupted),
+      _connectionName(QUuid::createUuid().toString()) {}
+
 ServiceConnection::Outcome ServiceConnection::open(int milliseconds, std::optional<NSError> *error) {
     close();
     const auto address = SessionBus::addressStartingService(error);
     if (!address) return Failed;
-    _connectionName = QUuid::createUuid().toString();
+    _isOpen = true;
     const auto bus = QDBusConnection::connectToBus(*address, _connectionName);
     if (!bus.isConnected())
         fail(error, QStringLiteral("The session bus cannot be reached: %1").arg(bus.lastError().message()));
@@ -47,7 +59,7 @@ ServiceConnection::Outcome ServiceConnection::_agreeOnSettings(int milliseconds,
 }
 
 void ServiceConnection::close() {
-    if (isOpen()) QDBusConnection::disconnectFromBus(std::exchange(_connectionName, QString()));
+    if (std::exchange(_isOpen, false)) QDBusConnection::disconnectFromBus(_connectionName);
 }
 
 ServiceConnection::Outcome ServiceConnection::call(const QString &path, const QString &interface, const QString &member,
@@ -55,7 +67,8 @@ ServiceConnection::Outcome ServiceConnection::call(const QString &path, const QS
                                                    QVariantList *answer, std::optional<NSError> *error) const {
     auto message = QDBusMessage::createMethodCall(_serviceName, path, interface, member);
     message.setArguments(arguments);
-    const QDBusMessage reply = bus().call(message, QDBus::Block, milliseconds);
+    const QDBusMessage reply = _mayBeInterrupted ? _replyUnlessInterrupted(message, milliseconds)
+                                                 : bus().call(message, QDBus::Block, milliseconds);
     if (reply.type() == QDBusMessage::ReplyMessage) {
         *answer = reply.arguments();
         return Answered;
@@ -63,6 +76,16 @@ ServiceConnection::Outcome ServiceConnection::call(const QString &path, const QS
     fail(error, QStringLiteral("The upload service (korvane-uploadd) cannot be reached: %1").arg(reply.errorMessage()));
     const auto type = QDBusError(reply).type();
     return type == QDBusError::NoReply || type == QDBusError::Disconnected ? Lost : Failed;
+}
+
+// Nothing but the reply wakes who waits for it, not even the connection's end.
+QDBusMessage ServiceConnection::_replyUnlessInterrupted(const QDBusMessage &message, int milliseconds) const {
+    const QDBusPendingCall call = bus().asyncCall(message, milliseconds);
+    for (auto pause = shortestPause; !call.isFinished(); pause = std::min(2 * pause, longestPause)) {
+        if (_isInterrupted) return QDBusMessage::createError(QDBusError::NoReply, QStringLiteral("It was broken off."));
+        std::this_thread::sleep_for(pause);
+    }
+    return call.reply();
 }
 
 } // namespace korvane

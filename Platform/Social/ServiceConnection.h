@@ -4,9 +4,11 @@
 #include "Platform/Foundation/NSError.h"
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QString>
 #include <QVariantList>
 
+#include <atomic>
 #include <optional>
 
 namespace korvane {
@@ -22,7 +24,7 @@ public:
     };
 
     // serviceName: the bus name under which the service is reached and started.
-    explicit ServiceConnection(QString serviceName) : _serviceName(std::move(serviceName)) {}
+    explicit ServiceConnection(QString serviceName, bool mayBeInterrupted = false);
     ~ServiceConnection() { close(); }
     ServiceConnection(const ServiceConnection &) = delete;
     ServiceConnection &operator=(const ServiceConnection &) = delete;
@@ -31,7 +33,9 @@ public:
     // other hosts is not the one that the caller means: Failed, naming the difference.
     Outcome open(int milliseconds, std::optional<NSError> *error);
     void close();
-    bool isOpen() const { return !_connectionName.isEmpty(); }
+    bool isOpen() const { return _isOpen; }
+    // Where that may be, a call that is under way ends as Lost, and so do all after it. Thread: any.
+    void interrupt() { _isInterrupted = true; }
     QDBusConnection bus() const { return QDBusConnection(_connectionName); }
 
     Outcome call(const QString &path, const QString &interface, const QString &member, const QVariantList &arguments,
@@ -40,8 +44,13 @@ public:
 private:
     Outcome _agreeOnSettings(int milliseconds, std::optional<NSError> *error) const;
 
+    QDBusMessage _replyUnlessInterrupted(const QDBusMessage &message, int milliseconds) const;
+
     const QString _serviceName;
-    QString _connectionName;
+    const bool _mayBeInterrupted;
+    const QString _connectionName;
+    bool _isOpen = false;
+    std::atomic<bool> _isInterrupted = false;
 };
 
 } // namespace korvane

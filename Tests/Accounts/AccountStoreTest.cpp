@@ -62,6 +62,21 @@ TEST_F(AccountStore, ReplacesTheCredentialOfAKnownAccountAndRemovesItWithTheAcco
     EXPECT_EQ(error->code(), ACErrorAccountMissing);
 }
 
+TEST_F(AccountStore, PutsAnAccountIntoUse) {
+    const auto first = add(flickr, "ada");
+    ASSERT_TRUE(add(vimeo, "vic"));
+    ASSERT_TRUE(add(flickr, "eva"));
+    EXPECT_EQ(store.accountInUse(flickr.identifier())->username(), QStringLiteral("eva"));
+    ASSERT_TRUE(store.useAccount(first->identifier()));
+    EXPECT_EQ(store.accountInUse(flickr.identifier())->identifier(), first->identifier());
+    EXPECT_EQ(store.accountInUse(flickr.identifier())->credential(), credentialOf("ada"));
+    EXPECT_EQ(store.accountsWithAccountType(flickr).size(), 2U);
+    EXPECT_EQ(store.accountInUse(vimeo.identifier())->username(), QStringLiteral("vic"));
+    std::optional<NSError> error;
+    EXPECT_FALSE(store.useAccount(QStringLiteral("nobody"), &error));
+    EXPECT_EQ(error->code(), ACErrorAccountMissing);
+}
+
 TEST_F(AccountStore, RefusesWhatCannotBeAnAccount) {
     const auto refusal = [this](const ACAccountType &type, const char *username,
                                 const ACAccountCredential &credential) {

@@ -62,5 +62,17 @@ TEST_F(Settings, KeepNumbersWithinTheirRange) {
     }
 }
 
+TEST_F(Settings, AllowTheCellularNetworkUnlessItIsClearlyForbidden) {
+    const std::pair<const char *, bool> cases[] = {{R"({})", true},
+                                                   {R"({"UploadsOverCellular": false})", false},
+                                                   {R"({"UploadsOverCellular": true})", true},
+                                                   {R"({"UploadsOverCellular": "false"})", true}};
+    for (const auto &[text, allowed] : cases) {
+        put(domain, text);
+        EXPECT_EQ(KorvaneSettings::uploadsOverCellular(), allowed) << text;
+    }
+    EXPECT_EQ(log.lines().filter(QStringLiteral("UploadsOverCellular")).size(), 1);
+}
+
 } // namespace
 } // namespace korvane::test

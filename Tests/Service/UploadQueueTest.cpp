@@ -4,6 +4,7 @@
 #include "Platform/Social/RemoteServiceError.h"
 #include "Service/RecordCodec.h"
 #include "Tests/Service/Database.h"
+#include "Tests/Support/DefaultRoute.h"
 #include "Tests/Support/StandInAccount.h"
 #include "Tests/Support/Testing.h"
 
@@ -177,4 +178,19 @@ TEST_F(RefusingDisk, RemovesAllOrNothing) {
     EXPECT_EQ(clear(), 2);
     EXPECT_EQ(countIn(QStringLiteral("done")), 0);
     EXPECT_TRUE(QDir(home.path("spool")).isEmpty());
+}
+
+TEST_F(Queue, BeginsNothingOnACellularNetworkThatMayNotBeUsed) {
+    home.file("config/korvane/preferences/com.zorvex.korvane.json", R"({"UploadsOverCellular": false})");
+    {
+        const DefaultRoute modem("wwan0");
+        start();
+        share();
+        ASSERT_TRUE(waitFor([&] { return countIn(QStringLiteral("queued")) == 1; }));
+        queue.wake();
+        EXPECT_EQ(countIn(QStringLiteral("queued")), 1);
+        EXPECT_EQ(flickr.server.requests().size(), 0U);
+    }
+    queue.networkReturned();
+    EXPECT_TRUE(waitFor([&] { return countIn(QStringLiteral("done")) == 1; }));
 }

@@ -65,6 +65,36 @@ TEST(OAuthSigner, MakesThePublishedHeaders) {
     EXPECT_TRUE(says(update, "oauth_signature=\"tnnArxj06cWHq44gCs1OSKk%2FjLY%3D\""));
 }
 
+TEST(OAuthSigner, SignsTheStepsOfASignIn) {
+    // RFC 5849 section 1.2, whose requests have no "oauth_version".
+    const auto signature = [](const char *target, const char *oauth, const char *token, const char *tokenSecret) {
+        const QByteArray base = OAuthSigner::signatureBaseString(
+            "POST", url(target),
+            OAuthSigner::parametersOfQuery(
+                text(oauth) + text("&oauth_consumer_key=dpf43f3p2l4k3l03&oauth_signature_method=HMAC-SHA1")));
+        return OAuthSigner::signature(base, credential("dpf43f3p2l4k3l03", "kd94hf93k423kf44", token, tokenSecret));
+    };
+    EXPECT_EQ(signature("https://photos.example.net/initiate",
+                        "oauth_timestamp=137131200&oauth_nonce=wIjqoS"
+                        "&oauth_callback=http%3A%2F%2Fprinter.example.com%2Fready",
+                        "", ""),
+              "74KNZJeDHnMBp0EMJ9ZHt/XKycU=");
+    EXPECT_EQ(signature("https://photos.example.net/token",
+                        "oauth_token=hh5s93j4hdidpola&oauth_timestamp=137131201&oauth_nonce=walatlh"
+                        "&oauth_verifier=hfdp7dh39dks9884",
+                        "hh5s93j4hdidpola", "hdhd0244k9j7ao03"),
+              "gKgrFCywp7rO0OXSjdot/IHF7IU=");
+    // dev.twitter.com, "Implementing sign in"
+    const QByteArray header = OAuthSigner::authorizationHeader(
+        "POST", url("https://api.twitter.com/oauth/request_token"), {},
+        credential("cChZNFj6T5R0TigYB9yd1w", "L8qq9PZyRg6ieKGEKhZolGC0vJWLw8iEJ88DRdyOg", "", ""), 1318467427,
+        text("ea9ec8429b68d6b77cd5600adbbb0456"),
+        {{text("oauth_callback"), text("http://localhost/sign-in-with-twitter/")}});
+    EXPECT_TRUE(says(header, "oauth_signature=\"F1Li3tvehgcraF8DMJ7OyxO4w9Y%3D\""));
+    EXPECT_TRUE(says(header, "oauth_callback=\"http%3A%2F%2Flocalhost%2Fsign-in-with-twitter%2F\""));
+    EXPECT_FALSE(says(header, "oauth_token"));
+}
+
 TEST(OAuthSigner, KeepsPortsPathsAndRepeatedNamesApart) {
     const auto base = [](const char *target, const OAuthParameters &parameters) {
         return OAuthSigner::signatureBaseString("GET", url(target), parameters);

@@ -1,0 +1,164 @@
+// What a web service answered to a step of a sign-in.
+#include "Platform/Accounts/SignInAnswer.h"
+
+#include "Platform/Accounts/ACError.h"
+#include "Platform/Foundation/NSJSONSerialization.h"
+#include "Platform/Social/OAuthSigner.h"
+
+#include <QDateTime>
+#include <QRegularExpression>
+
+#include <cstdlib>
+
+namespace korvane {
+namespace {
+
+constexpr qint64 tolerableSeconds = 240; // services take time stamps that are some minutes off
+
+QString durationText(qint64 seconds) {
+    const auto counted = [](qint64 number, const char *unit) {
+        return QStringLiteral("%1 %2%3").arg(number).arg(QLatin1String(unit), QLatin1String(number == 1 ? "" : "s"));
+    };
+    if (seconds >= 2 * 86400) return counted((seconds + 43200) / 86400, "day");
+    if (seconds >= 3300) return counted((seconds + 1800) / 3600, "hour");
+    return counted((seconds + 30) / 60, "minute");
+}
+
+bool isUsable(const QString &text) {
+    return !text.isEmpty() && text.size() <= 1024 &&
+           std::none_of(text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; });
+}
+
+} // namespace
+
+SignInAnswer::SignInAnswer(QString service, std::optional<NSData> body, NSHTTPURLResponse response,
+                           std::optional<NSError> error, qint64 now)
+    : _service(std::move(service)), _body(std::move(body)), _response(std::move(response)),
+      _transportError(std::move(error)), _now(now) {}
+
+std::optional<QMap<QString, QString>> SignInAnswer::values(const QStringList &names,
+                                                           std::optional<NSError> *error) const {
+    const auto fail = [error](NSError failure) {
+        setError(error, std::move(failure));
+        return std::nullopt;
+    };
+    if (auto failure = _failure()) return fail(*std::move(failure));
+    QMap<QString, QString> found;
+    for (const auto &[name, value] : OAuthSigner::parametersOfQuery(QString::fromUtf8(_body->bytes().trimmed()))) {
+        if (found.contains(name)) return fail(_notUnderstood(QStringLiteral("it holds something twice")));
+        found.insert(name, value);
+    }
+    for (const QString &name : names)
+        if (!isUsable(found.value(name)))
+            return fail(_notUnderstood(QStringLiteral("it holds no usable \"%1\"").arg(name)));
+    return found;
+}
+
+std::optional<QString> SignInAnswer::userName(std::optional<NSError> *error) const {
+    if (auto failure = _failure()) {
+        setError(error, std::move(failure));
+        return std::nullopt;
+    }
+    const QVariantMap answer = NSJSONSerialization::JSONObjectWithData(_body->bytes()).value_or(QVariant()).toMap();
+    const QString name = answer.value(QStringLiteral("user")).toMap().value(QStringLiteral("username")).toString();
+    if (isUsable(name)) return name;
+    setError(error, _notUnderstood(QStringLiteral("it names no user")));
+    return std::nullopt;
+}
+
+// Whatever is no answer with status 200 and a body of decent size.
+std::optional<NSError> SignInAnswer::_failure() const {
+    if (!_body) return _unreachable();
+    const int status = _response.statusCode;
+    if (status >= 500 || status == 429)
+        return _error(
+            ACErrorSignInNotPossible,
+            QStringLiteral("%1 is out of order just now (status %2). Try again later.").arg(_service).arg(status));
+    if (_body->length() > mostBytes) return _notUnderstood(QStringLiteral("it is too long"));
+    if (status == 200 && _oauthProblem().isEmpty()) return std::nullopt;
+    if (status == 200 || status == 400 || status == 401 || status == 403) return _refusal();
+    return _notUnderstood(QStringLiteral("status %1").arg(status));
+}
+
+NSError SignInAnswer::_unreachable() const {
+    const NSError cause = _transportError.value_or(NSError(NSURLErrorDomain, NSURLErrorUnknown));
+    const auto told = [&](const QString &text) {
+        return NSError::errorWithDescription(cause.domain(), cause.code(), text);
+    };
+    if (cause.code() == NSURLErrorNotConnectedToInternet)
+        return told(QStringLiteral("There is no network connection. Connect, then sign in again."));
+    if (cause.code() <= NSURLErrorSecureConnectionFailed && cause.code() >= NSURLErrorClientCertificateRequired)
+        return told(QStringLiteral("There is no safe connection to %1 (%2). Check that date and time of this computer "
+                                   "are right, then sign in again.")
+                        .arg(_service, cause.localizedDescription()));
+    return told(QStringLiteral("%1 cannot be reached (%2). Check the network connection, then sign in again.")
+                    .arg(_service, cause.localizedDescription()));
+}
+
+NSError SignInAnswer::_refusal() const {
+    const QString problem = _oauthProblem();
+    const auto isOneOf = [&problem](const char *pattern) {
+        return QRegularExpression(QRegularExpression::anchoredPattern(QLatin1String(pattern)))
+            .match(problem)
+            .hasMatch();
+    };
+    if (isOneOf("timestamp_refused")) return _clockWrong(_secondsAhead());
+    if (isOneOf("consumer_key_.*|signature_invalid"))
+        return _error(ACErrorApplicationKeyRefused,
+                      QStringLiteral("%1 does not take the application's key, or the secret does not belong to it. "
+                                     "Check both and sign in again.")
+                          .arg(_service));
+    if (isOneOf("user_refused|permission_denied"))
+        return _error(ACErrorSignInRefused,
+                      QStringLiteral("Korvane was not allowed to use the %1 account.").arg(_service));
+    if (isOneOf("verifier_.*|permission_unknown"))
+        return _error(ACErrorSignInCodeWrong, QStringLiteral("The code is not the one that %1 gave.").arg(_service));
+    if (isOneOf("token_.*"))
+        return _error(ACErrorSignInExpired,
+                      QStringLiteral("This sign-in has expired or was used already. Sign in again."));
+    // Not every service says that it is the time stamp.
+    if (const auto ahead = _secondsAhead(); ahead && std::abs(*ahead) > tolerableSeconds) return _clockWrong(ahead);
+    return _error(
+        ACErrorSignInNotPossible,
+        QStringLiteral("%1 refused the sign-in (%2). Try again later.")
+            .arg(_service, problem.isEmpty() ? QStringLiteral("status %1").arg(_response.statusCode) : problem));
+}
+
+NSError SignInAnswer::_clockWrong(std::optional<qint64> secondsAhead) const {
+    const QString howMuch =
+        secondsAhead && std::abs(*secondsAhead) >= 60
+            ? QStringLiteral("%1 %2").arg(durationText(std::abs(*secondsAhead)),
+                                          *secondsAhead > 0 ? QStringLiteral("fast") : QStringLiteral("slow"))
+            : QStringLiteral("wrong");
+    return _error(
+        ACErrorClockWrong,
+        QStringLiteral("%1 refused the sign-in because this computer's clock is %2. Set date and time right, then "
+                       "sign in again.")
+            .arg(_service, howMuch));
+}
+
+NSError SignInAnswer::_notUnderstood(const QString &reason) const {
+    return _error(ACErrorSignInNotUnderstood,
+                  QStringLiteral("%1 answered something that Korvane does not understand (%2). Try again later.")
+                      .arg(_service, reason));
+}
+
+NSError SignInAnswer::_error(qint64 code, const QString &text) const {
+    return NSError::errorWithDescription(ACErrorDomain, code, text);
+}
+
+// The reason word alone: what follows it may quote the request.
+QString SignInAnswer::_oauthProblem() const {
+    static const QRegularExpression reason(QStringLiteral("(?:^|[&\\s\"])oauth_problem=([a-z_]{1,64})(?:$|[&\\s\"])"));
+    return reason.match(QString::fromUtf8(_body->subdata(0, mostBytes).bytes())).captured(1);
+}
+
+// By how much this computer's clock is ahead of the service's; null where the answer has no usable date.
+std::optional<qint64> SignInAnswer::_secondsAhead() const {
+    QByteArray text = _response.valueForHTTPHeaderField("Date").value_or(QByteArray());
+    text.replace("GMT", "+0000"); // Qt reads zones as numbers alone
+    const QDateTime date = QDateTime::fromString(QString::fromLatin1(text), Qt::RFC2822Date);
+    return date.isValid() ? std::optional(_now - date.toSecsSinceEpoch()) : std::nullopt;
+}
+
+} // namespace korvane

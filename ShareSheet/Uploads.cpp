@@ -1,0 +1,235 @@
+// The uploads page: what it shows and what can be done there.
+#include "ShareSheet/Uploads.h"
+
+#include "Platform/Social/RemoteServiceError.h"
+
+#include <algorithm>
+#include <chrono>
+#include <limits>
+
+namespace korvane {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto changeInterval = 50ms; // more often nobody sees it
+constexpr auto countInterval = 250ms;
+constexpr auto retryDelay = 1000ms;
+constexpr int longestRetryDelays = 30; // of those
+constexpr quint32 mostRunning = 100;
+constexpr qint64 newestID = std::numeric_limits<qint64>::max();
+
+QStringList statesOf(const QString &filter) {
+    if (filter == QLatin1String("pending"))
+        return {QStringLiteral("queued"), QStringLiteral("running"), QStringLiteral("waiting")};
+    return filter == QLatin1String("all") ? QStringList() : QStringList{filter};
+}
+
+} // namespace
+
+struct Uploads::Snapshot {
+    std::optional<NSError> error;
+    std::optional<std::vector<Upload>> page;
+    std::optional<std::vector<Upload>> running;
+    std::optional<std::map<QString, qint64>> counts;
+    std::optional<bool> paused;
+    bool isLast = false;
+};
+
+Uploads::Uploads(QObject *parent) : QObject(parent) {
+    connect(&_link, &UploadsLink::changed, this, &Uploads::_changed);
+    connect(&_link, &UploadsLink::removed, this, [this](const QString &id) {
+        _changes.remove(id);
+        _model.remove(id);
+        _countTimer.start();
+    });
+    connect(&_link, &UploadsLink::progressed, &_model, &UploadsModel::setProgress);
+    connect(&_link, &UploadsLink::serviceStarted, this, &Uploads::_load);
+    connect(&_link, &UploadsLink::serviceEnded, this, &Uploads::_serviceEnded);
+    connect(&_link, &UploadsLink::busLost, this, [this] { _retryTimer.start(retryDelay); });
+    connect(&_link, &UploadsLink::silentChanged, this, &Uploads::connectionChanged);
+    connect(&_model, &UploadsModel::moreWanted, this, &Uploads::_fetchMore);
+    for (const auto &[timer, work] : {std::pair{&_changeTimer, &Uploads::_applyChanges},
+                                      {&_countTimer, &Uploads::_lookAtCounts},
+                                      {&_retryTimer, &Uploads::reconnect}}) {
+        timer->setSingleShot(true);
+        connect(timer, &QTimer::timeout, this, work);
+    }
+    _changeTimer.setInterval(changeInterval);
+    _countTimer.setInterval(countInterval);
+    reconnect();
+}
+
+QString Uploads::connection() const {
+    if (_link.isSilent()) return QStringLiteral("silent");
+    switch (_state) {
+    case State::Connecting:
+        return QStringLiteral("connecting");
+    case State::Connected:
+        return QStringLiteral("connected");
+    case State::Ended:
+        return QStringLiteral("ended");
+    case State::Lost:
+        break;
+    }
+    return QStringLiteral("lost");
+}
+
+void Uploads::reconnect() {
+    _retryTimer.stop();
+    if (_state == State::Ended) _setState(State::Connecting);
+    _link.ask([this](UploadsClient &client) -> UploadsLink::Answer {
+        std::optional<NSError> error;
+        const bool connected = client.connectToBus(&error) && client.subscribe(&error);
+        return [this, connected, error] { connected ? _load() : _lost(*error); };
+    });
+}
+
+void Uploads::_load() {
+    const quint64 loading = ++_loading;
+    const auto count = quint32(_model.countToAskFor());
+    _link.ask([this, loading, count, states = _model.states()](UploadsClient &client) -> UploadsLink::Answer {
+        Snapshot now;
+        now.page = client.recent(newestID, count, states, &now.error);
+        if (now.page) now.running = client.recent(newestID, mostRunning, {QStringLiteral("running")}, &now.error);
+        if (now.running) now.counts = client.counts(&now.error);
+        if (now.counts) now.paused = client.isPaused(&now.error);
+        now.isLast = now.page && now.page->size() < count;
+        return [this, loading, now] {
+            if (loading == _loading) _loaded(now);
+        };
+    });
+}
+
+void Uploads::_loaded(const Snapshot &snapshot) {
+    if (!snapshot.paused) return _lost(*snapshot.error);
+    if (_failures > 0) _setProblem({});
+    _failures = 0;
+    _model.replace(*snapshot.page, *snapshot.running, snapshot.isLast);
+    _setCounts(*snapshot.counts, *snapshot.paused);
+    _setState(State::Connected);
+}
+
+void Uploads::_fetchMore() {
+    const qint64 before = _model.oldest();
+    const auto count = quint32(_model.countToAskFor());
+    const quint64 loading = _loading;
+    _link.ask([=, this, states = _model.states()](UploadsClient &client) -> UploadsLink::Answer {
+        std::optional<NSError> error;
+        const auto page = client.recent(before, count, states, &error);
+        return [=, this] {
+            if (loading != _loading) return _model.fetchFailed();
+            if (page) return _model.append(before, *page, page->size() < count);
+            _model.fetchFailed();
+            _lost(*error);
+        };
+    });
+}
+
+void Uploads::_changed(const Upload &upload) {
+    _changes.insert(upload.id, upload);
+    if (!_changeTimer.isActive()) _changeTimer.start();
+}
+
+void Uploads::_applyChanges() {
+    const QHash<QString, Upload> changes = std::exchange(_changes, {});
+    _model.apply({changes.begin(), changes.end()});
+    if (!_countTimer.isActive()) _countTimer.start();
+}
+
+void Uploads::_lookAtCounts() {
+    if (_state != State::Connected) return;
+    _link.ask([this](UploadsClient &client) -> UploadsLink::Answer {
+        std::optional<NSError> error;
+        const auto counts = client.counts(&error);
+        const auto paused = counts ? client.isPaused(&error) : std::nullopt;
+        return [this, counts, paused] {
+            if (paused) _setCounts(*counts, *paused);
+        };
+    });
+}
+
+// With nothing left to do it has ended for good reason, and asking would only start it again.
+void Uploads::_serviceEnded() {
+    if (pending() > 0)
+        _retryTimer.start(retryDelay);
+    else
+        _setState(State::Ended);
+}
+
+void Uploads::_lost(const NSError &error) {
+    _setProblem(error.localizedDescription());
+    _setState(State::Lost);
+    _failures = std::min(_failures * 2 + 1, longestRetryDelays);
+    _retryTimer.start(retryDelay * _failures);
+}
+
+void Uploads::setFilter(const QString &filter) {
+    if (filter == _filter) return;
+    _filter = filter;
+    _model.setStates(statesOf(filter));
+    Q_EMIT filterChanged();
+    if (_state == State::Connected) _load();
+}
+
+void Uploads::_act(std::function<bool(UploadsClient &client, std::optional<NSError> *error)> action) {
+    _setProblem({});
+    _link.ask([this, action = std::move(action)](UploadsClient &client) -> UploadsLink::Answer {
+        std::optional<NSError> error;
+        const bool done = action(client, &error);
+        return [this, done, error] { done ? _lookAtCounts() : _setProblem(error->localizedDescription()); };
+    });
+}
+
+void Uploads::retry(const QString &id) {
+    _act([id](UploadsClient &client, std::optional<NSError> *error) { return client.retry({id}, error).has_value(); });
+}
+
+// A video that may have arrived is left to its own row, since somebody has to look first.
+void Uploads::retryAllFailed() {
+    _act([](UploadsClient &client, std::optional<NSError> *error) {
+        QStringList ids;
+        const auto collect = [&](const Upload &upload) {
+            if (upload.hasFailed() && !upload.mayHaveArrived) ids.append(upload.id);
+        };
+        return client.forEach(collect, error) && client.retry(ids, error);
+    });
+}
+
+void Uploads::remove(const QString &id) {
+    _act([id](UploadsClient &client, std::optional<NSError> *error) { return client.remove({id}, error).has_value(); });
+}
+
+void Uploads::clearDone() {
+    _act([](UploadsClient &client, std::optional<NSError> *error) { return client.clear(error).has_value(); });
+}
+
+void Uploads::setPaused(bool paused) {
+    _act([paused](UploadsClient &client, std::optional<NSError> *error) { return client.setPaused(paused, error); });
+}
+
+qint64 Uploads::pending() const {
+    return _countOf("queued") + _countOf("running") + _countOf("waiting");
+}
+
+qint64 Uploads::_countOf(const char *state) const {
+    const auto found = _counts.find(QLatin1String(state));
+    return found == _counts.end() ? 0 : found->second;
+}
+
+void Uploads::_setCounts(const std::map<QString, qint64> &counts, bool paused) {
+    _counts = counts;
+    _isPaused = paused;
+    Q_EMIT countsChanged();
+}
+
+void Uploads::_setState(State state) {
+    _state = state;
+    Q_EMIT connectionChanged();
+}
+
+void Uploads::_setProblem(const QString &problem) {
+    if (std::exchange(_problem, problem) != problem) Q_EMIT problemChanged();
+}
+
+} // namespace korvane

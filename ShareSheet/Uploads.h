@@ -1,0 +1,98 @@
+// The uploads page: what it shows and what can be done there.
+#pragma once
+
+#include "ShareSheet/UploadsLink.h"
+#include "ShareSheet/UploadsModel.h"
+
+#include <QHash>
+#include <QTimer>
+
+#include <map>
+#include <memory>
+#include <optional>
+
+namespace korvane {
+
+// Follows the upload service through its restarts. Thread: main.
+class Uploads : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(korvane::UploadsModel *model READ model CONSTANT)
+    Q_PROPERTY(QString connection READ connection NOTIFY connectionChanged)
+    Q_PROPERTY(QString problem READ problem NOTIFY problemChanged)
+    Q_PROPERTY(bool paused READ isPaused NOTIFY countsChanged)
+    Q_PROPERTY(QString filter READ filter WRITE setFilter NOTIFY filterChanged)
+    Q_PROPERTY(qint64 total READ total NOTIFY countsChanged)
+    Q_PROPERTY(qint64 pending READ pending NOTIFY countsChanged)
+    Q_PROPERTY(qint64 failed READ failed NOTIFY countsChanged)
+    Q_PROPERTY(qint64 done READ done NOTIFY countsChanged)
+
+public:
+    explicit Uploads(QObject *parent = nullptr);
+
+    UploadsModel *model() { return &_model; }
+    // "connecting", "connected", "silent" (it does not answer for now), "ended" (nothing is left to do) or "lost" (it
+    // is tried again).
+    QString connection() const;
+    // What went wrong last, for people; empty if nothing did.
+    QString problem() const { return _problem; }
+    bool isPaused() const { return _isPaused; }
+
+    // "all", "pending" (queued, running, waiting), "failed" or "done".
+    QString filter() const { return _filter; }
+    void setFilter(const QString &filter);
+
+    // How many there are.
+    qint64 total() const { return pending() + failed() + done(); }
+    qint64 pending() const;
+    qint64 failed() const { return _countOf("failed"); }
+    qint64 done() const { return _countOf("done"); }
+
+    Q_INVOKABLE void retry(const QString &id);
+    Q_INVOKABLE void retryAllFailed();
+    Q_INVOKABLE void remove(const QString &id);
+    Q_INVOKABLE void clearDone();
+    Q_INVOKABLE void setPaused(bool paused);
+    Q_INVOKABLE void reconnect();
+    Q_INVOKABLE void forgetProblem() { _setProblem({}); }
+
+Q_SIGNALS:
+    void connectionChanged();
+    void problemChanged();
+    void countsChanged();
+    void filterChanged();
+
+private:
+    struct Snapshot;
+    enum class State { Connecting, Connected, Ended, Lost };
+
+    void _load();
+    void _loaded(const Snapshot &snapshot);
+    void _fetchMore();
+    void _changed(const Upload &upload);
+    void _applyChanges();
+    void _lookAtCounts();
+    void _serviceEnded();
+    void _lost(const NSError &error);
+    // Does something to uploads; the outcome comes back as changes.
+    void _act(std::function<bool(UploadsClient &client, std::optional<NSError> *error)> action);
+    void _setState(State state);
+    void _setProblem(const QString &problem);
+    void _setCounts(const std::map<QString, qint64> &counts, bool paused);
+    qint64 _countOf(const char *state) const;
+
+    UploadsModel _model;
+    State _state = State::Connecting;
+    QString _problem;
+    QString _filter = QStringLiteral("all");
+    std::map<QString, qint64> _counts; // by state
+    bool _isPaused = false;
+    quint64 _loading = 0;            // the number of the load that counts
+    QHash<QString, Upload> _changes; // not shown yet
+    QTimer _changeTimer;
+    QTimer _countTimer;
+    QTimer _retryTimer;
+    int _failures = 0; // to reach the service, in a row
+    UploadsLink _link; // last: it ends before what it answers to
+};
+
+} // namespace korvane

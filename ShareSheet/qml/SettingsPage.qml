@@ -1,0 +1,111 @@
+// Accounts, the application's keys, and how uploads go.
+import QtQuick
+import QtQuick.Templates as T
+import Korvane.Sheet
+
+T.Page {
+    id: page
+
+    required property var settings // a Settings object
+    property bool isVimeoFirst: false
+
+    title: qsTr("Settings")
+    background: Rectangle {
+        color: Theme.page
+    }
+    Keys.onEscapePressed: page.T.ApplicationWindow.window.closePage()
+
+    PageHeader {
+        id: header
+
+        width: parent.width
+        title: page.title
+        leadingText: qsTr("Close")
+        onLeadingClicked: page.T.ApplicationWindow.window.closePage()
+    }
+    Flickable {
+        id: scroll
+
+        anchors.top: header.bottom
+        anchors.bottom: parent.bottom
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(parent.width, Theme.widestPage)
+        contentHeight: contents.height + Theme.margin
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+
+        // What gets the keyboard is brought into sight.
+        readonly property Item focused: page.T.ApplicationWindow.window ? page.T.ApplicationWindow.window.activeFocusItem : null
+        onFocusedChanged: {
+            let item = focused;
+            while (item && item !== contents)
+                item = item.parent;
+            if (!item)
+                return;
+            const top = focused.mapToItem(contents, 0, 0).y;
+            contentY = Math.max(Math.min(contentY, top - Theme.margin), top + focused.height + Theme.margin - height, 0);
+        }
+
+        Column {
+            id: contents
+
+            width: parent.width
+
+            Repeater {
+                model: page.isVimeoFirst ? [page.settings.vimeo, page.settings.flickr] : [page.settings.flickr, page.settings.vimeo]
+
+                ServiceSettings {
+                    required property var modelData
+
+                    width: contents.width
+                    access: modelData
+                }
+            }
+            SectionHeader {
+                width: parent.width
+                text: qsTr("Uploads")
+            }
+            NumberRow {
+                width: parent.width
+                text: qsTr("Photos at a time")
+                choices: [1, 2, 3, 4, 6, 8, 16]
+                value: page.settings.flickrParallelUploads
+                onPicked: number => page.settings.flickrParallelUploads = number
+            }
+            NumberRow {
+                width: parent.width
+                text: qsTr("Videos at a time")
+                choices: [1, 2, 3, 4]
+                value: page.settings.vimeoParallelUploads
+                onPicked: number => page.settings.vimeoParallelUploads = number
+            }
+            SwitchRow {
+                width: parent.width
+                text: qsTr("Upload over the cellular network")
+                isOn: page.settings.uploadsOverCellular
+                onToggled: page.settings.uploadsOverCellular = !page.settings.uploadsOverCellular
+            }
+            NumberRow {
+                width: parent.width
+                text: qsTr("Largest edge of newly encoded pictures")
+                choices: [0, 1024, 2048, 4096, 8192]
+                value: page.settings.displayImageMaxPixels
+                wordsFor: number => number === 0 ? qsTr("As it is") : qsTr("%L1 pixels").arg(number)
+                onPicked: number => page.settings.displayImageMaxPixels = number
+            }
+            Note {
+                width: parent.width
+                text: qsTr("JPEG, PNG and GIF files always go out as they are. Other pictures, and those sent without metadata, are newly encoded.")
+            }
+            Notice {
+                x: Theme.margin
+                width: parent.width - 2 * Theme.margin
+                visible: text.length > 0
+                text: page.settings.problem
+            }
+        }
+    }
+    ScrollMark {
+        view: scroll
+    }
+}

@@ -1,0 +1,115 @@
+// Adds an account: the person says yes in the browser, and perhaps types a code here.
+import QtQuick
+import Korvane.Sheet
+
+Column {
+    id: panel
+
+    required property var signIn // a SignInModel object
+    required property bool canStart
+    required property string serviceName
+    readonly property bool isAtRest: signIn.step === "none" || signIn.step === "done"
+
+    signal startAsked(bool typesCode)
+
+    spacing: Theme.spacing
+    bottomPadding: Theme.spacing
+
+    Notice {
+        x: Theme.margin
+        width: parent.width - 2 * Theme.margin
+        visible: text.length > 0
+        text: panel.signIn.problem
+    }
+    Notice {
+        x: Theme.margin
+        width: parent.width - 2 * Theme.margin
+        isProblem: false
+        visible: panel.signIn.step === "done"
+        text: qsTr("The account “%1” is ready.").arg(panel.signIn.username)
+    }
+    Flow {
+        x: Theme.margin - 8
+        width: parent.width - 2 * x
+        visible: panel.isAtRest
+
+        ActionButton {
+            text: qsTr("Add an account…")
+            enabled: panel.canStart
+            onClicked: panel.startAsked(false)
+        }
+        ActionButton {
+            text: qsTr("Add with a code…")
+            enabled: panel.canStart
+            Accessible.description: qsTr("For a browser on another device: it shows a code that you type here.")
+            onClicked: panel.startAsked(true)
+        }
+    }
+    Note {
+        width: parent.width
+        visible: !panel.canStart && panel.isAtRest
+        text: qsTr("To sign in, Korvane first needs the keys of your own application, below.")
+    }
+    Note {
+        width: parent.width
+        visible: !panel.isAtRest
+        text: panel.signIn.step === "asking" ? qsTr("Asking %1…").arg(panel.serviceName)
+            : panel.signIn.step === "storing" ? qsTr("Storing the account…")
+            : panel.signIn.typesCode ? qsTr("Open this address, also on another device, allow Korvane to upload, and type the code that is shown:")
+                                     : qsTr("Allow Korvane to upload in the browser that has opened. If none has, open this address on this device:")
+    }
+    TextEdit {
+        x: Theme.margin
+        width: parent.width - 2 * Theme.margin
+        visible: panel.signIn.step === "person"
+        text: panel.signIn.pageAddress
+        textFormat: TextEdit.PlainText
+        color: Theme.text
+        selectionColor: Theme.accent
+        selectedTextColor: Theme.accentText
+        font.pixelSize: Theme.smallFontPixelSize
+        wrapMode: TextEdit.WrapAnywhere
+        readOnly: true
+        selectByMouse: true
+        activeFocusOnTab: true
+        Accessible.role: Accessible.EditableText
+        Accessible.name: qsTr("Address of the sign-in page")
+        Accessible.readOnly: true
+        KeyNavigation.priority: KeyNavigation.BeforeItem
+    }
+    InputField {
+        id: code
+
+        x: Theme.margin
+        width: parent.width - 2 * Theme.margin
+        visible: panel.signIn.step === "person" && panel.signIn.typesCode
+        placeholderText: qsTr("Code")
+        inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
+        onVisibleChanged: if (visible) {
+            clear();
+            forceActiveFocus();
+        }
+        onAccepted: panel.signIn.enterCode(text)
+    }
+    Flow {
+        x: Theme.margin - 8
+        width: parent.width - 2 * x
+        visible: !panel.isAtRest && panel.signIn.step !== "storing"
+
+        ActionButton {
+            text: qsTr("Use this code")
+            visible: code.visible
+            enabled: code.text.trim().length > 0
+            onClicked: panel.signIn.enterCode(code.text)
+        }
+        ActionButton {
+            text: qsTr("Open the page again")
+            visible: panel.signIn.step === "person"
+            onClicked: panel.signIn.openPage()
+        }
+        ActionButton {
+            text: qsTr("Cancel the sign-in")
+            onClicked: panel.signIn.cancel()
+        }
+    }
+}

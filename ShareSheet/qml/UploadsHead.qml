@@ -1,0 +1,103 @@
+// What stands above the uploads: how the upload service is, which uploads are shown, and what can be done to many.
+import QtQuick
+import Korvane.Sheet
+
+Column {
+    id: head
+
+    required property var uploads
+    required property bool isEmpty
+
+    readonly property var connectionTexts: ({
+            "connecting": qsTr("Asking the upload service…"),
+            "silent": qsTr("The upload service does not answer just now. Uploads it has taken over are not lost."),
+            "ended": qsTr("The upload service has ended, since there is nothing left to upload."),
+            "lost": qsTr("The upload service cannot be reached. It is asked again by and by.")
+        })
+    readonly property bool isConnected: uploads.connection === "connected"
+    readonly property var filters: [
+        {name: "all", text: qsTr("All"), count: uploads.total},
+        {name: "pending", text: qsTr("Under way"), count: uploads.pending},
+        {name: "failed", text: qsTr("Failed"), count: uploads.failed},
+        {name: "done", text: qsTr("Shared"), count: uploads.done}
+    ]
+
+    spacing: Theme.spacing
+    topPadding: Theme.spacing
+    bottomPadding: Theme.spacing
+
+    Notice {
+        x: Theme.margin
+        width: parent.width - 2 * Theme.margin
+        visible: !head.isConnected
+        isProblem: head.uploads.connection === "lost" || head.uploads.connection === "silent"
+        text: head.connectionTexts[head.uploads.connection] ?? ""
+        actionText: head.uploads.connection === "lost" || head.uploads.connection === "ended" ? qsTr("Ask again") : ""
+        onActionClicked: head.uploads.reconnect()
+    }
+    Notice {
+        x: Theme.margin
+        width: parent.width - 2 * Theme.margin
+        visible: text.length > 0
+        text: head.uploads.problem
+        actionText: head.isConnected ? qsTr("Dismiss") : ""
+        onActionClicked: head.uploads.forgetProblem()
+    }
+    Notice {
+        x: Theme.margin
+        width: parent.width - 2 * Theme.margin
+        visible: head.isConnected && head.uploads.paused
+        isProblem: false
+        text: qsTr("Uploads are paused.")
+        actionText: qsTr("Resume uploads")
+        onActionClicked: head.uploads.setPaused(false)
+    }
+    Flow {
+        x: Theme.margin
+        width: parent.width - 2 * Theme.margin
+        spacing: Theme.spacing * 0.5
+        visible: head.uploads.total > 0
+
+        Repeater {
+            model: head.filters
+
+            ChoiceButton {
+                required property var modelData
+
+                text: qsTr("%1 (%2)").arg(modelData.text).arg(modelData.count)
+                isChosen: head.uploads.filter === modelData.name
+                onClicked: head.uploads.filter = modelData.name
+            }
+        }
+    }
+    Flow {
+        x: Theme.margin
+        width: parent.width - 2 * Theme.margin
+        spacing: Theme.spacing
+        visible: head.isConnected && (head.uploads.failed > 0 || head.uploads.done > 0)
+
+        ActionButton {
+            text: qsTr("Retry all that failed")
+            visible: head.uploads.failed > 0
+            onClicked: head.uploads.retryAllFailed()
+        }
+        ActionButton {
+            text: qsTr("Clear what is shared")
+            visible: head.uploads.done > 0
+            onClicked: head.uploads.clearDone()
+        }
+    }
+    Text {
+        x: Theme.margin
+        width: parent.width - 2 * Theme.margin
+        topPadding: 3 * Theme.lineHeight
+        visible: head.isEmpty
+        text: head.uploads.total > 0 ? qsTr("There is nothing of this kind.")
+                                     : qsTr("Nothing is being uploaded. What you share shows up here.")
+        color: Theme.secondaryText
+        wrapMode: Text.Wrap
+        horizontalAlignment: Text.AlignHCenter
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+    }
+}

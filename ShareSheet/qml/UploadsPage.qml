@@ -1,0 +1,79 @@
+// What is being uploaded, what waits, what has failed and what is done.
+import QtQuick
+import QtQuick.Templates as T
+import Korvane.Sheet
+
+T.Page {
+    id: page
+
+    required property var uploads // an Uploads object
+
+    readonly property bool isEmpty: uploads.connection === "connected" && list.count === 0
+
+    title: qsTr("Uploads")
+    background: Rectangle {
+        color: Theme.page
+    }
+    Keys.onEscapePressed: page.T.ApplicationWindow.window.closePage()
+
+    PageHeader {
+        id: header
+
+        width: parent.width
+        title: page.title
+        leadingText: qsTr("Close")
+        trailingText: page.uploads.paused ? qsTr("Resume") : qsTr("Pause")
+        trailingEnabled: page.uploads.connection === "connected"
+        onLeadingClicked: page.T.ApplicationWindow.window.closePage()
+        onTrailingClicked: page.uploads.setPaused(!page.uploads.paused)
+    }
+    ListView {
+        id: list
+
+        objectName: "uploads"
+        anchors.top: header.bottom
+        anchors.bottom: parent.bottom
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(parent.width, Theme.widestPage)
+        clip: true
+        model: page.uploads.model
+        cacheBuffer: 400
+        boundsBehavior: Flickable.StopAtBounds
+        activeFocusOnTab: count > 0
+        focus: true
+        keyNavigationEnabled: true
+        Accessible.role: Accessible.List
+        Accessible.name: page.title
+        header: UploadsHead {
+            width: ListView.view.width
+            uploads: page.uploads
+            isEmpty: page.isEmpty
+        }
+        delegate: UploadRow {
+            width: ListView.view.width
+            onRetryAsked: page.uploads.retry(uploadID)
+            onRemovalAsked: removalQuestion.length > 0 ? question.ask(uploadID, removalQuestion) : page.uploads.remove(uploadID)
+        }
+        // What is new shows at the top, unless the person reads further down.
+        onCountChanged: if (atYBeginning && !moving) Qt.callLater(list.positionViewAtBeginning)
+    }
+    ScrollMark {
+        view: list
+    }
+    Question {
+        id: question
+
+        property string uploadID
+
+        function ask(id, words) {
+            uploadID = id;
+            text = words;
+            open();
+        }
+
+        acceptText: qsTr("Remove")
+        rejectText: qsTr("Keep")
+        onAccepted: page.uploads.remove(uploadID)
+        onClosed: list.forceActiveFocus()
+    }
+}

@@ -1,0 +1,185 @@
+// The settings page, driven by mouse, touch and keys; sign-ins against the stand-in with a person at a scripted
+// browser.
+#include "Tests/ShareSheet/SheetHarness.h"
+#include "Tests/Support/ScriptedBrowser.h"
+
+using namespace korvane;
+using namespace korvane::test;
+
+namespace {
+
+QString text(const char *utf8) {
+    return QString::fromUtf8(utf8);
+}
+
+class SettingsPage : public SheetTest {
+protected:
+    void openPage(const char *argument = "prefs:root=FLICKR") {
+        open({argument});
+        for (SignInModel *signIn : {page().flickr()->signIn(), page().vimeo()->signIn()})
+            signIn->setOpener([this](const QString &address) {
+                opened = address;
+                return browserWorks;
+            });
+        ASSERT_TRUE(waitFor([&] { return !page().flickr()->keys()->isBusy() && !page().vimeo()->keys()->isBusy(); }));
+    }
+    Settings &page() const { return *application->settings(); }
+    ServiceAccess &flickrAccess() const { return *page().flickr(); }
+
+    // Gives it the keyboard, which brings it into sight.
+    bool goTo(const char *name) {
+        for (int i = 0; i < 80; ++i) {
+            if (user->nameOfFocused() == text(name)) return true;
+            user->presses(Qt::Key_Tab);
+        }
+        ADD_FAILURE() << "the keyboard does not come to " << name;
+        return false;
+    }
+    void fillIn(const char *field, const QString &value) {
+        ASSERT_TRUE(goTo(field));
+        user->presses(Qt::Key_A, Qt::ControlModifier);
+        user->types(value);
+    }
+    void storeKeys(const QString &key, const QString &secret) {
+        fillIn("Consumer key", key);
+        fillIn("Consumer secret", secret);
+        user->presses(Qt::Key_Return);
+    }
+    void storeFlickrKeys() {
+        const auto known = standin::StandIn::flickrCredential();
+        ASSERT_TRUE(ApplicationKeys({QString::fromUtf8(known.consumerKey), QString::fromUtf8(known.consumerSecret)})
+                        .store(flickr.account->accountType()));
+    }
+    bool waitToRead(const char *words) {
+        return waitFor([&] { return user->reads(text(words)); });
+    }
+    QString accountInUse() const { return ACAccountStore().accountInUse(ACAccountTypeIdentifierFlickr)->username(); }
+    QByteArray preferences() const { return home.contents("config/korvane/preferences/com.zorvex.korvane.json"); }
+
+    QString opened; // in the browser
+    bool browserWorks = true;
+};
+
+} // namespace
+
+TEST_F(SettingsPage, WritesWhatIsChosenAtOnceAndShowsWhatOthersHaveWritten) {
+    home.file("config/korvane/preferences/com.zorvex.korvane.json", R"({"FlickrParallelUploads": 5, "Other": "kept"})");
+    openPage("--settings");
+    EXPECT_EQ(page().flickrParallelUploads(), 5);
+    ASSERT_TRUE(goTo("5")) << "not among the usual numbers, and yet shown";
+    EXPECT_TRUE(user->isChecked(text("5")));
+    user->taps(text("8"));
+    ASSERT_TRUE(goTo("Upload over the cellular network"));
+    EXPECT_TRUE(user->isChecked(text("Upload over the cellular network")));
+    user->presses(Qt::Key_Space);
+    ASSERT_TRUE(goTo("2,048 pixels"));
+    user->presses(Qt::Key_Return);
+    EXPECT_FALSE(KorvaneSettings::uploadsOverCellular());
+    EXPECT_EQ(KorvaneSettings::displayImageMaxPixels(), 2048);
+    EXPECT_EQ(KorvaneSettings::flickrParallelUploads(), 8);
+    EXPECT_TRUE(preferences().contains("kept"));
+    EXPECT_TRUE(user->isChecked(text("2,048 pixels")));
+    user->presses(Qt::Key_Escape);
+    EXPECT_TRUE(waitForEnd());
+}
+
+TEST_F(SettingsPage, PutsAccountsIntoUseAndAsksBeforeItRemovesThem) {
+    ACAccountStore store;
+    ASSERT_TRUE(store.saveAccount(flickr.account->accountType(), text("eva"), *flickr.account->credential()));
+    openPage();
+    EXPECT_TRUE(user->isChecked(text("eva"))) << "the one that was added last";
+    user->taps(text("standin"));
+    ASSERT_TRUE(waitFor([&] { return user->isChecked(text("standin")); }));
+    EXPECT_EQ(accountInUse(), text("standin"));
+
+    user->clicks(text("Remove the account “eva”"));
+    ASSERT_TRUE(waitToRead("Remove the Flickr account “eva”?"));
+    user->presses(Qt::Key_Escape);
+    ASSERT_TRUE(waitFor([&] { return !user->reads(text("“eva”?")); }));
+    user->clicks(text("Remove the account “eva”"));
+    ASSERT_TRUE(waitToRead("“eva”?"));
+    user->presses(Qt::Key_Tab);
+    user->presses(Qt::Key_Return);
+    ASSERT_TRUE(waitFor([&] { return flickrAccess().accounts()->rowCount() == 1; }));
+    EXPECT_EQ(store.accountsWithAccountType(flickr.account->accountType()).size(), 1U);
+
+    ASSERT_TRUE(store.saveAccount(flickr.account->accountType(), text("zoe"), *flickr.account->credential()));
+    EXPECT_TRUE(waitFor([&] { return user->sees(text("zoe")); })) << "added by another program";
+    home.file("config/korvane/accounts.json", R"({"accounts": 7})");
+    flickrAccess().accounts()->use(text("nobody"));
+    EXPECT_TRUE(waitToRead("is not a list"));
+}
+
+TEST_F(SettingsPage, SignsInThroughTheBrowserOnceTheKeysAreThere) {
+    const auto known = standin::StandIn::flickrCredential();
+    openPage();
+    EXPECT_FALSE(user->isEnabled(text("Add an account…"))) << "there are no keys to sign in with";
+    storeKeys(text("only half"), {});
+    EXPECT_TRUE(waitFor([&] { return !flickrAccess().keys()->problem().isEmpty(); }));
+    storeKeys(QString::fromUtf8("  " + known.consumerKey + " "), QString::fromUtf8(known.consumerSecret));
+    ASSERT_TRUE(waitFor([&] { return flickrAccess().keys()->areStored(); }));
+    EXPECT_FALSE(user->reads(QString::fromUtf8(known.consumerSecret)));
+    EXPECT_EQ(ApplicationKeys::stored(flickr.account->accountType())->consumerKey,
+              QString::fromUtf8(known.consumerKey));
+
+    ASSERT_TRUE(ACAccountStore().removeAccount(flickr.account->identifier()));
+    ASSERT_TRUE(goTo("Add an account…"));
+    user->presses(Qt::Key_Return);
+    ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
+    EXPECT_EQ(flickrAccess().signIn()->step(), text("person"));
+    EXPECT_TRUE(user->reads(opened)) << "for a browser that does not open by itself";
+    EXPECT_EQ(decideAndReturn(opened, "allow").status, 200);
+    ASSERT_TRUE(waitToRead("“standin” is ready"));
+    EXPECT_EQ(accountInUse(), text("standin"));
+    EXPECT_TRUE(waitFor([&] { return flickrAccess().accounts()->rowCount() == 1; }));
+}
+
+TEST_F(SettingsPage, SignsInWithATypedCodeAndSaysWhatWentWrong) {
+    storeFlickrKeys();
+    browserWorks = false;
+    openPage();
+    ASSERT_TRUE(goTo("Add with a code…"));
+    user->presses(Qt::Key_Return);
+    ASSERT_TRUE(waitToRead("The browser did not open"));
+    const QString code = decide(opened, "allow").code();
+    fillIn("Code", text("wrong"));
+    user->presses(Qt::Key_Return);
+    ASSERT_TRUE(waitFor([&] {
+        return flickrAccess().signIn()->step() == text("person") && !flickrAccess().signIn()->problem().isEmpty();
+    }));
+    fillIn("Code", code);
+    user->presses(Qt::Key_Return);
+    ASSERT_TRUE(waitToRead("is ready"));
+
+    opened.clear();
+    browserWorks = true;
+    ASSERT_TRUE(goTo("Add an account…"));
+    user->presses(Qt::Key_Return);
+    ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
+    decideAndReturn(opened, "refuse");
+    ASSERT_TRUE(waitFor([&] { return !flickrAccess().signIn()->problem().isEmpty(); })) << "it was refused";
+    EXPECT_EQ(flickrAccess().signIn()->step(), text("none"));
+
+    ASSERT_TRUE(goTo("Add an account…"));
+    user->presses(Qt::Key_Return);
+    ASSERT_TRUE(waitFor([&] { return flickrAccess().signIn()->step() == text("person"); }));
+    ASSERT_TRUE(goTo("Cancel the sign-in"));
+    user->presses(Qt::Key_Space);
+    EXPECT_EQ(flickrAccess().signIn()->step(), text("none"));
+    EXPECT_TRUE(flickrAccess().signIn()->problem().isEmpty()) << "who gives up knows it";
+    ASSERT_TRUE(goTo("Add an account…"));
+    user->presses(Qt::Key_Return);
+    close(); // in the middle of it
+}
+
+TEST_F(SettingsPage, ShowsTheServiceFirstThatItWasOpenedFor) {
+    for (const auto &[argument, first] :
+         {std::pair{"prefs:root=VIMEO", "Vimeo accounts"}, {"prefs:root=FLICKR", "Flickr accounts"}}) {
+        openPage(argument);
+        const double top = user->find(text("Flickr accounts")) && user->find(text("Vimeo accounts"))
+                               ? user->find(text(first))->mapToScene({}).y()
+                               : 1e9;
+        EXPECT_LT(top, 150) << argument;
+        close();
+    }
+}

@@ -1,0 +1,192 @@
+// The uploads page, driven by mouse, touch and keys while uploads run, fail, wait and are done.
+#include "Service/UploadStore.h"
+#include "Tests/ShareSheet/SheetHarness.h"
+
+using namespace korvane;
+using namespace korvane::test;
+
+namespace {
+
+QString text(const char *utf8) {
+    return QString::fromUtf8(utf8);
+}
+
+class UploadsPage : public SheetTest {
+protected:
+    void openPage() { open({"--uploads"}); }
+    Uploads &page() const { return *application->uploads(); }
+
+    std::shared_ptr<FlickrPost> titled(const char *title, const QByteArray &bytes) const {
+        const auto made = post(bytes);
+        made->title = QLatin1String(title);
+        return made;
+    }
+    bool waitToRead(const char *words) {
+        return waitFor([&] { return user->reads(text(words)); });
+    }
+    bool waitToReadNoMore(const char *words) {
+        return waitFor([&] { return !user->reads(text(words)); });
+    }
+    bool waitUntilConnected() {
+        return waitFor([&] { return page().connection() == QLatin1String("connected"); });
+    }
+    QString rowText(int row, UploadsModel::Role role) { return page().model()->index(row).data(role).toString(); }
+    bool waitForRow(int row, UploadsModel::Role role, const char *words) {
+        return waitFor([&] { return rowText(row, role) == text(words); });
+    }
+};
+
+} // namespace
+
+TEST_F(UploadsPage, FollowsPhotosThatRunFailAndAreRetriedByTouchAndByKey) {
+    server.on("upload")
+        .answer(200, "text/xml", R"(<rsp stat="fail"><err code="5" msg="Filetype was not recognised"/></rsp>)", 2)
+        .hang();
+    openPage();
+    ASSERT_TRUE(waitToRead("Nothing is being uploaded"));
+    ASSERT_TRUE(share({titled("one", jpegOfSize(1000, 1)), titled("two", jpegOfSize(2000, 2))}));
+    ASSERT_TRUE(waitFor([&] { return page().failed() == 2; }));
+    ASSERT_TRUE(share({titled("three", jpegOfSize(3'000'000, 3))}));
+    ASSERT_TRUE(waitToRead("Uploading"));
+    EXPECT_EQ(rowText(0, UploadsModel::TitleRole), text("three")) << "what runs stands first";
+    EXPECT_EQ(rowText(1, UploadsModel::TitleRole), text("two")) << "then the newest";
+    EXPECT_TRUE(user->reads(text("not recognised"))) << "why it failed";
+    EXPECT_TRUE(waitToRead("3.0 MB")) << "how much there is of it";
+    EXPECT_TRUE(waitToRead("Failed (2)"));
+
+    user->taps(text("Retry “one”"));
+    ASSERT_TRUE(waitFor([&] { return valueOf(0, "state") == text("done"); }));
+    for (int i = 0; i < 20 && !user->nameOfFocused().startsWith(text("three, ")); ++i)
+        user->presses(Qt::Key_Tab);
+    user->presses(Qt::Key_Down);
+    ASSERT_TRUE(user->nameOfFocused().startsWith(text("two, Flickr · Failed"))) << qPrintable(user->nameOfFocused());
+    user->presses(Qt::Key_Return);
+    ASSERT_TRUE(waitFor([&] { return page().done() == 2; }));
+    server.release();
+    ASSERT_TRUE(waitForRow(0, UploadsModel::StateRole, "done"));
+    ASSERT_TRUE(waitToRead("Shared (3)"));
+    EXPECT_EQ(server.photos().size(), 3U);
+
+    user->clicks(text("Clear what is shared"));
+    ASSERT_TRUE(waitToRead("Nothing is being uploaded"));
+    EXPECT_TRUE(uploads().isEmpty());
+    user->presses(Qt::Key_Escape);
+    EXPECT_TRUE(waitForEnd());
+}
+
+TEST_F(UploadsPage, PausesAndAsksBeforeItRemovesWhatHasNotArrived) {
+    openPage();
+    ASSERT_TRUE(waitUntilConnected());
+    user->clicks(text("Pause"));
+    ASSERT_TRUE(waitToRead("Uploads are paused."));
+    ASSERT_TRUE(share({titled("one", jpegOfSize(1000, 1)), titled("two", jpegOfSize(2000, 2))}));
+
+    user->taps(text("Remove “one”"));
+    ASSERT_TRUE(waitToRead("“one” has not arrived on Flickr yet"));
+    EXPECT_EQ(user->nameOfFocused(), text("Keep")) << "the harmless answer is the one at hand";
+    user->presses(Qt::Key_Escape);
+    ASSERT_TRUE(waitToReadNoMore("has not arrived"));
+    EXPECT_EQ(uploads().size(), 2) << "it was only asked";
+
+    user->taps(text("Remove “one”"));
+    ASSERT_TRUE(waitToRead("has not arrived"));
+    user->presses(Qt::Key_Tab);
+    EXPECT_EQ(user->nameOfFocused(), text("Remove"));
+    user->presses(Qt::Key_Return);
+    ASSERT_TRUE(waitFor([&] { return uploads().size() == 1 && page().model()->rowCount() == 1; }));
+    EXPECT_EQ(valueOf(0, "title"), text("two"));
+
+    user->clicks(text("Resume"));
+    ASSERT_TRUE(waitForRow(0, UploadsModel::StateRole, "done"));
+    EXPECT_TRUE(waitToReadNoMore("paused"));
+    user->clicks(text("Remove “two”"));
+    ASSERT_TRUE(waitFor([&] { return uploads().isEmpty(); })) << "what has arrived goes unasked";
+}
+
+TEST_F(UploadsPage, OutlivesAServiceThatDiesAndOneThatHangs) {
+    server.on("upload").hang(3);
+    openPage();
+    ASSERT_TRUE(waitUntilConnected());
+    ASSERT_TRUE(share({titled("one", jpegOfSize(500'000, 1))}));
+    ASSERT_TRUE(waitToRead("Uploading"));
+    killService(SIGKILL);
+    ASSERT_TRUE(waitFor([&] { return servicePid() != 0; })) << "something is left to upload, so it is started again";
+    ASSERT_TRUE(waitUntilConnected());
+    ASSERT_TRUE(waitToRead("Uploading"));
+
+    const pid_t service = pid_t(servicePid());
+    ASSERT_EQ(::kill(service, SIGSTOP), 0);
+    user->clicks(text("Pause"));
+    EXPECT_TRUE(waitToRead("does not answer just now"));
+    QElapsedTimer time;
+    time.start();
+    user->clicks(text("Failed (0)"));
+    EXPECT_TRUE(waitFor([&] { return user->isChecked(text("Failed (0)")); }));
+    EXPECT_LT(time.elapsed(), 3000) << "the window goes on meanwhile";
+    time.restart();
+    close();
+    EXPECT_LT(time.elapsed(), 3000) << "and can be closed";
+    ASSERT_EQ(::kill(service, SIGCONT), 0);
+    server.release();
+}
+
+TEST_F(UploadsPage, SaysWhenThereIsNothingLeftAndWhenTheServiceCannotBeStarted) {
+    ASSERT_TRUE(share({titled("one", jpegOfSize(1000, 1))}));
+    ASSERT_TRUE(waitForState("done", 1));
+    openPage();
+    ASSERT_TRUE(waitToRead("Shared (1)"));
+    killService(SIGTERM);
+    ASSERT_TRUE(waitToRead("there is nothing left to upload"));
+    EXPECT_EQ(servicePid(), 0) << "and it is left alone";
+    EXPECT_EQ(rowText(0, UploadsModel::TitleRole), text("one")) << "what was there is still to be read";
+    home.file("state/korvane/queue.sqlite", "no database at all");
+    user->clicks(text("Ask again"));
+    ASSERT_TRUE(waitToRead("cannot be reached"));
+    for (const char *file : {"", "-wal", "-shm"})
+        QFile::remove(home.path("state/korvane/queue.sqlite") + QLatin1String(file));
+    ASSERT_TRUE(waitUntilConnected()) << "it is asked again by itself";
+    EXPECT_TRUE(waitToRead("Nothing is being uploaded"));
+}
+
+TEST_F(UploadsPage, ShowsAHundredThousandUploadsAtOnceAndKeepsFewOfThem) {
+    constexpr int count = 100'000;
+    QDir().mkpath(home.path("state/korvane"));
+    {
+        UploadStore store;
+        std::optional<NSError> error;
+        ASSERT_TRUE(store.open(home.path("state/korvane/queue.sqlite"), &error));
+        store.setPaused(true);
+        std::vector<NewUpload> many(count);
+        for (int i = 0; i < count; ++i) {
+            UploadJob &job = many[size_t(i)].job;
+            job.service = flickrServiceID;
+            job.title = QStringLiteral("photo %1").arg(i + 1);
+            job.state = i % 1000 == 0 ? UploadState::Failed : UploadState::Queued;
+            job.bytesTotal = 1000 + i;
+        }
+        ASSERT_TRUE(store.take(QStringLiteral("many"), many, &error));
+    }
+    startService();
+    QElapsedTimer time;
+    time.start();
+    openPage();
+    ASSERT_TRUE(waitToRead("photo 100000"));
+    EXPECT_LT(time.elapsed(), 4000);
+    EXPECT_LE(page().model()->rowCount(), 200);
+    EXPECT_EQ(page().pending(), count - 100);
+
+    auto *list = application->window()->findChild<QQuickItem *>(text("uploads"));
+    for (int i = 0; i < 5; ++i) {
+        const int before = page().model()->rowCount();
+        QMetaObject::invokeMethod(list, "positionViewAtEnd");
+        ASSERT_TRUE(waitFor([&] { return page().model()->rowCount() > before; })) << "more comes when scrolled to";
+    }
+    EXPECT_LE(page().model()->rowCount(), 2500);
+    QMetaObject::invokeMethod(list, "positionViewAtBeginning");
+    time.restart();
+    user->clicks(text("Failed (100)"));
+    ASSERT_TRUE(waitForRow(0, UploadsModel::TitleRole, "photo 99001"));
+    EXPECT_LT(time.elapsed(), 4000);
+    ASSERT_TRUE(waitFor([&] { return page().model()->rowCount() == 100; }));
+    EXPECT_EQ(rowText(99, UploadsModel::TitleRole), text("photo 1"));
+}
