@@ -15,6 +15,7 @@ T.TextArea {
     rightPadding: Theme.margin
     topPadding: Theme.spacing
     bottomPadding: Theme.spacing
+    font: Qt.application.font
     color: Theme.text
     placeholderTextColor: Theme.secondaryText
     selectionColor: Theme.accent
