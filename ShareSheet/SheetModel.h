@@ -60,6 +60,7 @@ public:
     QString alertMessage() const { return hasAlert() ? _sheet->settingsAlert()->message : QString(); }
     const QString &failure() const { return _failure; }
 
+    Q_INVOKABLE void commitText(); // what is still being composed; before the keyboard goes elsewhere
     Q_INVOKABLE void tapItem(int item);
     Q_INVOKABLE void popOption();
     Q_INVOKABLE void post();

@@ -15,7 +15,7 @@ T.Button {
     rightPadding: leftPadding
     topPadding: 4
     bottomPadding: 4
-    focusPolicy: Qt.StrongFocus
+    focusPolicy: Qt.TabFocus // a tap leaves the keyboard, and what is being composed, where it is
     opacity: enabled ? 1 : 0.45
     Accessible.role: Accessible.Button
     Accessible.name: text

@@ -111,6 +111,7 @@ FocusScope {
                         hasSeparator: index + 1 < body.sheet.items.length
                         onActiveFocusChanged: if (activeFocus) scroller.show(mapToItem(scroller.contentItem, 0, 0, width, height))
                         onClicked: {
+                            body.sheet.commitText();
                             forceActiveFocus();
                             body.sheet.tapItem(index);
                         }
