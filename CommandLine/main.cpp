@@ -1,6 +1,7 @@
 // korvane: share photos and videos from the command line.
 #include "CommandLine/AccountsCommand.h"
 #include "CommandLine/AlbumsCommand.h"
+#include "CommandLine/ComposeCommand.h"
 #include "CommandLine/ExitStatus.h"
 #include "CommandLine/Output.h"
 #include "CommandLine/ShareCommand.h"
@@ -93,6 +94,7 @@ int main(int argc, char **argv) {
     program.footer(footer);
     program.failure_message(failureMessage);
     korvane::ShareCommand share(program);
+    korvane::ComposeCommand compose(program);
     korvane::AlbumsCommand albums(program);
     korvane::UploadsCommand uploads(program);
     korvane::AccountsCommand accounts(program);
@@ -104,6 +106,7 @@ int main(int argc, char **argv) {
     }
     int status = korvane::ExitDone;
     if (share.isChosen()) status = share.run();
+    if (compose.isChosen()) status = compose.run();
     if (albums.isChosen()) status = albums.run();
     if (uploads.isChosen()) status = uploads.run();
     if (accounts.isChosen()) status = accounts.run();

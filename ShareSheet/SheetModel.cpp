@@ -97,7 +97,7 @@ QVariantList SheetModel::items() const {
 
 QString SheetModel::optionTitle() const {
     const auto &screen = _sheet->configurationViewController();
-    return screen ? screen->title().value_or(QString()) : QString();
+    return screen ? screen->title().value_or(_tappedTitle) : QString();
 }
 
 void SheetModel::commitText() {
@@ -108,6 +108,7 @@ void SheetModel::tapItem(int item) {
     const auto items = _sheet->shownConfigurationItems();
     if (_isHandingOver || item < 0 || item >= int(items.size())) return;
     commitText();
+    _tappedTitle = items[size_t(item)]->title().value_or(QString());
     if (const auto tap = items[size_t(item)]->tapHandler()) tap();
 }
 

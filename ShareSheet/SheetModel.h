@@ -41,7 +41,7 @@ public:
     // Once the window has drawn: what is asked for may take a moment.
     void begin(QQuickWindow &window);
     // The person comes back from the settings.
-    void appearAgain();
+    Q_INVOKABLE void appearAgain();
 
     QString title() const;
     bool isVideo() const { return _attachments.isVideo(); }
@@ -107,6 +107,7 @@ private:
     bool _lacksAccount = false;
     int _status;
     QString _failure;
+    QString _tappedTitle; // of the row that led to the option screen, which may have no title of its own
 };
 
 } // namespace korvane

@@ -28,6 +28,7 @@ T.Button {
         text: control.text
         color: control.ink
         font.bold: control.isMain
+        font.pixelSize: control.text.length === 1 ? Theme.lineHeight * 1.6 : Theme.fontPixelSize // a sign, or words
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         wrapMode: Text.Wrap

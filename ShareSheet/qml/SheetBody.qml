@@ -82,6 +82,7 @@ FocusScope {
 
                         anchors.right: parent.right
                         anchors.rightMargin: Theme.margin
+                        anchors.verticalCenter: parent.verticalCenter
                         visible: body.sheet.room >= 0
                         text: body.sheet.room
                         color: body.sheet.room === 0 ? Theme.problem : Theme.secondaryText

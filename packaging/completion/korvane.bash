@@ -16,7 +16,7 @@ _korvane() {
         [[ $word == -* ]] || plain+=("$word")
     done
     case "${plain[*]:0:3}" in
-    '') words='share albums uploads accounts standin' options='--help --version' ;;
+    '') words='share compose albums uploads accounts standin' options='--help --version' ;;
     share) words='flickr vimeo' ;;
     'share flickr'*)
         files='file'
@@ -26,6 +26,8 @@ _korvane() {
         files='file'
         options='--title --description --tag --size --privacy --wait --json --help'
         ;;
+    compose) words='flickr vimeo' ;;
+    compose*) files='file' ;;
     albums*) options='--json --help' ;;
     uploads) words='list watch retry remove clear pause resume' options='--json --help' ;;
     'uploads retry'*) words="all $(_korvane_ids uploads)" options='--json --help' ;;
