@@ -37,4 +37,12 @@ struct Upload {
     bool isFinished() const { return isDone() || hasFailed(); }
 };
 
+// Where an upload's photo or video can be read.
+struct UploadSource {
+    QString id;
+    QByteArray path; // in the file system's own bytes
+    qint64 offset = 0;
+    qint64 length = 0;
+};
+
 } // namespace korvane

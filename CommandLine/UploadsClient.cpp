@@ -2,6 +2,7 @@
 #include "CommandLine/UploadsClient.h"
 
 #include "Korvane/FlickrRemoteSessionProtocol.h"
+#include "Platform/Foundation/NSURL.h"
 #include "Platform/Social/RemoteServiceError.h"
 #include "Platform/Social/UploadsInterface.h"
 
@@ -91,6 +92,18 @@ std::optional<std::vector<Upload>> UploadsClient::get(const QStringList &ids, st
     }
     std::ranges::sort(all, {}, [](const Upload &upload) { return upload.id.toLongLong(); });
     return all;
+}
+
+std::optional<std::vector<UploadSource>> UploadsClient::sources(const QStringList &ids, std::optional<NSError> *error) {
+    const auto found = _uploads(QStringLiteral("Sources"), {ids}, error);
+    if (!found) return std::nullopt;
+    std::vector<UploadSource> sources;
+    for (const QVariantMap &source : qdbus_cast<QList<QVariantMap>>(*found))
+        if (const auto url = NSURL::URLWithString(source.value(QStringLiteral("url")).toString()))
+            sources.push_back({source.value(QStringLiteral("id")).toString(), url->fileSystemRepresentation(),
+                               source.value(QStringLiteral("offset")).toLongLong(),
+                               source.value(QStringLiteral("length")).toLongLong()});
+    return sources;
 }
 
 std::optional<QStringList> UploadsClient::idsOfMessage(const QString &messageID, std::optional<NSError> *error) {

@@ -39,6 +39,8 @@ public:
     bool forEach(const std::function<void(const Upload &upload)> &visit, std::optional<NSError> *error);
     // Those that exist, in the order of their ids.
     std::optional<std::vector<Upload>> get(const QStringList &ids, std::optional<NSError> *error);
+    // Where photos and videos can be read for now, for thumbnails; those that stand in no file are left out.
+    std::optional<std::vector<UploadSource>> sources(const QStringList &ids, std::optional<NSError> *error);
     std::optional<QStringList> idsOfMessage(const QString &messageID, std::optional<NSError> *error);
     // How many uploads these moved; null with the error placed.
     std::optional<quint32> retry(const QStringList &ids, std::optional<NSError> *error);

@@ -67,6 +67,8 @@ bool StatusInterface::_handleUploads(const QDBusMessage &message) {
                        _replyTo(message));
     else if (call == QLatin1String("Get(as)"))
         _queue->get(texts(), _replyTo(message));
+    else if (call == QLatin1String("Sources(as)"))
+        _queue->sources(texts(), _replyTo(message));
     else if (call == QLatin1String("OfMessage(s)"))
         _queue->idsOfMessage(arguments.at(0).toString(), _replyTo(message));
     else if (call == QLatin1String("Retry(as)"))

@@ -57,6 +57,7 @@ public:
     void list(qint64 after, quint32 limit, const Answer &answer);                               // QList<QVariantMap>
     void recent(qint64 before, quint32 limit, const QStringList &states, const Answer &answer); // QList<QVariantMap>
     void get(const QStringList &ids, const Answer &answer);                                     // QList<QVariantMap>
+    void sources(const QStringList &ids, const Answer &answer);                                 // QList<QVariantMap>
     void idsOfMessage(const QString &messageID, const Answer &answer);                          // QStringList
     void counts(const Answer &answer);                                                          // QVariantMap
     void retry(const QStringList &ids, const Answer &answer);                                   // uint
@@ -110,6 +111,7 @@ private:
     void _pauseRunning();
     void _armWake();
     void _announce(const UploadJob &job);
+    std::optional<QVariantMap> _sourceOf(const UploadJob &job) const;
     static UploadProgress _progressOfRun(const UploadJob &job, const Running &running);
     QVariantMap _dictionary(const UploadJob &job) const;
     size_t _runningOf(const QString &service) const;

@@ -1,7 +1,11 @@
 // The queue of uploads: what the status interface asks of it.
 #include "Service/UploadQueue.h"
 
+#include "Platform/AssetsLibrary/AssetLocation.h"
+#include "Service/RecordCodec.h"
+
 #include <QDateTime>
+#include <QFile>
 
 #include <algorithm>
 
@@ -64,6 +68,43 @@ void UploadQueue::get(const QStringList &ids, const Answer &answer) {
             return QVariant::fromValue(found);
         },
         answer);
+}
+
+void UploadQueue::sources(const QStringList &ids, const Answer &answer) {
+    _answerWhenDone(
+        [=, this] {
+            QList<QVariantMap> found;
+            for (const QString &id : ids)
+                if (const auto job = _store->job(id.toLongLong()))
+                    if (const auto source = _sourceOf(*job)) found.append(*source);
+            return QVariant::fromValue(found);
+        },
+        answer);
+}
+
+std::optional<QVariantMap> UploadQueue::_sourceOf(const UploadJob &job) const {
+    const auto spoolFile = job.spoolFile.isEmpty() ? nullptr : _spool.open(job.spoolFile);
+    const QVariantMap record = RecordCodec::decode(_store->record(job.id), spoolFile);
+    QVariantMap source{{QStringLiteral("id"), QString::number(job.id)}};
+    for (const QVariant &value : record) {
+        const auto data = value.value<NSData>();
+        if (!data.file()) continue;
+        source.insert(QStringLiteral("url"), _spool.urlOf(job.spoolFile).absoluteString());
+        source.insert(QStringLiteral("offset"), data.fileOffset());
+        source.insert(QStringLiteral("length"), data.length());
+        return source;
+    }
+    const auto url = NSURL::URLWithString(record.value(QStringLiteral("assetURL")).toString());
+    const auto asset = url ? AssetLocation::ofURL(*url) : std::nullopt;
+    if (!asset && !(url && url->isFileURL())) return std::nullopt;
+    const QByteArray path =
+        asset ? QFile::encodeName(photoRoot(asset->folder)) + '/' + asset->path : url->fileSystemRepresentation();
+    const auto file = FileIdentity::ofPath(path);
+    if (!file) return std::nullopt;
+    source.insert(QStringLiteral("url"), NSURL::fileURLWithPath(path).absoluteString());
+    source.insert(QStringLiteral("offset"), qint64(0));
+    source.insert(QStringLiteral("length"), file->size);
+    return source;
 }
 
 void UploadQueue::idsOfMessage(const QString &messageID, const Answer &answer) {

@@ -40,8 +40,9 @@ QImage ofVideo(const NSData &video, int edge, const std::stop_token &wanted) {
 } // namespace
 
 QImage ThumbnailMaker::make(const ThumbnailQueue::Order &order, std::stop_token wanted) {
-    const auto data = NSData::dataWithContentsOfFile(order.path);
+    auto data = NSData::dataWithContentsOfFile(order.path);
     if (!data) return {};
+    if (order.length >= 0) data = data->subdata(order.offset, order.length);
     return order.isVideo ? ofVideo(*data, order.edge, wanted) : ofPhoto(*data, order.edge, wanted);
 }
 

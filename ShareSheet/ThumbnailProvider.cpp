@@ -58,8 +58,15 @@ private:
 } // namespace
 
 QString ThumbnailProvider::address(const QByteArray &path, bool isVideo) {
-    return QStringLiteral("image://%1/%2/%3")
-        .arg(name(), isVideo ? QStringLiteral("video") : QStringLiteral("photo"), QString::fromLatin1(path.toHex()));
+    return address(path, 0, -1, isVideo);
+}
+
+QString ThumbnailProvider::address(const QByteArray &path, qint64 offset, qint64 length, bool isVideo) {
+    return QStringLiteral("image://%1/%2/%3/%4/%5")
+        .arg(name(), isVideo ? QStringLiteral("video") : QStringLiteral("photo"))
+        .arg(offset)
+        .arg(length)
+        .arg(QString::fromLatin1(path.toHex()));
 }
 
 ThumbnailProvider::ThumbnailProvider(ThumbnailQueue::Maker maker)
@@ -67,8 +74,11 @@ ThumbnailProvider::ThumbnailProvider(ThumbnailQueue::Maker maker)
 
 QQuickImageResponse *ThumbnailProvider::requestImageResponse(const QString &id, const QSize &requestedSize) {
     ThumbnailQueue::Order order;
-    order.isVideo = id.startsWith(QLatin1String("video/"));
-    order.path = QByteArray::fromHex(id.mid(id.indexOf(u'/') + 1).toLatin1());
+    const QStringList parts = id.split(u'/');
+    order.isVideo = parts.value(0) == QLatin1String("video");
+    order.offset = parts.value(1).toLongLong();
+    order.length = parts.value(2).toLongLong();
+    order.path = QByteArray::fromHex(parts.value(3).toLatin1());
     const int edge = std::max(requestedSize.width(), requestedSize.height());
     order.edge = edge > 0 ? std::min(edge, largestEdge) : usualEdge;
     return new Response(_queue, order);

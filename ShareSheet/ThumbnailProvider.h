@@ -12,6 +12,8 @@ class ThumbnailProvider : public QQuickAsyncImageProvider {
 public:
     static QString name() { return QStringLiteral("thumbnail"); }
     static QString address(const QByteArray &path, bool isVideo);
+    // Of a photo or video that is a part of the file.
+    static QString address(const QByteArray &path, qint64 offset, qint64 length, bool isVideo);
 
     explicit ThumbnailProvider(ThumbnailQueue::Maker maker);
 

@@ -10,7 +10,7 @@ namespace korvane {
 namespace {
 
 QByteArray keyOf(const ThumbnailQueue::Order &order) {
-    return QByteArray::number(order.edge) + (order.isVideo ? 'v' : 'p') + order.path;
+    return QByteArray::number(order.edge) + (order.isVideo ? 'v' : 'p') + QByteArray::number(order.offset) + order.path;
 }
 
 } // namespace

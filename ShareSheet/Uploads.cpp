@@ -1,7 +1,9 @@
 // The uploads page: what it shows and what can be done there.
 #include "ShareSheet/Uploads.h"
 
-#include "Platform/Social/RemoteServiceError.h"
+#include "ShareSheet/ThumbnailProvider.h"
+
+#include <QSet>
 
 #include <algorithm>
 #include <chrono>
@@ -49,13 +51,19 @@ Uploads::Uploads(QObject *parent) : QObject(parent) {
     connect(&_link, &UploadsLink::busLost, this, [this] { _retryTimer.start(retryDelay); });
     connect(&_link, &UploadsLink::silentChanged, this, &Uploads::connectionChanged);
     connect(&_model, &UploadsModel::moreWanted, this, &Uploads::_fetchMore);
+    connect(&_model, &UploadsModel::thumbnailWanted, this, [this](const QString &id) {
+        _thumbnailsWanted.append(id);
+        if (!_thumbnailTimer.isActive()) _thumbnailTimer.start();
+    });
     for (const auto &[timer, work] : {std::pair{&_changeTimer, &Uploads::_applyChanges},
+                                      {&_thumbnailTimer, &Uploads::_askForThumbnails},
                                       {&_countTimer, &Uploads::_lookAtCounts},
                                       {&_retryTimer, &Uploads::reconnect}}) {
         timer->setSingleShot(true);
         connect(timer, &QTimer::timeout, this, work);
     }
     _changeTimer.setInterval(changeInterval);
+    _thumbnailTimer.setInterval(changeInterval);
     _countTimer.setInterval(countInterval);
     reconnect();
 }
@@ -146,6 +154,24 @@ void Uploads::_lookAtCounts() {
         return [this, counts, paused] {
             if (paused) _setCounts(*counts, *paused);
         };
+    });
+}
+
+// What is nowhere to be read has none, and its row shows a sign instead.
+void Uploads::_askForThumbnails() {
+    _link.ask([this, ids = std::exchange(_thumbnailsWanted, {})](UploadsClient &client) -> UploadsLink::Answer {
+        std::optional<NSError> error;
+        const auto uploads = client.get(ids, &error);
+        const auto sources = uploads ? client.sources(ids, &error) : std::nullopt;
+        if (!sources) return {};
+        QSet<QString> videos;
+        for (const Upload &upload : *uploads)
+            if (upload.service == QLatin1String("vimeo")) videos.insert(upload.id);
+        QHash<QString, QString> addresses;
+        for (const UploadSource &source : *sources)
+            addresses.insert(source.id, ThumbnailProvider::address(source.path, source.offset, source.length,
+                                                                   videos.contains(source.id)));
+        return [this, addresses] { _model.setThumbnails(addresses); };
     });
 }
 

@@ -71,6 +71,7 @@ private:
     void _changed(const Upload &upload);
     void _applyChanges();
     void _lookAtCounts();
+    void _askForThumbnails();
     void _serviceEnded();
     void _lost(const NSError &error);
     // Does something to uploads; the outcome comes back as changes.
@@ -88,6 +89,8 @@ private:
     bool _isPaused = false;
     quint64 _loading = 0;            // the number of the load that counts
     QHash<QString, Upload> _changes; // not shown yet
+    QStringList _thumbnailsWanted;   // ids
+    QTimer _thumbnailTimer;
     QTimer _changeTimer;
     QTimer _countTimer;
     QTimer _retryTimer;

@@ -35,7 +35,8 @@ QHash<int, QByteArray> UploadsModel::roleNames() const {
             {PaceTextRole, "paceText"},
             {ProgressRole, "progress"},
             {CanRetryRole, "canRetry"},
-            {RemovalQuestionRole, "removalQuestion"}};
+            {RemovalQuestionRole, "removalQuestion"},
+            {ThumbnailRole, "thumbnail"}};
 }
 
 QVariant UploadsModel::data(const QModelIndex &index, int role) const {
@@ -65,8 +66,26 @@ QVariant UploadsModel::data(const QModelIndex &index, int role) const {
         return upload.hasFailed() || upload.isWaiting();
     case RemovalQuestionRole:
         return UploadWords::removalQuestion(upload);
+    case ThumbnailRole:
+        return _thumbnailOf(upload);
     default:
         return {};
+    }
+}
+
+QString UploadsModel::_thumbnailOf(const Upload &upload) const {
+    if (const auto known = _thumbnails.constFind(upload.id); known != _thumbnails.constEnd()) return *known;
+    _thumbnails.insert(upload.id, QString());
+    Q_EMIT thumbnailWanted(upload.id);
+    return {};
+}
+
+void UploadsModel::setThumbnails(const QHash<QString, QString> &addresses) {
+    for (auto it = addresses.cbegin(); it != addresses.cend(); ++it) {
+        const int row = _rowOf(it.key().toLongLong());
+        if (row < 0) continue;
+        _thumbnails.insert(it.key(), it.value());
+        Q_EMIT dataChanged(index(row), index(row), {ThumbnailRole});
     }
 }
 
@@ -100,6 +119,7 @@ void UploadsModel::setStates(const QStringList &states) {
     beginResetModel();
     _states = states;
     _rows.clear();
+    _thumbnails.clear();
     _oldest = newestID;
     _isComplete = _isFetching = false;
     _wanted = pageRows;
@@ -190,6 +210,7 @@ void UploadsModel::_move(int row, const Upload &upload) {
 void UploadsModel::_removeRow(int row) {
     beginRemoveRows({}, row, row);
     _rates.erase(_rows[size_t(row)].id.toLongLong());
+    _thumbnails.remove(_rows[size_t(row)].id);
     _rows.erase(_rows.begin() + row);
     endRemoveRows();
 }
@@ -199,6 +220,8 @@ void UploadsModel::_trim() {
     const int most = _wanted + pageRows;
     if (rowCount() <= most || _rows[size_t(_wanted) - 1].isRunning()) return;
     beginRemoveRows({}, _wanted, rowCount() - 1);
+    for (int row = _wanted; row < rowCount(); ++row)
+        _thumbnails.remove(_rows[size_t(row)].id);
     _rows.resize(size_t(_wanted));
     endRemoveRows();
     _oldest = _rows.back().id.toLongLong();

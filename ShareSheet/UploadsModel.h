@@ -30,6 +30,7 @@ public:
         ProgressRole, // from 0 to 1; below 0 while unknown
         CanRetryRole,
         RemovalQuestionRole,
+        ThumbnailRole, // an image's address; empty while none is known
     };
 
     explicit UploadsModel(QObject *parent = nullptr);
@@ -57,10 +58,12 @@ public:
     // News of uploads, whether they are here or not.
     void apply(const std::vector<Upload> &changed);
     void remove(const QString &id);
+    void setThumbnails(const QHash<QString, QString> &addresses); // by id
     void setProgress(const QString &id, qint64 bytesSent, qint64 bytesTotal);
 
 Q_SIGNALS:
-    void moreWanted(); // of what is older than oldest()
+    void moreWanted();                             // of what is older than oldest()
+    void thumbnailWanted(const QString &id) const; // for a row that is looked at; once for each
 
 private:
     using Key = std::pair<int, qint64>; // what the rows are sorted by
@@ -74,10 +77,12 @@ private:
     void _move(int row, const Upload &upload);
     void _removeRow(int row);
     void _trim();
+    QString _thumbnailOf(const Upload &upload) const;
     QString _paceText(const Upload &upload) const;
 
     std::vector<Upload> _rows;
-    std::map<qint64, TransferRate> _rates; // of those that run
+    std::map<qint64, TransferRate> _rates;       // of those that run
+    mutable QHash<QString, QString> _thumbnails; // addresses, empty where none is known
     QStringList _states;
     qint64 _oldest;
     bool _isComplete = false;

@@ -7,6 +7,7 @@ Rectangle {
     id: tile
 
     property alias source: picture.source // as ThumbnailProvider gives it
+    readonly property bool isShown: picture.status === Image.Ready
     property alias fillMode: picture.fillMode
     property bool isVideo: false
     property bool isUnusable: false

@@ -17,12 +17,16 @@ FocusScope {
     required property real progress
     required property bool canRetry
     required property string removalQuestion
+    required property string thumbnail
+    // Of the rows only the current one is a stop of the Tab key; the arrow keys lead to the others.
+    readonly property int stop: ListView.isCurrentItem ? Qt.StrongFocus : Qt.ClickFocus
     readonly property bool isRunning: uploadState === "running"
     readonly property string detail: [service, stateText, bytesText, paceText].filter(part => part.length > 0).join(" · ")
 
     signal retryAsked
     signal removalAsked
 
+    activeFocusOnTab: ListView.isCurrentItem
     implicitHeight: words.height + 2 * Theme.spacing + 1
     Accessible.role: Accessible.ListItem
     Accessible.name: [title, detail, reason].filter(part => part.length > 0).join(", ")
@@ -50,6 +54,7 @@ FocusScope {
         y: Theme.spacing
         service: row.service
         uploadState: row.uploadState
+        thumbnail: row.thumbnail
     }
     Column {
         id: words
@@ -95,11 +100,13 @@ FocusScope {
             textFormat: Text.PlainText
         }
         ActionButton {
+            id: retrial
+
             visible: row.canRetry
             text: qsTr("Retry")
             Accessible.name: qsTr("Retry “%1”").arg(row.title)
             leftPadding: 0
-            focusPolicy: row.canRetry ? Qt.StrongFocus : Qt.NoFocus
+            focusPolicy: row.stop
             onClicked: row.retryAsked()
         }
     }
@@ -111,6 +118,7 @@ FocusScope {
         y: 2
         width: Theme.touchHeight
         text: "✕"
+        focusPolicy: row.stop
         ink: Theme.secondaryText
         Accessible.name: qsTr("Remove “%1”").arg(row.title)
         onClicked: row.removalAsked()
@@ -124,5 +132,6 @@ FocusScope {
     }
     FocusRing {
         control: row
+        visible: row.activeFocus && !retrial.activeFocus && !removal.activeFocus
     }
 }

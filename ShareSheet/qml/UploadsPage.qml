@@ -39,7 +39,6 @@ T.Page {
         model: page.uploads.model
         cacheBuffer: 400
         boundsBehavior: Flickable.StopAtBounds
-        activeFocusOnTab: count > 0
         focus: true
         keyNavigationEnabled: true
         Accessible.role: Accessible.List

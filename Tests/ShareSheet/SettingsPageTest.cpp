@@ -1,5 +1,6 @@
 // The settings page, driven by mouse, touch and keys; sign-ins against the stand-in with a person at a scripted
 // browser.
+#include "Platform/Preferences/KorvaneSettings.h"
 #include "Tests/ShareSheet/SheetHarness.h"
 #include "Tests/Support/ScriptedBrowser.h"
 

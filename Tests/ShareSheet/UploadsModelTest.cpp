@@ -62,7 +62,7 @@ void load(UploadsModel &model, const Queue &queue) {
 
 TEST(UploadsModel, ShowsWhatTheServiceHasInOrderWhateverComesWhen) {
     QRandomGenerator random(seedOfRun());
-    for (int round = 0; round < 40; ++round) {
+    for (int round = 0; round < 20; ++round) {
         Queue queue;
         UploadsModel model;
         std::optional<QAbstractItemModelTester> tester; // takes its time

@@ -1,4 +1,5 @@
 // The uploads page, driven by mouse, touch and keys while uploads run, fail, wait and are done.
+#include "Service/RecordCodec.h"
 #include "Service/UploadStore.h"
 #include "Tests/ShareSheet/SheetHarness.h"
 
@@ -103,6 +104,26 @@ TEST_F(UploadsPage, PausesAndAsksBeforeItRemovesWhatHasNotArrived) {
     ASSERT_TRUE(waitFor([&] { return uploads().isEmpty(); })) << "what has arrived goes unasked";
 }
 
+TEST_F(UploadsPage, ShowsThumbnailsOfWhatStandsInAFile) {
+    ask("Pause");
+    const auto video = VimeoPost::init();
+    video->assetURL = NSURL::fileURLWithPath(home.file("gone.mp4", "no video"));
+    ASSERT_TRUE(shareVideo(video));
+    ASSERT_TRUE(share({titled("noise", jpegOfSize(90'000)),
+                       titled("picture", dataBytes("display-p3.jpg") + QByteArray(70'000, 'x'))}));
+    openPage();
+    ASSERT_TRUE(waitFor([&] { return page().model()->rowCount() == 3; }));
+    const auto isShown = [&](const char *title) {
+        QQuickItem *row = user->find(text("Remove “%1”").arg(text(title)))->parentItem();
+        for (QQuickItem *tile : row->findChildren<QQuickItem *>())
+            if (tile->property("isShown").toBool()) return true;
+        return false;
+    };
+    EXPECT_TRUE(waitFor([&] { return isShown("picture"); })) << "the second in its spool file";
+    EXPECT_FALSE(isShown("noise"));
+    EXPECT_FALSE(isShown("Video without a title"));
+}
+
 TEST_F(UploadsPage, OutlivesAServiceThatDiesAndOneThatHangs) {
     server.on("upload").hang(3);
     openPage();
@@ -163,6 +184,7 @@ TEST_F(UploadsPage, ShowsAHundredThousandUploadsAtOnceAndKeepsFewOfThem) {
             job.title = QStringLiteral("photo %1").arg(i + 1);
             job.state = i % 1000 == 0 ? UploadState::Failed : UploadState::Queued;
             job.bytesTotal = 1000 + i;
+            many[size_t(i)].record = RecordCodec::encode({}, nullptr);
         }
         ASSERT_TRUE(store.take(QStringLiteral("many"), many, &error));
     }
