@@ -1,6 +1,7 @@
 // korvane accounts: the accounts that photos are shared with.
 #include "CommandLine/AccountsCommand.h"
 
+#include "CommandLine/AccountSignIn.h"
 #include "CommandLine/Arguments.h"
 #include "CommandLine/Output.h"
 #include "CommandLine/UploadText.h"
@@ -21,25 +22,28 @@ namespace {
 
 const char *const examples = R"(Examples:
   korvane accounts
-  korvane accounts add flickr --credential-file flickr.json
+  korvane accounts add flickr
+  korvane accounts add vimeo --no-browser
   pass show flickr | korvane accounts add flickr --credential-file -
   korvane accounts remove ID
-
-The credential file is a JSON object:
-  {"username": "…", "consumerKey": "…", "consumerSecret": "…", "token": "…", "tokenSecret": "…"}
 
 Secrets are kept in the desktop's keyring, or in a file that only you can read where there is no keyring. Of several
 accounts of a service, the one that was added last is used.
 
-Exit status: 0 all well, 1 the account cannot be stored, 2 bad usage, an unusable file or no such account.)";
+Exit status: 0 all well, 1 the account cannot be signed in or stored, 2 bad usage, an unusable file or no such account,
+130 after Ctrl-C.)";
 
-const char *const credentialsNeeded =
-    "Ready credentials are needed for now: give --credential-file FILE (or - for standard input) with the JSON object\n"
-    R"(  {"username": "…", "consumerKey": "…", "consumerSecret": "…", "token": "…", "tokenSecret": "…"})";
+const char *const signIn =
+    R"(Signs you in: opens the service's page in your browser, where you allow Korvane to use your account. With --no-browser
+it only says where the page is, which may be opened anywhere, and takes the code that it shows on standard input.
 
-QString serviceOf(const ACAccountType &type) {
-    return type == ACAccountType(ACAccountTypeIdentifierVimeo) ? QStringLiteral("vimeo") : QStringLiteral("flickr");
-}
+That needs an application key of your own, which the service gives away at
+  https://www.flickr.com/services/apps/create/ or https://developer.vimeo.com/apps
+It is asked for the first time, or given with --consumer-key; the secret that belongs to it then comes from the
+environment (KORVANE_CONSUMER_SECRET), or from standard input, before the code. Both are kept for the next time.
+
+--credential-file stores an account that was signed in elsewhere, from a JSON object:
+  {"username": "…", "consumerKey": "…", "consumerSecret": "…", "token": "…", "tokenSecret": "…"})";
 
 std::vector<std::shared_ptr<ACAccount>> allAccounts() {
     const ACAccountStore store;
@@ -52,7 +56,7 @@ std::vector<std::shared_ptr<ACAccount>> allAccounts() {
 
 QJsonObject jsonOf(const ACAccount &account) {
     return {{QStringLiteral("id"), account.identifier()},
-            {QStringLiteral("service"), serviceOf(account.accountType())},
+            {QStringLiteral("service"), Arguments::serviceOf(account.accountType())},
             {QStringLiteral("username"), account.username()}};
 }
 
@@ -89,15 +93,20 @@ AccountsCommand::AccountsCommand(CLI::App &program) {
     _accounts->add_flag("--json", _json, "Print JSON");
     _accounts->footer(examples);
     _accounts->add_subcommand("list", "All accounts (as without a command)")->fallthrough();
-    _addApp = _accounts->add_subcommand("add", "Add an account, or give a present one new credentials");
+    _addApp = _accounts->add_subcommand("add", "Sign in with an account, also with a present one anew");
     _addApp->fallthrough()->require_subcommand(1);
     _addFlickr = _addApp->add_subcommand("flickr", "Add a Flickr account");
     CLI::App *addVimeo = _addApp->add_subcommand("vimeo", "Add a Vimeo account");
     for (CLI::App *add : {_addFlickr, addVimeo}) {
+        auto *noBrowser = add->add_flag("--no-browser", _noBrowser, "Open no browser; take the page's code instead");
+        auto *key = add->add_option("--consumer-key", _consumerKey, "Key of your application, in place of a stored one")
+                        ->type_name("KEY");
         add->add_option("--credential-file", _credentialFile, "File with ready credentials, - for standard input")
-            ->type_name("FILE");
+            ->type_name("FILE")
+            ->excludes(noBrowser)
+            ->excludes(key);
         add->fallthrough();
-        add->footer(credentialsNeeded);
+        add->footer(signIn);
     }
     _removeApp = _accounts->add_subcommand("remove", "Remove an account with its credentials");
     _removeApp->fallthrough();
@@ -127,36 +136,47 @@ int AccountsCommand::_list() {
         return ExitDone;
     }
     if (accounts.empty()) {
-        Output::line(QStringLiteral("No accounts. Add one with: korvane accounts add flickr --credential-file FILE"));
+        Output::line(QStringLiteral("No accounts. Add one with: korvane accounts add flickr"));
         return ExitDone;
     }
     Output::line(UploadText::padded(QStringLiteral("ID"), 38) + UploadText::padded(QStringLiteral("SERVICE"), 9) +
                  QStringLiteral("USER NAME"));
     for (const auto &account : accounts)
         Output::line(UploadText::padded(account->identifier(), 37) + u' ' +
-                     UploadText::padded(serviceOf(account->accountType()), 8) + u' ' + account->username());
+                     UploadText::padded(Arguments::serviceOf(account->accountType()), 8) + u' ' + account->username());
     return ExitDone;
 }
 
 int AccountsCommand::_add(const QString &typeIdentifier) {
-    if (_credentialFile.empty()) {
-        Output::problem(QString::fromUtf8(credentialsNeeded));
-        return ExitUsage;
-    }
+    const ACAccountType type(typeIdentifier);
+    int status = ExitDone;
+    const auto ready = _credentialFile.empty() ? _signIn(type, &status) : _readCredential(type, &status);
+    if (!ready) return status;
     std::optional<NSError> error;
-    const auto data = readFile(_credentialFile, &error);
-    const auto file = data ? ACCredentialFile::credentialFileWithData(*data, &error) : std::nullopt;
-    if (!file) return fail(error, ExitUsage);
-    ACAccountStore store;
-    const auto account = store.saveAccount(store.accountTypeWithAccountTypeIdentifier(typeIdentifier), file->username,
-                                           file->credential, &error);
+    const auto account = ready->save(&error);
     if (!account) return fail(error, ExitUploadFailed);
     if (_json)
         Output::raw(QJsonDocument(jsonOf(*account)).toJson());
     else
-        Output::line(QStringLiteral("The %1 account of %2 is ready. Its id: %3")
-                         .arg(serviceOf(account->accountType()), account->username(), account->identifier()));
+        Output::line(
+            QStringLiteral("The %1 account of %2 is ready. Its id: %3")
+                .arg(Arguments::serviceOf(account->accountType()), account->username(), account->identifier()));
     return ExitDone;
+}
+
+std::optional<SignedInAccount> AccountsCommand::_signIn(const ACAccountType &type, int *status) const {
+    AccountSignIn::Options options{.opensBrowser = !_noBrowser};
+    if (!_consumerKey.empty()) options.consumerKey = QString::fromStdString(_consumerKey);
+    return AccountSignIn(type, std::move(options)).run(status);
+}
+
+std::optional<SignedInAccount> AccountsCommand::_readCredential(const ACAccountType &type, int *status) const {
+    std::optional<NSError> error;
+    const auto data = readFile(_credentialFile, &error);
+    const auto file = data ? ACCredentialFile::credentialFileWithData(*data, &error) : std::nullopt;
+    if (file) return SignedInAccount{type, file->username, file->credential};
+    *status = fail(error, ExitUsage);
+    return std::nullopt;
 }
 
 int AccountsCommand::_remove() {

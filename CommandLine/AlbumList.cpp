@@ -3,9 +3,7 @@
 
 #include "CommandLine/Output.h"
 #include "CommandLine/SheetUser.h"
-#include "Korvane/FlickrResponse.h"
-#include "Platform/Accounts/ACAccount.h"
-#include "Platform/Foundation/UploadContext.h"
+#include "CommandLine/UploadText.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -15,45 +13,29 @@
 namespace korvane {
 namespace {
 
-constexpr size_t photoSetItem = 0; // of the sheet's rows
-
-// What the answer to the last request of the account says against it; null if nothing.
-std::optional<QString> problemIn(const UploadContext::Snapshot &request) {
-    const QString text = QStringLiteral("The albums could not be loaded. ");
-    if (request.transportError) return text + request.transportError->localizedDescription();
-    const auto answer = FlickrResponse::responseWithData(NSData(request.answer));
-    if (request.httpStatus == 200 && answer->errorCode == 0) return std::nullopt;
-    if (answer->errorCode <= 0)
-        return text + QStringLiteral("Flickr answered with HTTP status %1.").arg(request.httpStatus);
-    return text + QStringLiteral("Flickr says: %1 (code %2).")
-                      .arg(answer->errorDescription.value_or(QString()))
-                      .arg(answer->errorCode);
-}
-
 void nameAlbums(const std::vector<FlickrPhotoSet> &sets) {
     if (sets.size() <= 1) return Output::problem(QStringLiteral("This account has no albums."));
-    QStringList lines{QStringLiteral("The albums are:")};
+    QStringList lines;
     for (const FlickrPhotoSet &set : sets)
         if (set.identifier != 0) lines.append(QStringLiteral("  ") + AlbumList::lineOf(set));
-    Output::problem(lines.join(u'\n'));
+    Output::problem(QStringLiteral("The albums are:"), lines);
 }
 
 } // namespace
 
 QString AlbumList::lineOf(const FlickrPhotoSet &album) {
-    return QStringLiteral("%1  %2").arg(album.identifier).arg(album.title.value_or(QString()));
+    return QStringLiteral("%1  %2").arg(album.identifier).arg(UploadText::printable(album.title.value_or(QString())));
 }
 
-std::shared_ptr<FlickrPhotoSetController> AlbumList::load(FlickrComposeViewController &sheet,
-                                                          std::optional<QString> *problem) {
-    const auto context = std::make_shared<UploadContext>();
-    sheet.flickrAccount()->setUploadContext(context);
+std::shared_ptr<FlickrPhotoSetController> AlbumList::load(FlickrComposeViewController &sheet) {
     const auto screen =
-        std::dynamic_pointer_cast<FlickrPhotoSetController>(SheetUser::opensOption(sheet, photoSetItem));
+        std::dynamic_pointer_cast<FlickrPhotoSetController>(SheetUser::opensOption(sheet, FlickrComposeItemPhotoSet));
     while (!screen->manager()->photoSets())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    *problem = problemIn(context->snapshot());
-    return screen;
+    const auto problem = screen->manager()->problem();
+    if (!problem) return screen;
+    Output::problem(QStringLiteral("The albums could not be loaded. ") + problem->localizedDescription());
+    return nullptr;
 }
 
 std::optional<qint64> AlbumList::rowOf(const FlickrPhotoSetController &screen, const QString &nameOrNumber) {

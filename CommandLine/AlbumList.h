@@ -8,17 +8,15 @@ namespace korvane {
 
 namespace AlbumList {
 
-// Opens the sheet's screen and waits for the albums. problem: why they could not be loaded, for people; the screen then
-// has the row for no album alone. Needs the application object; blocks.
-std::shared_ptr<FlickrPhotoSetController> load(FlickrComposeViewController &sheet, std::optional<QString> *problem);
-
-constexpr qint64 noAlbumRow = 0;
+// Opens the sheet's screen and waits for the albums. Null, after saying why, if they cannot be loaded. Needs the
+// application object; blocks.
+std::shared_ptr<FlickrPhotoSetController> load(FlickrComposeViewController &sheet);
 
 // The row of the album with that title, else with that number. Null, after saying why and naming the albums, if there
 // is none, or more than one of that title.
 std::optional<qint64> rowOf(const FlickrPhotoSetController &screen, const QString &nameOrNumber);
 
-// The album's number and title, for people.
+// The album's number and title, for people; one line.
 QString lineOf(const FlickrPhotoSet &album);
 
 } // namespace AlbumList

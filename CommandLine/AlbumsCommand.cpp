@@ -5,8 +5,8 @@
 #include "CommandLine/ExitStatus.h"
 #include "CommandLine/JSONArray.h"
 #include "CommandLine/Output.h"
-#include "CommandLine/ShareReport.h"
 #include "CommandLine/SheetUser.h"
+#include "CommandLine/SystemLog.h"
 
 #include <CLI/CLI.hpp>
 #include <QJsonDocument>
@@ -23,7 +23,7 @@ const char *const examples = R"(Examples:
 
 Lists the albums of the account with which photos are shared: the one that was added last.
 
-Exit status: 0 all well, 1 the albums cannot be loaded, 2 bad usage, 3 no account.)";
+Exit status: 0 all well, 1 the albums cannot be loaded, 2 bad usage, 3 no usable account.)";
 
 void printLines(std::span<const FlickrPhotoSet> albums) {
     for (const FlickrPhotoSet &album : albums)
@@ -53,16 +53,11 @@ bool AlbumsCommand::isChosen() const {
 }
 
 int AlbumsCommand::run() {
-    FlickrComposeViewController::forgetUnknownAudience();
-    const auto sheet = FlickrComposeViewController::initWithNibName();
-    SheetUser::opens(*sheet);
-    if (!ShareReport::hasAccount(*sheet, QStringLiteral("flickr"))) return ExitNoAccount;
-    std::optional<QString> problem;
-    const auto screen = AlbumList::load(*sheet, &problem);
-    if (problem) {
-        Output::problem(*problem);
-        return ExitUploadFailed;
-    }
+    sendLogToSystemLog();
+    const auto sheet = SheetUser::opensFlickrSheet();
+    if (!sheet || !SheetUser::hasCredential(*sheet->flickrAccount())) return ExitNoAccount;
+    const auto screen = AlbumList::load(*sheet);
+    if (!screen) return ExitUploadFailed;
     const auto &sets = *screen->manager()->photoSets();
     const std::span albums(sets.begin() + 1, sets.end()); // without the entry for no album
     _json ? printJSON(albums) : printLines(albums);

@@ -34,6 +34,10 @@ QString Arguments::shownPath(const QByteArray &path) {
     return QString::fromUtf8(path);
 }
 
+QString Arguments::serviceOf(const ACAccountType &type) {
+    return type == ACAccountType(ACAccountTypeIdentifierVimeo) ? QStringLiteral("vimeo") : QStringLiteral("flickr");
+}
+
 ExitStatus Arguments::exitStatusOf(const NSError &error) {
     if (error.domain() != RemoteServiceErrorDomain) return ExitUploadFailed;
     switch (error.code()) {

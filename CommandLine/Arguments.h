@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CommandLine/ExitStatus.h"
+#include "Platform/Accounts/ACAccountType.h"
 #include "Platform/Foundation/NSError.h"
 
 #include <QByteArray>
@@ -22,6 +23,9 @@ std::string problemWithNumber(const std::string &text); // a whole number above 
 QStringList texts(const std::vector<std::string> &arguments);
 // A path for people; bytes that are no text appear replaced.
 QString shownPath(const QByteArray &path);
+
+// "flickr" or "vimeo", as the commands take it.
+QString serviceOf(const ACAccountType &type);
 
 // The exit status that an error of the hand-over or of the status interface leads to.
 ExitStatus exitStatusOf(const NSError &error);

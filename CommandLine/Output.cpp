@@ -3,8 +3,6 @@
 
 #include "CommandLine/UploadText.h"
 
-#include <QStringList>
-
 #include <cerrno>
 #include <cstring>
 
@@ -18,26 +16,29 @@ void write(FILE *stream, const QByteArray &bytes) {
     std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stream);
 }
 
+void writeLine(FILE *stream, const QString &text) {
+    write(stream, UploadText::printable(text).toUtf8() + '\n');
+}
+
 } // namespace
 
 void Output::line(const QString &text) {
-    write(stdout, UploadText::printable(text).toUtf8() + '\n');
+    writeLine(stdout, text);
 }
 
 void Output::raw(const QByteArray &bytes) {
     write(stdout, bytes);
 }
 
-void Output::problem(const QString &text) {
+void Output::problem(const QString &text, const QStringList &further) {
     note(QStringLiteral("korvane: ") + text);
+    for (const QString &line : further)
+        note(line);
 }
 
 void Output::note(const QString &text) {
     std::fflush(stdout);
-    QStringList lines = text.split(u'\n');
-    for (QString &line : lines)
-        line = UploadText::printable(line);
-    write(stderr, lines.join(u'\n').toUtf8() + '\n');
+    writeLine(stderr, text);
 }
 
 bool Output::isTerminal(FILE *stream) {

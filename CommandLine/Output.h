@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <cstdio>
 
@@ -14,8 +15,8 @@ namespace Output {
 void line(const QString &text);
 // Bytes on standard output as they are.
 void raw(const QByteArray &bytes);
-// One line on standard error, as "korvane: TEXT". Line breaks in the text are kept.
-void problem(const QString &text);
+// One line on standard error, as "korvane: TEXT", and further lines as they are; written as above.
+void problem(const QString &text, const QStringList &further = {});
 // One line on standard error, for what is worth knowing and no problem.
 void note(const QString &text);
 

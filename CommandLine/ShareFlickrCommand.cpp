@@ -5,7 +5,9 @@
 #include "CommandLine/Arguments.h"
 #include "CommandLine/Output.h"
 #include "CommandLine/SheetUser.h"
+#include "CommandLine/SystemLog.h"
 #include "CommandLine/UploadText.h"
+#include "FlickrAudienceController.h"
 #include "Korvane/FlickrUploadSession.h"
 
 #include <CLI/CLI.hpp>
@@ -19,9 +21,10 @@ namespace {
 
 constexpr qint64 largestPhoto = 200 * 1024 * 1024; // that Flickr takes
 
-// Rows of the sheet, and of its screen for the audience.
-constexpr size_t audienceItem = 1;
-const std::map<std::string, qint64> audiences{{"public", 0}, {"friends", 1}, {"family", 2}, {"only-me", 3}};
+const std::map<std::string, FlickrAudience> audiences{{"public", FlickrAudiencePublic},
+                                                      {"friends", FlickrAudienceFriends},
+                                                      {"family", FlickrAudienceFamily},
+                                                      {"only-me", FlickrAudienceOnlyMe}};
 
 const char *const examples = R"(Examples:
   korvane share flickr sunset.jpg
@@ -33,12 +36,7 @@ JPEG, PNG and GIF files are sent as they are. Pictures of other formats are sent
 
 Audience and album are remembered for the next share, here and in the share sheet; at first they are public and none.
 
-Sharing takes a copy into the upload service, which uploads in the background, also after this command has ended and
-after a restart. --wait stays until the photos are there; Ctrl-C ends the waiting, not the uploads.
-
-Exit status: 0 all well, 1 an upload failed, 2 bad usage or a file that cannot be used, 3 no account,
-4 the upload service cannot be reached, runs with other settings, or cannot take anything just now; with --wait 130
-after Ctrl-C.)";
+Sharing copies the photos into the upload service's queue.)";
 
 // Every photo keeps its file open until it is handed over.
 void raiseFileLimit() {
@@ -58,6 +56,11 @@ std::optional<NSError> problemWith(const QByteArray &path) {
                                              .arg(Arguments::shownPath(path), UploadText::bytes(identity->size)));
 }
 
+std::string problemWithAlbum(const std::string &album) {
+    return album.empty() ? "an album has a name or a number; for none there is --no-album"
+                         : Arguments::problemWithText(album);
+}
+
 } // namespace
 
 ShareFlickrCommand::ShareFlickrCommand(CLI::App &share) {
@@ -72,11 +75,10 @@ ShareFlickrCommand::ShareFlickrCommand(CLI::App &share) {
             "--album", _album,
             "Add the photos to the album of this name or number (see: korvane albums); as last time if not given")
         ->type_name("ALBUM")
-        ->check(Arguments::problemWithText);
+        ->check(problemWithAlbum);
     _app->add_flag("--no-album", _noAlbum, "Add the photos to no album")->excludes("--album");
     _app->add_flag("--without-metadata", _withoutMetadata, "Send a copy of each picture without place and camera data");
-    _report.addOptions(*_app);
-    _app->footer(examples);
+    _report.addTo(*_app, examples);
 }
 
 bool ShareFlickrCommand::isChosen() const {
@@ -84,43 +86,44 @@ bool ShareFlickrCommand::isChosen() const {
 }
 
 int ShareFlickrCommand::run() {
+    sendLogToSystemLog();
     raiseFileLimit();
     auto attachments = _attachments();
     if (!attachments) return ExitUsage;
-    FlickrComposeViewController::forgetUnknownAudience();
-    const auto sheet = FlickrComposeViewController::initWithNibName();
-    sheet->setAttachments(std::move(*attachments));
-    SheetUser::opens(*sheet);
-    if (!ShareReport::hasAccount(*sheet, QStringLiteral("flickr"))) return ExitNoAccount;
+    if (_noAlbum) FlickrComposeViewController::forgetPhotoSet();
+    const auto sheet = SheetUser::opensFlickrSheet(std::move(*attachments));
+    if (!sheet) return ExitNoAccount;
+    SheetUser::saysAccount(*sheet->flickrAccount());
     if (const auto status = _fill(*sheet)) return *status;
-    if (const auto status = ShareReport::post(*sheet)) return *status;
+    if (const auto status = SheetUser::posts(*sheet)) return *status;
     sheet->setAttachments({}); // lets go of the files
     QByteArrayList files;
     for (const std::string &file : _files)
         files.append(QByteArray::fromStdString(file));
-    return _report.succeeded(files, sheet->session()->lastMessageID());
+    return _report.succeeded(files, sheet->session()->lastMessageID(), SheetUser::reads(*sheet));
 }
 
 std::optional<int> ShareFlickrCommand::_fill(FlickrComposeViewController &sheet) const {
     if (_title) SheetUser::types(sheet.textView(), QString::fromStdString(*_title));
-    if (_album || _noAlbum)
+    if (_album)
         if (const auto status = _chooseAlbum(sheet)) return status;
     if (_audience) {
-        SheetUser::chooses(*SheetUser::opensOption(sheet, audienceItem), {audiences.at(*_audience), 0});
+        SheetUser::chooses(*SheetUser::opensOption(sheet, FlickrComposeItemAudience), {audiences.at(*_audience), 0});
         SheetUser::leavesOption(sheet);
     }
     return std::nullopt;
 }
 
 std::optional<int> ShareFlickrCommand::_chooseAlbum(FlickrComposeViewController &sheet) const {
-    std::optional<QString> problem;
-    const auto screen = AlbumList::load(sheet, &problem);
-    if (problem && _album) {
-        Output::problem(*problem + QStringLiteral("\nNothing was shared."));
-        return ExitUploadFailed;
-    }
-    const auto row = _album ? AlbumList::rowOf(*screen, QString::fromStdString(*_album)) : AlbumList::noAlbumRow;
-    if (!row) return ExitUsage;
+    const auto fail = [](ExitStatus status) {
+        Output::problem(QStringLiteral("Nothing was shared."));
+        return status;
+    };
+    if (!SheetUser::hasCredential(*sheet.flickrAccount())) return fail(ExitNoAccount);
+    const auto screen = AlbumList::load(sheet);
+    if (!screen) return fail(ExitUploadFailed);
+    const auto row = AlbumList::rowOf(*screen, QString::fromStdString(*_album));
+    if (!row) return fail(ExitUsage);
     SheetUser::chooses(*screen, {*row, 0});
     SheetUser::leavesOption(sheet);
     return std::nullopt;

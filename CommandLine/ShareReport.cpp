@@ -6,52 +6,35 @@
 #include "CommandLine/Output.h"
 #include "CommandLine/UploadText.h"
 #include "CommandLine/UploadsWatch.h"
-#include "Platform/Accounts/ACAccountStore.h"
-#include "Platform/Social/RemoteServiceError.h"
-#include "Platform/Social/SLComposeServiceViewController.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
 
 namespace korvane {
+namespace {
 
-void ShareReport::addOptions(CLI::App &command) {
+const char *const ending = R"(
+
+The upload service uploads in the background, also after this command has ended and after a restart. --wait stays until
+all is uploaded; Ctrl-C ends the waiting, not the uploads.
+
+Exit status: 0 all well, 1 an upload failed, or something that has no status of its own, 2 bad usage or a file that
+cannot be used, 3 no usable account, 4 the upload service cannot be reached, runs with other settings, or cannot take
+anything just now; with --wait 130 after Ctrl-C.)";
+
+} // namespace
+
+void ShareReport::addTo(CLI::App &command, const std::string &explanation) {
     command.add_flag("--wait", _waits, "Wait until all is uploaded, and show how it goes on");
     command.add_flag("--json", _json, "Print the uploads as JSON");
+    command.footer(explanation + ending);
 }
 
-bool ShareReport::hasAccount(const SLComposeServiceViewController &sheet, const QString &service) {
-    if (sheet.settingsAlert()) {
-        Output::problem(QStringLiteral("%1\nAdd one with:\n  korvane accounts add %2 --credential-file FILE")
-                            .arg(sheet.settingsAlert()->message, service));
-        return false;
-    }
-    const ACAccountStore store;
-    const auto accounts = store.accountsWithAccountType(store.accountTypeWithAccountTypeIdentifier(
-        service == QLatin1String("flickr") ? ACAccountTypeIdentifierFlickr : ACAccountTypeIdentifierVimeo));
-    if (accounts.size() > 1)
-        Output::note(QStringLiteral("Sharing as %1, the last added of %2 %3 accounts.")
-                         .arg(accounts.back()->username())
-                         .arg(accounts.size())
-                         .arg(sheet.title().value_or(QString())));
-    return true;
-}
-
-std::optional<int> ShareReport::post(SLComposeServiceViewController &sheet) {
-    sheet.userTapsPost();
-    if (sheet.extensionContext()->state() == NSExtensionContext::State::Completed) return std::nullopt;
-    const NSError reason = sheet.extensionContext()->error().value_or(
-        NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable,
-                                      QStringLiteral("The upload service gave no reason.")));
-    Output::problem(QStringLiteral("Nothing was shared. ") + reason.localizedDescription());
-    return Arguments::exitStatusOf(reason);
-}
-
-int ShareReport::succeeded(const QByteArrayList &files, const QString &messageID) const {
+int ShareReport::succeeded(const QByteArrayList &files, const QString &messageID, const QStringList &choices) const {
     if (!_json)
-        Output::line(
-            QStringLiteral("%1 handed over to the upload service. See: korvane uploads").arg(_counted(files.size())));
+        Output::line(QStringLiteral("%1 handed over to the upload service (%2). See: korvane uploads")
+                         .arg(_counted(files.size()), choices.join(QStringLiteral(", "))));
     if (!_json && !_waits) return ExitDone;
     UploadsClient client;
     std::optional<NSError> error;

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <optional>
+#include <string>
 
 namespace CLI {
 class App;
@@ -14,21 +15,15 @@ class App;
 
 namespace korvane {
 
-class SLComposeServiceViewController;
-
 // The options --wait and --json, and what they ask for. what: "photo" or "video".
 class ShareReport {
 public:
     explicit ShareReport(QString what) : _what(std::move(what)) {}
-    void addOptions(CLI::App &command);
-
-    // Of a sheet that has been opened: says which of several accounts is used. False, after saying what to do, if the
-    // sheet finds none. service: "flickr" or "vimeo".
-    static bool hasAccount(const SLComposeServiceViewController &sheet, const QString &service);
-    // Posts; returns the exit status if nothing was shared, after saying why.
-    static std::optional<int> post(SLComposeServiceViewController &sheet);
-    // After the hand-over of these files; blocks with --wait. Returns the exit status.
-    int succeeded(const QByteArrayList &files, const QString &messageID) const;
+    // explanation: the command's own, put before what is true of every share.
+    void addTo(CLI::App &command, const std::string &explanation);
+    // After the hand-over of these files; blocks with --wait. choices: what people should know that it was shared with,
+    // as "Audience: Public". Returns the exit status.
+    int succeeded(const QByteArrayList &files, const QString &messageID, const QStringList &choices) const;
 
 private:
     QString _counted(qsizetype count) const;

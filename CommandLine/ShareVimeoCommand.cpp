@@ -4,7 +4,8 @@
 #include "CommandLine/Arguments.h"
 #include "CommandLine/Output.h"
 #include "CommandLine/SheetUser.h"
-#include "Korvane/VimeoComposeViewController.h"
+#include "CommandLine/SystemLog.h"
+#include "Korvane/VimeoPost.h"
 #include "Korvane/VimeoUploadSession.h"
 
 #include <CLI/CLI.hpp>
@@ -14,13 +15,10 @@
 namespace korvane {
 namespace {
 
-constexpr size_t longestTitle = 128; // bytes
-
-// Where things stand in the sheet and in its screen for the details.
-constexpr size_t detailsItem = 0;
-enum Section : qint64 { descriptionSection = 0, tagSection = 1, sizeSection = 2, privacySection = 3 };
-const std::map<std::string, qint64> sizes{{"small", 0}, {"medium", 1}, {"large", 2}};
-const std::map<std::string, qint64> privacies{{"public", 0}, {"private", 1}};
+const std::map<std::string, VimeoVideoSize> sizes{
+    {"small", VimeoVideoSizeSmall}, {"medium", VimeoVideoSizeMedium}, {"large", VimeoVideoSizeLarge}};
+const std::map<std::string, VimeoPrivacySetting> privacies{{"public", VimeoPrivacyPublic},
+                                                           {"private", VimeoPrivacyPrivate}};
 
 const char *const examples = R"(Examples:
   korvane share vimeo --title "Summer" summer.mp4
@@ -30,21 +28,22 @@ A video in the photo library (the Videos and Pictures folders) is made into an M
 for, never larger than it is. A video elsewhere is sent as it is, from where it is: leave the file alone until it is
 uploaded.
 
-Size and privacy are remembered for the next share, here and in the share sheet; at first they are large and public.
+Size and privacy are remembered for the next share; at first they are large and public. The share sheet takes the
+remembered privacy only where its details are opened; otherwise its video is public.
 
-Sharing takes a moment; the upload service uploads in the background, also after this command has ended and after a
-restart, and goes on where it was. --wait stays until the video is there; Ctrl-C ends the waiting, not the upload.
-
-Exit status: 0 all well, 1 an upload failed, 2 bad usage or a file that cannot be used, 3 no account,
-4 the upload service cannot be reached, runs with other settings, or cannot take anything just now; with --wait 130
-after Ctrl-C.)";
+An upload that is broken off goes on where it was.)";
 
 std::string problemWithTitle(const std::string &title) {
     if (title.empty()) return "a video on Vimeo needs a title";
-    if (title.size() > longestTitle)
+    if (title.size() > VimeoLongestTitle)
         return "the title has " + std::to_string(title.size()) + " bytes; a video's title has at most " +
-               std::to_string(longestTitle) + " (in UTF-8)";
+               std::to_string(VimeoLongestTitle) + " (in UTF-8)";
     return Arguments::problemWithText(title);
+}
+
+std::string problemWithTag(const std::string &tag) {
+    if (QByteArray::fromStdString(tag).trimmed().isEmpty()) return "a tag must not be empty";
+    return Arguments::problemWithText(tag);
 }
 
 } // namespace
@@ -63,15 +62,14 @@ ShareVimeoCommand::ShareVimeoCommand(CLI::App &share) {
         ->type_name("TEXT")
         ->take_all()
         ->allow_extra_args(false)
-        ->check(Arguments::problemWithText);
+        ->check(problemWithTag);
     _app->add_option("--size", _size, "small, medium or large; as last time if not given")
         ->type_name("SIZE")
         ->check(CLI::IsMember(sizes));
     _app->add_option("--privacy", _privacy, "Who sees the video: public or private; as last time if not given")
         ->type_name("WHO")
         ->check(CLI::IsMember(privacies));
-    _report.addOptions(*_app);
-    _app->footer(examples);
+    _report.addTo(*_app, examples);
 }
 
 bool ShareVimeoCommand::isChosen() const {
@@ -79,42 +77,40 @@ bool ShareVimeoCommand::isChosen() const {
 }
 
 int ShareVimeoCommand::run() {
+    sendLogToSystemLog();
+    const QByteArray file = QByteArray::fromStdString(_file);
     std::optional<NSError> error;
-    const auto attachment = SLAttachment::videoAttachment(QByteArray::fromStdString(_file), &error);
+    const auto attachment = SLAttachment::videoAttachment(file, &error);
     if (!attachment) {
         Output::problem(error->localizedDescription());
         Output::problem(QStringLiteral("Nothing was shared."));
         return ExitUsage;
     }
-    const auto sheet = VimeoComposeViewController::initWithNibName();
-    sheet->setAttachments({*attachment});
-    SheetUser::opens(*sheet);
-    if (!ShareReport::hasAccount(*sheet, QStringLiteral("vimeo"))) return ExitNoAccount;
+    const auto sheet = SheetUser::opensVimeoSheet(*attachment);
+    if (!sheet) return ExitNoAccount;
+    SheetUser::saysAccount(*sheet->vimeoAccount());
     SheetUser::types(sheet->textView(), QString::fromStdString(_title));
-    if (!sheet->validateText(sheet->textView()->text())) {
-        Output::problem(QStringLiteral("The title cannot be used. Nothing was shared."));
-        return ExitUsage;
-    }
     _fillDetails(*sheet);
-    if (const auto status = ShareReport::post(*sheet)) return *status;
-    return _report.succeeded({QByteArray::fromStdString(_file)}, sheet->session()->lastMessageID());
+    if (const auto status = SheetUser::posts(*sheet)) return *status;
+    const bool isPublic = sheet->privacySettings() == VimeoPrivacyPublic;
+    return _report.succeeded({file}, sheet->session()->lastMessageID(),
+                             {isPublic ? QStringLiteral("Privacy: public") : QStringLiteral("Privacy: private")});
 }
 
 // The details are always looked at, so that the remembered privacy counts also where nothing is said about it.
 void ShareVimeoCommand::_fillDetails(VimeoComposeViewController &sheet) const {
-    const auto details = SheetUser::opensOption(sheet, detailsItem);
+    const auto details = SheetUser::opensOption(sheet, VimeoComposeItemDetails);
     if (_description) {
-        const auto cell = SheetUser::looksAt(*details, {0, descriptionSection});
-        SheetUser::types(std::dynamic_pointer_cast<UITextView>(cell->subviews().back()),
-                         QString::fromStdString(*_description));
+        const auto cell = SheetUser::looksAt(*details, {0, VimeoDetailsSectionDescription});
+        SheetUser::types(cell->textView(), QString::fromStdString(*_description));
     }
     for (const QString &tag : Arguments::texts(_tags)) {
-        const qint64 newTagRow = details->tableView()->numberOfRowsInSection(tagSection) - 1;
-        const auto cell = SheetUser::looksAt(*details, {newTagRow, tagSection});
+        const qint64 newTagRow = details->tableView()->numberOfRowsInSection(VimeoDetailsSectionTags) - 1;
+        const auto cell = SheetUser::looksAt(*details, {newTagRow, VimeoDetailsSectionTags});
         cell->editableTextField()->userReplacesCharacters({0, 0}, tag);
     }
-    if (_size) SheetUser::chooses(*details, {sizes.at(*_size), sizeSection});
-    if (_privacy) SheetUser::chooses(*details, {privacies.at(*_privacy), privacySection});
+    if (_size) SheetUser::chooses(*details, {sizes.at(*_size), VimeoDetailsSectionVideoSize});
+    if (_privacy) SheetUser::chooses(*details, {privacies.at(*_privacy), VimeoDetailsSectionPrivacy});
     SheetUser::leavesOption(sheet);
 }
 

@@ -47,6 +47,12 @@ void FlickrComposeViewController::forgetUnknownAudience() {
     CFPreferencesAppSynchronize(FlickrUploadDomain);
 }
 
+void FlickrComposeViewController::forgetPhotoSet() {
+    CFPreferencesSetAppValue(FlickrUploadPhotoSetID, QVariant(), FlickrUploadDomain);
+    CFPreferencesSetAppValue(FlickrUploadPhotoSetTitle, QVariant(), FlickrUploadDomain);
+    CFPreferencesAppSynchronize(FlickrUploadDomain);
+}
+
 bool FlickrComposeViewController::_initWithNibName(const std::optional<QString> &nibName,
                                                    const std::optional<QString> &bundle) {
     if (!SLComposeServiceViewController::_initWithNibName(nibName, bundle)) return false;

@@ -29,6 +29,8 @@ public:
     // For a program that must not stop on it: forgets a remembered audience for which there is no row. Before the sheet
     // is made.
     static void forgetUnknownAudience();
+    // Later sheets begin with no photo set.
+    static void forgetPhotoSet();
 
     std::shared_ptr<ACAccountStore> accountStore() const override { return _accountStore; }
     void setAccountStore(std::shared_ptr<ACAccountStore> store) { _accountStore = std::move(store); }

@@ -203,7 +203,11 @@ void UploadQueue::setPaused(bool paused, const Answer &answer) {
 void UploadQueue::wake() {
     _queue.async([this] {
         _recordAgain();
-        _requeue(_store->dueBefore(QDateTime::currentMSecsSinceEpoch()));
+        const auto due = _store->dueBefore(QDateTime::currentMSecsSinceEpoch());
+        for (const UploadJob &job : due)
+            if (job.waitReason == WaitReason::SignIn)
+                _holds.erase(job.service); // it is its turn to look for an account
+        _requeue(due);
     });
 }
 

@@ -4,6 +4,8 @@
 #include "Platform/Foundation/Dispatch.h"
 #include "ShareSheet/ThumbnailProvider.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <atomic>
 
@@ -37,7 +39,9 @@ AttachmentsModel::AttachmentsModel(Kind kind, const QByteArrayList &arguments, Q
     : QAbstractListModel(parent), _kind(kind) {
     for (const QByteArray &argument : arguments) {
         auto file = SharedFile::fromArgument(argument);
-        if (isVideo() && !_entries.empty()) file.problem = tr("only one video at a time can be shared to Vimeo");
+        if (isVideo() && !_entries.empty())
+            file.problem =
+                QCoreApplication::translate("AttachmentsModel", "only one video at a time can be shared to Vimeo");
         _entries.push_back({std::move(file), std::nullopt});
     }
 }
@@ -84,7 +88,9 @@ int AttachmentsModel::usableCount() const {
 QString AttachmentsModel::problems() const {
     QStringList lines;
     for (const Entry &entry : _entries)
-        if (!entry.file.problem.isEmpty()) lines.append(tr("%1: %2").arg(entry.file.name, entry.file.problem));
+        if (!entry.file.problem.isEmpty())
+            lines.append(
+                QCoreApplication::translate("AttachmentsModel", "%1: %2").arg(entry.file.name, entry.file.problem));
     return lines.join(u'\n');
 }
 

@@ -14,10 +14,6 @@
 namespace korvane {
 namespace {
 
-QString text(const char *english) {
-    return QCoreApplication::translate("SharedFile", english);
-}
-
 // "scheme:" in front of it, other than what a file's name may begin with.
 bool isAddress(const QByteArray &argument) {
     const qsizetype colon = argument.indexOf("://");
@@ -41,7 +37,8 @@ SharedFile SharedFile::fromArgument(const QByteArray &argument) {
     file.path = isAddress(argument) ? pathOfAddress(argument) : argument;
     file.name = QString::fromUtf8(file.path.isEmpty() ? argument : file.path.mid(file.path.lastIndexOf('/') + 1));
     if (file.path.isEmpty())
-        file.problem = text("this is not on this device; copy it here, or open its folder in the file manager first");
+        file.problem = QCoreApplication::translate(
+            "SharedFile", "this is not on this device; copy it here, or open its folder in the file manager first");
     return file;
 }
 
@@ -49,9 +46,11 @@ QString SharedFile::problemAtSight() const {
     if (!problem.isEmpty()) return problem;
     struct stat status;
     if (::stat(path.constData(), &status) != 0)
-        return errno == ENOENT ? text("there is no such file") : QString::fromLocal8Bit(std::strerror(errno));
-    if (S_ISDIR(status.st_mode)) return text("this is a folder; choose the files in it");
-    return S_ISREG(status.st_mode) ? QString() : text("this is no ordinary file");
+        return errno == ENOENT ? QCoreApplication::translate("SharedFile", "there is no such file")
+                               : QString::fromLocal8Bit(std::strerror(errno));
+    if (S_ISDIR(status.st_mode))
+        return QCoreApplication::translate("SharedFile", "this is a folder; choose the files in it");
+    return S_ISREG(status.st_mode) ? QString() : QCoreApplication::translate("SharedFile", "this is no ordinary file");
 }
 
 } // namespace korvane

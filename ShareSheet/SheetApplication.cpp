@@ -9,6 +9,7 @@
 #include "ShareSheet/ThumbnailMaker.h"
 #include "ShareSheet/ThumbnailProvider.h"
 
+#include <QLocale>
 #include <QTimer>
 
 #include <sys/resource.h>
@@ -30,6 +31,10 @@ void raiseFileLimit() {
 } // namespace
 
 SheetApplication::SheetApplication() : _engine(std::make_unique<QQmlApplicationEngine>()) {
+    for (const QLocale &locale : {QLocale(), QLocale(QLocale::English)})
+        if (_texts.load(locale, QStringLiteral("Sheet"), QStringLiteral("_"), QStringLiteral(":/korvane/strings")))
+            break;
+    QCoreApplication::installTranslator(&_texts);
     qmlRegisterType<EditableText>("Korvane.Models", 1, 0, "EditableText");
     _engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
     _engine->addImageProvider(ThumbnailProvider::name(), new ThumbnailProvider(&ThumbnailMaker::make));

@@ -7,6 +7,7 @@
 #include "ShareSheet/Uploads.h"
 
 #include <QQmlApplicationEngine>
+#include <QTranslator>
 
 namespace korvane {
 
@@ -45,6 +46,7 @@ private:
     bool _openWindow(const QString &page, const QVariantMap &properties);
     void _end(int status);
 
+    QTranslator _texts;
     std::shared_ptr<SLComposeServiceViewController> _controller;
     std::unique_ptr<AttachmentsModel> _attachments;
     std::unique_ptr<SheetModel> _sheet;

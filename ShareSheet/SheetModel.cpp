@@ -6,6 +6,8 @@
 #include "ShareSheet/EditableText.h"
 #include "ShareSheet/FrameWait.h"
 
+#include <QCoreApplication>
+
 namespace korvane {
 
 class SheetModel::Observer : public SLComposeServiceViewControllerObserver, public UIViewObserver {
@@ -95,24 +97,28 @@ QVariantList SheetModel::items() const {
 
 QString SheetModel::optionTitle() const {
     const auto &screen = _sheet->configurationViewController();
-    return screen ? screen->title().value_or(QString()) : QString();
+    return screen ? screen->title().value_or(_tappedTitle) : QString();
+}
+
+void SheetModel::commitText() {
+    EditableText::commitComposition();
 }
 
 void SheetModel::tapItem(int item) {
     const auto items = _sheet->shownConfigurationItems();
     if (_isHandingOver || item < 0 || item >= int(items.size())) return;
-    EditableText::commitComposition();
+    commitText();
+    _tappedTitle = items[size_t(item)]->title().value_or(QString());
     if (const auto tap = items[size_t(item)]->tapHandler()) tap();
 }
 
 void SheetModel::popOption() {
-    EditableText::commitComposition();
+    commitText();
     _sheet->popConfigurationViewController();
 }
 
 // The window shows first that it hands over: the hand-over itself lets nothing be drawn.
 void SheetModel::post() {
-    EditableText::commitComposition();
     popOption();
     if (!canPost() || !_window) return;
     if (_lacksAccount) appearAgain();
@@ -130,13 +136,16 @@ void SheetModel::_handOver() {
     _sheet->userTapsPost();
     const auto &request = *_sheet->extensionContext();
     if (request.state() == NSExtensionContext::State::Completed) return _finish(ExitDone);
-    const QString reason = request.error() ? request.error()->localizedDescription() : tr("No reason was given.");
+    const QString reason = request.error() ? request.error()->localizedDescription()
+                                           : QCoreApplication::translate("SheetModel", "No reason was given.");
     _status = request.error() ? Arguments::exitStatusOf(*request.error()) : ExitUploadFailed;
     _sheet->extensionContext()->reopen();
     _isHandingOver = false;
     Q_EMIT isHandingOverChanged();
     Q_EMIT canPostChanged();
-    _setFailure(tr("Nothing was shared. %1\nWhat you entered is still here: press Post to try again.").arg(reason));
+    _setFailure(QCoreApplication::translate(
+                    "SheetModel", "Nothing was shared. %1\nWhat you entered is still here: press Post to try again.")
+                    .arg(reason));
 }
 
 void SheetModel::cancel() {

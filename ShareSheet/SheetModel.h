@@ -41,7 +41,7 @@ public:
     // Once the window has drawn: what is asked for may take a moment.
     void begin(QQuickWindow &window);
     // The person comes back from the settings.
-    void appearAgain();
+    Q_INVOKABLE void appearAgain();
 
     QString title() const;
     bool isVideo() const { return _attachments.isVideo(); }
@@ -60,6 +60,7 @@ public:
     QString alertMessage() const { return hasAlert() ? _sheet->settingsAlert()->message : QString(); }
     const QString &failure() const { return _failure; }
 
+    Q_INVOKABLE void commitText(); // what is still being composed; before the keyboard goes elsewhere
     Q_INVOKABLE void tapItem(int item);
     Q_INVOKABLE void popOption();
     Q_INVOKABLE void post();
@@ -106,6 +107,7 @@ private:
     bool _lacksAccount = false;
     int _status;
     QString _failure;
+    QString _tappedTitle; // of the row that led to the option screen, which may have no title of its own
 };
 
 } // namespace korvane

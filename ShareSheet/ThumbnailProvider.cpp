@@ -31,11 +31,11 @@ public:
         _recipient->response = nullptr;
         _wanted.request_stop();
     }
+    // Where there is none, nothing is shown, and nothing said: the tile says what it stands for.
     QQuickTextureFactory *textureFactory() const override {
-        return QQuickTextureFactory::textureFactoryForImage(_image);
-    }
-    QString errorString() const override {
-        return _image.isNull() ? QStringLiteral("there is no thumbnail") : QString();
+        QImage nothing(1, 1, QImage::Format_ARGB32_Premultiplied);
+        nothing.fill(Qt::transparent);
+        return QQuickTextureFactory::textureFactoryForImage(_image.isNull() ? nothing : _image);
     }
     void cancel() override {
         _wanted.request_stop();

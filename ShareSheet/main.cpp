@@ -3,8 +3,6 @@
 #include "ShareSheet/SheetApplication.h"
 
 #include <QGuiApplication>
-#include <QLocale>
-#include <QTranslator>
 
 #include <cstdio>
 
@@ -28,9 +26,6 @@ int main(int argc, char *argv[]) {
     QCoreApplication::setApplicationName(QStringLiteral("korvane-sheet"));
     QGuiApplication::setDesktopFileName(QStringLiteral("korvane-sheet"));
     QGuiApplication::setQuitOnLastWindowClosed(false); // the end has a status
-    QTranslator translator;
-    if (translator.load(QLocale(), QStringLiteral("Sheet"), QStringLiteral("_"), QStringLiteral(":/korvane/strings")))
-        QCoreApplication::installTranslator(&translator);
     SheetApplication sheet;
     QObject::connect(&sheet, &SheetApplication::finished, &application, &QCoreApplication::exit);
     return sheet.open(*request) ? QCoreApplication::exec() : ExitUploadFailed;

@@ -1,7 +1,20 @@
 #!/usr/bin/env bash
-# Shares photos and a video to a local stand-in of Flickr and Vimeo, the whole way: scripts/demo.sh [FILE...]
+# Shares photos and a video to a local stand-in of Flickr and Vimeo, the whole way: scripts/demo.sh [--window] [FILE...]
+# With --window through the share sheet's window: post what you like there, or cancel.
 # Sets up and builds first. Without photos or without a video it makes some. Keeps everything in build/demo.
 set -euo pipefail
+window=
+if [ "${1:-}" = --window ]; then
+  window=yes
+  shift
+  if [ -z "${WAYLAND_DISPLAY:-}${DISPLAY:-}${QT_QPA_PLATFORM:-}" ]; then
+    echo "There is no screen to show a window on; try scripts/demo.sh without --window." >&2
+    exit 1
+  fi
+  # The window still finds its screen where home and runtime folder are the demo's.
+  case ${WAYLAND_DISPLAY:-/} in /*) ;; *) export WAYLAND_DISPLAY=${XDG_RUNTIME_DIR:-}/$WAYLAND_DISPLAY ;; esac
+  export XAUTHORITY=${XAUTHORITY:-$HOME/.Xauthority}
+fi
 files=()
 for file in "$@"; do files+=("$(realpath -- "$file")"); done
 cd "$(dirname "$0")/.."
@@ -58,6 +71,27 @@ fi
 for service in flickr vimeo; do
   "$bin/korvane-standin" --print-credential "$service" | "$bin/korvane" accounts add "$service" --credential-file -
 done
+look() {
+  if [ -t 0 ] && [ -t 1 ]; then
+    read -r -p "Look at them: $url   (Enter ends the demo) "
+  else
+    echo "Look at them: build/dev/bin/korvane standin --port 8743 --state build/demo/standin, then http://127.0.0.1:8743/"
+  fi
+}
+if [ -n "$window" ]; then
+  posted=
+  "$bin/korvane" compose flickr "${photos[@]}" && posted=yes
+  for video in "${videos[@]}"; do
+    "$bin/korvane" compose vimeo "$video" && posted=yes
+  done
+  if [ -z "$posted" ]; then
+    echo "Nothing was shared."
+    exit
+  fi
+  "$bin/korvane" uploads watch
+  look
+  exit
+fi
 state() { curl -fsS "$KORVANE_FLICKR_URL/api/state"; }
 album=$(state | grep -o '"albums":\[{"id":"[0-9]*"' | grep -o '[0-9]*') || album=
 "$bin/korvane" share flickr "${photos[@]}" --title "Shared with Korvane" --audience friends ${album:+--album "$album"} --wait
@@ -78,9 +112,5 @@ if [ "$shared" -ne $((${#photos[@]} + ${#videos[@]})) ]; then
   exit 1
 fi
 echo
-echo "${#photos[@]} photos and ${#videos[@]} video(s) arrived."
-if [ -t 0 ] && [ -t 1 ]; then
-  read -r -p "Look at them: $url   (Enter ends the demo) "
-else
-  echo "Look at them: build/dev/bin/korvane standin --port 8743 --state build/demo/standin, then http://127.0.0.1:8743/"
-fi
+echo "${#photos[@]} photo(s) and ${#videos[@]} video(s) arrived."
+look

@@ -9,15 +9,16 @@ namespace korvane {
 ACAccount::ACAccount(QString identifier, ACAccountType type, QString username, SecretPlace place)
     : _identifier(std::move(identifier)), _type(std::move(type)), _username(std::move(username)), _place(place) {}
 
-std::optional<ACAccountCredential> ACAccount::credential() const {
+std::optional<ACAccountCredential> ACAccount::credential(std::optional<NSError> *error) const {
     const std::lock_guard lock(_credentialMutex);
     if (_credential) return _credential;
-    std::optional<NSError> error;
-    _credential = CredentialStore::load(_identifier, _place, &error);
-    if (!_credential)
-        NSLog("The credential of account %@ (%@) cannot be used: %@", _username, _identifier,
-              error->localizedDescription());
-    return _credential;
+    std::optional<NSError> reason;
+    _credential = CredentialStore::load(_identifier, _place, &reason);
+    if (_credential) return _credential;
+    NSLog("The credential of account %@ (%@) cannot be used: %@", _username, _identifier,
+          reason->localizedDescription());
+    setError(error, reason);
+    return std::nullopt;
 }
 
 std::shared_ptr<UploadContext> ACAccount::uploadContext() const {

@@ -23,8 +23,9 @@ public:
     const ACAccountType &accountType() const { return _type; }
 
     // Read from the keyring or the credentials file on first use, which may take up to five seconds, and kept from then
-    // on. Null, with a log line, where it cannot be had now (keyring locked or not there); the next call tries again.
-    std::optional<ACAccountCredential> credential() const;
+    // on. Null, with a log line and the error placed, where it cannot be had now (keyring locked or not there); the
+    // next call tries again.
+    std::optional<ACAccountCredential> credential(std::optional<NSError> *error = nullptr) const;
 
     // What the requests made for this object report to; null where nobody set one.
     std::shared_ptr<UploadContext> uploadContext() const;

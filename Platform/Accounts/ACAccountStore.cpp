@@ -68,11 +68,13 @@ std::vector<Entry> entriesOf(const QVariantMap &values) {
     return entries;
 }
 
-std::vector<Entry> readEntries() {
-    std::optional<NSError> error;
-    const auto values = accountsFile().read(&error);
-    if (!values) NSLog("The list of accounts could not be read: %@", error->localizedDescription());
-    return values ? entriesOf(*values) : std::vector<Entry>();
+std::vector<Entry> readEntries(std::optional<NSError> *error = nullptr) {
+    std::optional<NSError> reason;
+    const auto values = accountsFile().read(&reason);
+    if (values) return entriesOf(*values);
+    NSLog("The list of accounts could not be read: %@", reason->localizedDescription());
+    setError(error, reason);
+    return {};
 }
 
 // Where the entry of that identifier stands in the list, or its end.
@@ -123,9 +125,10 @@ ACAccountType ACAccountStore::accountTypeWithAccountTypeIdentifier(const QString
     return ACAccountType(identifier);
 }
 
-std::vector<std::shared_ptr<ACAccount>> ACAccountStore::accountsWithAccountType(const ACAccountType &type) const {
+std::vector<std::shared_ptr<ACAccount>> ACAccountStore::accountsWithAccountType(const ACAccountType &type,
+                                                                                std::optional<NSError> *error) const {
     std::vector<std::shared_ptr<ACAccount>> accounts;
-    for (const Entry &entry : readEntries())
+    for (const Entry &entry : readEntries(error))
         if (entry.type == type.identifier()) accounts.push_back(entry.account());
     return accounts;
 }

@@ -16,8 +16,10 @@ class ACAccountStore {
 public:
     ACAccountType accountTypeWithAccountTypeIdentifier(const QString &identifier) const;
 
-    // In the order in which they were added or put into use. Empty, with a log line, if the list cannot be read.
-    std::vector<std::shared_ptr<ACAccount>> accountsWithAccountType(const ACAccountType &type) const;
+    // In the order in which they were added or put into use. Empty, with a log line and the error placed, if the list
+    // cannot be read.
+    std::vector<std::shared_ptr<ACAccount>> accountsWithAccountType(const ACAccountType &type,
+                                                                    std::optional<NSError> *error = nullptr) const;
     std::shared_ptr<ACAccount> accountWithIdentifier(const QString &identifier) const; // null if there is none
     // The account of that type that was added or put into use last, with which posts go out; null if there is none.
     std::shared_ptr<ACAccount> accountInUse(const QString &typeIdentifier) const;

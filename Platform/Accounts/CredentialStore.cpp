@@ -35,14 +35,19 @@ QVariantMap mapOf(const ACAccountCredential &credential) {
             {QStringLiteral("tokenSecret"), credential.tokenSecret}};
 }
 
+QString addAgain(SecretOf kind) {
+    return kind == SecretOf::Account ? QStringLiteral("Add the account again") : QStringLiteral("Enter the keys again");
+}
+
 std::optional<ACAccountCredential> credentialOf(const QVariantMap &map, SecretOf kind, std::optional<NSError> *error) {
     QStringList needed{QStringLiteral("consumerKey"), QStringLiteral("consumerSecret")};
     if (kind == SecretOf::Account) needed += {QStringLiteral("token"), QStringLiteral("tokenSecret")};
     for (const QString &key : std::as_const(needed)) {
         if (map.value(key).typeId() == QMetaType::QString && !map.value(key).toString().isEmpty()) continue;
-        setError(error, NSError::errorWithDescription(
-                            ACErrorDomain, ACErrorCredentialInvalid,
-                            QStringLiteral("The stored credential has no usable \"%1\". Add it again.").arg(key)));
+        setError(error,
+                 NSError::errorWithDescription(
+                     ACErrorDomain, ACErrorCredentialInvalid,
+                     QStringLiteral("The stored credential has no usable \"%1\". %2.").arg(key, addAgain(kind))));
         return std::nullopt;
     }
     const auto text = [&map](const char *key) { return map.value(QLatin1String(key)).toString(); };
@@ -57,8 +62,10 @@ std::nullopt_t missing(std::optional<NSError> *error, const QString &text) {
 std::optional<ACAccountCredential> loadFromKeyring(const QString &identifier, SecretOf kind,
                                                    std::optional<NSError> *error) {
     if (keyringForbidden())
-        return missing(error, QStringLiteral("It is in the keyring, which KORVANE_SECRETS=file forbids to use. Add it "
-                                             "again to keep it in a file."));
+        return missing(error,
+                       QStringLiteral("It is in the keyring, which KORVANE_SECRETS=file forbids to use. %1 to keep it "
+                                      "in a file.")
+                           .arg(addAgain(kind)));
     const SecretKeyring::Answer answer = SecretKeyring::load(identifier);
     switch (answer.outcome) {
     case Outcome::Done:
@@ -67,7 +74,7 @@ std::optional<ACAccountCredential> loadFromKeyring(const QString &identifier, Se
     case Outcome::Locked:
         return missing(error, QStringLiteral("The keyring is locked. Unlock it and try again."));
     case Outcome::Missing:
-        return missing(error, QStringLiteral("The keyring does not hold it any more. Add it again."));
+        return missing(error, QStringLiteral("The keyring does not hold it any more. %1.").arg(addAgain(kind)));
     default:
         return missing(error, QStringLiteral("The keyring cannot be used: %1.").arg(answer.text));
     }
@@ -79,7 +86,7 @@ std::optional<ACAccountCredential> loadFromFile(const QString &identifier, Secre
     if (!values) return std::nullopt;
     sayThatTheFileIsUsed(QStringLiteral("they were not stored in a keyring"));
     if (!values->contains(identifier))
-        return missing(error, QStringLiteral("%1 does not hold it. Add it again.").arg(credentialsFile().path()));
+        return missing(error, QStringLiteral("%1 does not hold it. %2.").arg(credentialsFile().path(), addAgain(kind)));
     return credentialOf(values->value(identifier).toMap(), kind, error);
 }
 

@@ -15,7 +15,7 @@ T.Button {
     rightPadding: leftPadding
     topPadding: 4
     bottomPadding: 4
-    focusPolicy: Qt.StrongFocus
+    focusPolicy: Qt.TabFocus // a tap leaves the keyboard, and what is being composed, where it is
     opacity: enabled ? 1 : 0.45
     Accessible.role: Accessible.Button
     Accessible.name: text
@@ -28,6 +28,7 @@ T.Button {
         text: control.text
         color: control.ink
         font.bold: control.isMain
+        font.pixelSize: control.text.length === 1 ? Theme.lineHeight * 1.3 : Theme.fontPixelSize // a sign, or words
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         wrapMode: Text.Wrap

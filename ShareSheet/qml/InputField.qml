@@ -14,6 +14,7 @@ T.TextField {
     rightPadding: Theme.spacing
     topPadding: Theme.spacing * 0.5
     bottomPadding: Theme.spacing * 0.5
+    font: Qt.application.font
     color: Theme.text
     placeholderTextColor: Theme.secondaryText
     selectionColor: Theme.accent

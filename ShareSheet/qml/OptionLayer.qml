@@ -84,6 +84,7 @@ FocusScope {
             anchors.horizontalCenter: parent.horizontalCenter
             width: Math.min(parent.width, Theme.widestPage)
             table: layer.table
+            onExited: header.leadingButton.forceActiveFocus(Qt.TabFocusReason)
         }
         Text {
             anchors.centerIn: list

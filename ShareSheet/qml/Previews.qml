@@ -23,6 +23,7 @@ Item {
         leftMargin: Theme.margin
         rightMargin: Theme.margin
         cacheBuffer: previews.edge
+        highlightMoveDuration: Theme.slideDuration
         activeFocusOnTab: !previews.isOne
         keyNavigationEnabled: true
         model: previews.attachments

@@ -82,6 +82,7 @@ FocusScope {
 
                         anchors.right: parent.right
                         anchors.rightMargin: Theme.margin
+                        anchors.verticalCenter: parent.verticalCenter
                         visible: body.sheet.room >= 0
                         text: body.sheet.room
                         color: body.sheet.room === 0 ? Theme.problem : Theme.secondaryText
@@ -111,6 +112,7 @@ FocusScope {
                         hasSeparator: index + 1 < body.sheet.items.length
                         onActiveFocusChanged: if (activeFocus) scroller.show(mapToItem(scroller.contentItem, 0, 0, width, height))
                         onClicked: {
+                            body.sheet.commitText();
                             forceActiveFocus();
                             body.sheet.tapItem(index);
                         }

@@ -1,5 +1,6 @@
 // The share sheet.
 import QtQuick
+import QtQuick.Templates as T
 import Korvane.Sheet
 
 FocusScope {
@@ -7,6 +8,7 @@ FocusScope {
 
     required property var sheet
     readonly property string title: sheet.title
+    property bool wasLeft: false // for the settings
     readonly property bool isTop: !sheet.hasAlert && !sheet.isHandingOver
     readonly property bool isBodyUsed: isTop && !options.isShown
 
@@ -24,6 +26,8 @@ FocusScope {
         sheet.cancel();
     }
 
+    T.StackView.onDeactivated: wasLeft = true
+    T.StackView.onActivated: if (wasLeft) sheet.appearAgain()
     onIsBodyUsedChanged: if (isBodyUsed) body.forceActiveFocus()
 
     Shortcut {

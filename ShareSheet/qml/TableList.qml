@@ -7,6 +7,8 @@ ListView {
 
     property var table: null
 
+    signal exited // with the Tab key
+
     // The row at that height of the view; a header belongs to the row behind it.
     function rowAt(height, step) {
         for (let y = height; y >= 0 && y <= list.height; y += step) {
@@ -29,6 +31,7 @@ ListView {
     focus: true
     activeFocusOnTab: true
     keyNavigationEnabled: true
+    highlightMoveDuration: Theme.slideDuration
     boundsBehavior: Flickable.StopAtBounds
     cacheBuffer: Math.max(0, height)
     onContentYChanged: tellRowsSoon()
@@ -38,20 +41,27 @@ ListView {
     Accessible.role: Accessible.List
 
     section.property: "section"
-    section.delegate: SectionHeader {
+    section.delegate: Item {
         required property string section
 
         width: ListView.view ? ListView.view.width : 0
-        text: list.table ? list.table.headerOf(parseInt(section)) : ""
-        visible: text.length > 0
-        height: visible ? implicitHeight : 0
+        height: header.text.length > 0 ? header.implicitHeight : 0
+
+        SectionHeader {
+            id: header
+
+            width: parent.width
+            text: list.table ? list.table.headerOf(parseInt(parent.section)) : ""
+        }
     }
     delegate: TableRow {
         width: ListView.view.width
         table: list.table
-        onStepped: rows => {
-            list.currentIndex += rows;
-            list.currentItem.forceActiveFocus(Qt.TabFocusReason);
+        onStepped: step => {
+            if (index + step < 0 || index + step >= list.count)
+                return list.exited();
+            list.currentIndex = index + step;
+            list.currentItem.forceActiveFocus(step > 0 ? Qt.TabFocusReason : Qt.BacktabFocusReason);
         }
     }
     add: Transition {

@@ -4,7 +4,7 @@ import Korvane.Sheet
 import Korvane.Models
 
 FocusScope {
-    id: row
+    id: tableRow
 
     required property int index
     required property string text
@@ -17,38 +17,31 @@ FocusScope {
     required property string section
     property var table: null
 
-    // Gives the focus to the next row, or to the one before.
-    signal stepped(int rows)
+    signal stepped(int step) // to the next row with 1, to the one before with -1
 
     implicitHeight: contents.implicitHeight
     onActiveFocusChanged: if (activeFocus) ListView.view.currentIndex = index
-    Keys.onTabPressed: event => {
-        event.accepted = index + 1 < ListView.view.count;
-        if (event.accepted) stepped(1);
-    }
-    Keys.onBacktabPressed: event => {
-        event.accepted = index > 0;
-        if (event.accepted) stepped(-1);
-    }
+    Keys.onTabPressed: stepped(1)
+    Keys.onBacktabPressed: stepped(-1)
 
     Loader {
         id: contents
 
         width: parent.width
         focus: true
-        sourceComponent: row.kind === "textView" ? severalLines : row.kind === "field" ? line : choice
+        sourceComponent: tableRow.kind === "textView" ? severalLines : tableRow.kind === "field" ? line : choice
     }
     Component {
         id: choice
 
         ListRow {
-            text: row.text
-            isChecked: row.isChecked
-            isSelectable: row.isSelectable
+            text: tableRow.text
+            isChecked: tableRow.isChecked
+            isSelectable: tableRow.isSelectable
             focus: true
             onClicked: {
-                row.forceActiveFocus();
-                row.table.select(row.index);
+                tableRow.forceActiveFocus();
+                tableRow.table.select(tableRow.index);
             }
         }
     }
@@ -63,17 +56,17 @@ FocusScope {
             leftPadding: Theme.margin
             rightPadding: Theme.margin
             placeholderText: qsTr("New tag")
-            Accessible.name: row.ListView.view.table.headerOf(parseInt(row.section))
+            Accessible.name: tableRow.ListView.view.table.headerOf(parseInt(tableRow.section))
             onAccepted: edit.pressReturn()
 
             EditableText {
                 id: edit
 
                 input: field
-                target: row.table
-                row: row.index
-                text: row.editedText
-                isEditing: row.isEditing
+                target: tableRow.table
+                row: tableRow.index
+                text: tableRow.editedText
+                isEditing: tableRow.isEditing
             }
             Rectangle {
                 x: Theme.margin
@@ -92,17 +85,16 @@ FocusScope {
             id: box
 
             focus: true
-            implicitHeight: Math.max(row.rowHeight * Theme.touchHeight, contentHeight + topPadding + bottomPadding)
-            Accessible.name: row.ListView.view.table.headerOf(parseInt(row.section))
-            Keys.onTabPressed: event => event.accepted = false
-            Keys.onBacktabPressed: event => event.accepted = false
+            implicitHeight: Math.max(tableRow.rowHeight * Theme.touchHeight, contentHeight + topPadding + bottomPadding)
+            Accessible.name: tableRow.ListView.view.table.headerOf(parseInt(tableRow.section))
+            leave: step => tableRow.stepped(step)
 
             EditableText {
                 input: box
-                target: row.table
-                row: row.index
-                text: row.editedText
-                isEditing: row.isEditing
+                target: tableRow.table
+                row: tableRow.index
+                text: tableRow.editedText
+                isEditing: tableRow.isEditing
             }
         }
     }

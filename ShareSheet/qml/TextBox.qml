@@ -7,12 +7,15 @@ T.TextArea {
     id: area
 
     property int fewestLines: 3
+    // Where the keyboard goes with the Tab key, 1, or back, -1.
+    property var leave: step => nextItemInFocusChain(step > 0).forceActiveFocus(step > 0 ? Qt.TabFocusReason : Qt.BacktabFocusReason)
 
     implicitHeight: Math.max(Theme.touchHeight, Theme.lineHeight * fewestLines, contentHeight) + topPadding + bottomPadding
     leftPadding: Theme.margin
     rightPadding: Theme.margin
     topPadding: Theme.spacing
     bottomPadding: Theme.spacing
+    font: Qt.application.font
     color: Theme.text
     placeholderTextColor: Theme.secondaryText
     selectionColor: Theme.accent
@@ -23,8 +26,8 @@ T.TextArea {
     Accessible.role: Accessible.EditableText
     Accessible.name: placeholderText
     Accessible.multiLine: true
-    Keys.onTabPressed: nextItemInFocusChain().forceActiveFocus(Qt.TabFocusReason)
-    Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+    Keys.onTabPressed: leave(1)
+    Keys.onBacktabPressed: leave(-1)
 
     background: Rectangle {
         color: Theme.surface

@@ -73,9 +73,16 @@ bool WindowUser::isEnabled(const QString &name) const {
 }
 
 QPoint WindowUser::_middleOf(const QString &name) const {
-    waitsUntilStill();
-    QQuickItem *item = find(name);
-    return item ? item->mapToScene({item->width() / 2, item->height() / 2}).toPoint() : QPoint();
+    for (int tries = 0; tries < 10; ++tries) {
+        waitsUntilStill();
+        QQuickItem *item = find(name);
+        if (!item) break;
+        const QPoint place = item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
+        if (place.y() < _window.height()) return place;
+        swipes({_window.width() / 2.0, _window.height() - 60.0}, {_window.width() / 2.0, _window.height() - 160.0});
+        QTest::qWait(300); // it rolls on
+    }
+    return {};
 }
 
 void WindowUser::clicks(const QString &name) const {

@@ -16,7 +16,7 @@ _korvane() {
         [[ $word == -* ]] || plain+=("$word")
     done
     case "${plain[*]:0:3}" in
-    '') words='share albums uploads accounts standin' options='--help --version' ;;
+    '') words='share compose albums uploads accounts standin' options='--help --version' ;;
     share) words='flickr vimeo' ;;
     'share flickr'*)
         files='file'
@@ -26,6 +26,8 @@ _korvane() {
         files='file'
         options='--title --description --tag --size --privacy --wait --json --help'
         ;;
+    compose) words='flickr vimeo' ;;
+    compose*) files='file' ;;
     albums*) options='--json --help' ;;
     uploads) words='list watch retry remove clear pause resume' options='--json --help' ;;
     'uploads retry'*) words="all $(_korvane_ids uploads)" options='--json --help' ;;
@@ -33,7 +35,7 @@ _korvane() {
     uploads*) options='--json --help' ;;
     accounts) words='list add remove' options='--json --help' ;;
     'accounts add') words='flickr vimeo' options='--json --help' ;;
-    'accounts add'*) options='--credential-file --json --help' ;;
+    'accounts add'*) options='--no-browser --consumer-key --credential-file --json --help' ;;
     'accounts remove') words=$(_korvane_ids accounts) options='--json --help' ;;
     accounts*) options='--json --help' ;;
     standin*) options='--port --state --help' ;;
@@ -44,7 +46,7 @@ _korvane() {
     --privacy) words='public private' options='' files='' ;;
     --credential-file) files='file' options='' ;;
     --state) files='directory' options='' ;;
-    --title | --description | --tag | --album | --port) words='' options='' files='' ;;
+    --title | --description | --tag | --album | --port | --consumer-key) words='' options='' files='' ;;
     esac
     if [[ $cur == -* || -z $words$files ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$options" -- "$cur")

@@ -23,6 +23,7 @@ complete -c korvane -f
 complete -c korvane -s h -l help -d 'Show help'
 complete -c korvane -n __korvane_just_after -l version -d 'Show the version'
 complete -c korvane -n __korvane_just_after -a share -d 'Share photos or a video'
+complete -c korvane -n __korvane_just_after -a compose -d 'Open the share sheet'
 complete -c korvane -n __korvane_just_after -a albums -d 'List the albums on Flickr'
 complete -c korvane -n __korvane_just_after -a uploads -d 'Show and steer the uploads'
 complete -c korvane -n __korvane_just_after -a accounts -d 'Show, add and remove accounts'
@@ -47,6 +48,9 @@ complete -c korvane -n $vimeo -l tag -x -d 'A tag'
 complete -c korvane -n $vimeo -l size -x -a 'small medium large' -d 'What a library video is made into'
 complete -c korvane -n $vimeo -l privacy -x -a 'public private' -d 'Who sees the video'
 
+complete -c korvane -n '__korvane_just_after compose' -a 'flickr vimeo'
+complete -c korvane -n '__korvane_after compose flickr; or __korvane_after compose vimeo' -F
+
 complete -c korvane -n '__korvane_after uploads' -l json -d 'Print JSON'
 complete -c korvane -n '__korvane_after albums' -l json -d 'Print JSON'
 complete -c korvane -n '__korvane_just_after uploads' -a list -d 'All uploads'
@@ -65,6 +69,8 @@ complete -c korvane -n '__korvane_just_after accounts' -a add -d 'Add an account
 complete -c korvane -n '__korvane_just_after accounts' -a remove -d 'Remove an account with its credentials'
 complete -c korvane -n '__korvane_just_after accounts add' -a 'flickr vimeo'
 set -l added '__korvane_after accounts add flickr; or __korvane_after accounts add vimeo'
+complete -c korvane -n $added -l no-browser -d 'Take the code that the page shows'
+complete -c korvane -n $added -l consumer-key -x -d 'Key of your application'
 complete -c korvane -n $added -l credential-file -r -F -d 'File with ready credentials'
 complete -c korvane -n '__korvane_just_after accounts remove' -a '(__korvane_ids accounts)'
 

@@ -1,0 +1,130 @@
+// Parts of the window: arguments, changes of text, thumbnails.
+#include "ShareSheet/SharedFile.h"
+#include "ShareSheet/SheetRequest.h"
+#include "ShareSheet/TextChange.h"
+#include "ShareSheet/ThumbnailMaker.h"
+#include "Tests/Support/Testing.h"
+
+#include <QProcess>
+
+#include <atomic>
+#include <random>
+#include <semaphore>
+
+using namespace korvane;
+using namespace korvane::test;
+
+TEST(Arguments, AreReadAsFileManagersPassThem) {
+    struct {
+        QByteArray argument;
+        QByteArray path;
+    } const cases[]{{"/a/b c.jpg", "/a/b c.jpg"},
+                    {"c.jpg", "c.jpg"},
+                    {"file:///a/b%20c.jpg", "/a/b c.jpg"},
+                    {"file:///a/b c.jpg", "/a/b c.jpg"},
+                    {"file:///a/gr%C3%BCn.jpg", "/a/gr\xC3\xBCn.jpg"},
+                    {"file:///a/gr\xC3\xBCn.jpg", "/a/gr\xC3\xBCn.jpg"},
+                    {"file:///a/%FF.jpg", "/a/\xFF.jpg"},
+                    {"file://localhost/a.jpg", "/a.jpg"},
+                    {"/run/user/1000/gvfs/sftp:host=far/a.jpg", "/run/user/1000/gvfs/sftp:host=far/a.jpg"},
+                    {"file://far/a.jpg", ""},
+                    {"sftp://far/a.jpg", ""},
+                    {"https://example.org/a.jpg", ""}};
+    for (const auto &[argument, path] : cases) {
+        const SharedFile file = SharedFile::fromArgument(argument);
+        EXPECT_EQ(file.path, path) << argument.constData();
+        EXPECT_EQ(file.problem.isEmpty(), !path.isEmpty()) << argument.constData();
+    }
+    QString problem;
+    EXPECT_EQ(SheetRequest::parse({"vimeo", "--", "-f.mp4"}, problem)->files, QByteArrayList{"-f.mp4"});
+    EXPECT_EQ(SheetRequest::parse({"prefs:root=VIMEO"}, problem)->settingsOf, SheetRequest::Vimeo);
+    for (const QByteArrayList &bad : {QByteArrayList{}, {"flickr"}, {"smoke", "a.jpg"}, {"--settings", "x"}})
+        EXPECT_FALSE(SheetRequest::parse(bad, problem));
+}
+
+TEST(TextChanges, AreTheSmallestOnesAtTheCursor) {
+    struct {
+        QString before, after;
+        qint64 cursor;
+        NSRange range;
+        QString replacement;
+    } const cases[]{{u"aa"_qs, u"aaa"_qs, 1, {0, 0}, u"a"_qs},
+                    {u"aa"_qs, u"aaa"_qs, 3, {2, 0}, u"a"_qs},
+                    {u"aaa"_qs, u"aa"_qs, 1, {1, 1}, {}},
+                    {u"abc"_qs, u"aXc"_qs, 2, {1, 1}, u"X"_qs},
+                    {u"abc"_qs, {}, 0, {0, 3}, {}},
+                    {u"😀"_qs, u"😁"_qs, 2, {0, 2}, u"😁"_qs},
+                    {u"a😀b"_qs, u"a🐀b"_qs, 3, {1, 2}, u"🐀"_qs}};
+    for (const auto &[before, after, cursor, range, replacement] : cases) {
+        const auto change = TextChange::between(before, after, cursor);
+        ASSERT_TRUE(change);
+        EXPECT_EQ(change->range.location, range.location) << qPrintable(before + u'>' + after);
+        EXPECT_EQ(change->range.length, range.length) << qPrintable(before + u'>' + after);
+        EXPECT_EQ(change->replacement, replacement);
+    }
+    EXPECT_FALSE(TextChange::between(u"a"_qs, u"a"_qs, 0));
+    std::mt19937 random(7);
+    for (int run = 0; run < 5000; ++run) {
+        QString texts[2];
+        for (QString &text : texts)
+            for (auto length = random() % 7; length > 0; --length)
+                text += random() % 3 ? QString(QChar(u'a' + char16_t(random() % 2))) : u"😀"_qs;
+        const auto cursor = qint64(random() % quint64(texts[1].size() + 1));
+        const auto change = TextChange::between(texts[0], texts[1], cursor);
+        const QString made =
+            change ? stringByReplacingCharactersInRange(texts[0], change->range, change->replacement) : texts[0];
+        ASSERT_EQ(made, texts[1]) << "run " << run;
+        ASSERT_TRUE(!change ||
+                    (change->replacement.isValidUtf16() && texts[0].first(change->range.location).isValidUtf16()));
+    }
+}
+
+TEST(Thumbnails, AreMadeTwoAtATimeAndNotForThoseWhoHaveGone) {
+    std::counting_semaphore<100> go(0);
+    std::atomic_int running = 0, most = 0, made = 0, told = 0, pictures = 0;
+    ThumbnailQueue queue([&](const ThumbnailQueue::Order &order, const std::stop_token &) {
+        most = std::max<int>(most, ++running);
+        go.acquire();
+        --running;
+        ++made;
+        return QImage(order.edge, order.edge, QImage::Format_RGB32);
+    });
+    std::stop_source stays, leaves;
+    const auto answer = [&](const QImage &image) {
+        ++told;
+        if (!image.isNull()) ++pictures;
+    };
+    for (int i = 0; i < 20; ++i)
+        queue.ask({QByteArray::number(i), false, 10}, i < 5 ? stays : leaves, answer);
+    ASSERT_TRUE(waitFor([&] { return running == 2; }));
+    leaves.request_stop();
+    queue.dropCancelled();
+    EXPECT_EQ(told, 15) << "at once";
+    go.release(20);
+    ASSERT_TRUE(waitFor([&] { return told == 20; }));
+    EXPECT_EQ(most, 2);
+    EXPECT_EQ(made, 5);
+    EXPECT_EQ(pictures, 5);
+    queue.ask({"3", false, 10}, stays, answer);
+    EXPECT_EQ(told, 21) << "known already";
+}
+
+TEST(Thumbnails, ShowPhotosUprightAndVideosByAFrame) {
+    TemporaryHome home;
+    const QImage photo = ThumbnailMaker::make({dataPath("orientation-6.jpg"), false, 32}, {});
+    ASSERT_FALSE(photo.isNull());
+    EXPECT_EQ(std::max(photo.width(), photo.height()), 32);
+    const QImage straight = ThumbnailMaker::make({dataPath("orientation-1.jpg"), false, 32}, {});
+    EXPECT_EQ(photo.size(), straight.size()) << "turned as the camera was";
+    EXPECT_FALSE(ThumbnailMaker::make({dataPath("quarters.heic"), false, 32}, {}).isNull());
+    EXPECT_TRUE(ThumbnailMaker::make({home.file("notes.txt", "words"), false, 32}, {}).isNull());
+    EXPECT_TRUE(ThumbnailMaker::make({home.path("gone").toUtf8(), true, 32}, {}).isNull());
+
+    const QString film = home.path("film.mp4");
+    const QString arguments = QStringLiteral("-v error -f lavfi -i color=red:s=320x180 -t 1 %1").arg(film);
+    ASSERT_EQ(QProcess::execute(QStringLiteral("ffmpeg"), arguments.split(u' ')), 0);
+    const QImage frame = ThumbnailMaker::make({film.toUtf8(), true, 64}, {});
+    ASSERT_EQ(frame.size(), QSize(64, 36));
+    EXPECT_GT(frame.pixelColor(32, 18).red(), 200);
+    EXPECT_LT(frame.pixelColor(32, 18).blue(), 60);
+}
