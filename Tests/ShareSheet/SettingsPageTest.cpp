@@ -29,11 +29,13 @@ protected:
 
     // Gives it the keyboard, which brings it into sight.
     bool goTo(const char *name) {
+        QStringList stops;
         for (int i = 0; i < 80; ++i) {
             if (user->nameOfFocused() == text(name)) return true;
+            stops.append(user->nameOfFocused());
             user->presses(Qt::Key_Tab);
         }
-        ADD_FAILURE() << "the keyboard does not come to " << name;
+        ADD_FAILURE() << "the keyboard comes to " << qPrintable(stops.join(u'|')) << ", not to " << name;
         return false;
     }
     void fillIn(const char *field, const QString &value) {
@@ -88,16 +90,16 @@ TEST_F(SettingsPage, PutsAccountsIntoUseAndAsksBeforeItRemovesThem) {
     ACAccountStore store;
     ASSERT_TRUE(store.saveAccount(flickr.account->accountType(), text("eva"), *flickr.account->credential()));
     openPage();
-    EXPECT_TRUE(user->isChecked(text("eva"))) << "the one that was added last";
-    user->taps(text("standin"));
-    ASSERT_TRUE(waitFor([&] { return user->isChecked(text("standin")); }));
+    EXPECT_TRUE(user->isChecked(text("Flickr account “eva”"))) << "the one that was added last";
+    user->taps(text("Flickr account “standin”"));
+    ASSERT_TRUE(waitFor([&] { return user->isChecked(text("Flickr account “standin”")); }));
     EXPECT_EQ(accountInUse(), text("standin"));
 
-    user->clicks(text("Remove the account “eva”"));
+    user->clicks(text("Remove the Flickr account “eva”"));
     ASSERT_TRUE(waitToRead("Remove the Flickr account “eva”?"));
     user->presses(Qt::Key_Escape);
     ASSERT_TRUE(waitFor([&] { return !user->reads(text("“eva”?")); }));
-    user->clicks(text("Remove the account “eva”"));
+    user->clicks(text("Remove the Flickr account “eva”"));
     ASSERT_TRUE(waitToRead("“eva”?"));
     user->presses(Qt::Key_Tab);
     user->presses(Qt::Key_Return);
@@ -105,7 +107,7 @@ TEST_F(SettingsPage, PutsAccountsIntoUseAndAsksBeforeItRemovesThem) {
     EXPECT_EQ(store.accountsWithAccountType(flickr.account->accountType()).size(), 1U);
 
     ASSERT_TRUE(store.saveAccount(flickr.account->accountType(), text("zoe"), *flickr.account->credential()));
-    EXPECT_TRUE(waitFor([&] { return user->sees(text("zoe")); })) << "added by another program";
+    EXPECT_TRUE(waitFor([&] { return user->sees(text("Flickr account “zoe”")); })) << "added by another program";
     home.file("config/korvane/accounts.json", R"({"accounts": 7})");
     flickrAccess().accounts()->use(text("nobody"));
     EXPECT_TRUE(waitToRead("is not a list"));
