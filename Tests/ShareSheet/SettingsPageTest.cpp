@@ -44,7 +44,7 @@ protected:
         user->types(value);
     }
     void storeKeys(const QString &key, const QString &secret) {
-        fillIn("Consumer key", key);
+        fillIn("Flickr: Consumer key", key);
         user->presses(Qt::Key_Tab); // a screen reader is told nothing of what holds a secret
         user->presses(Qt::Key_A, Qt::ControlModifier);
         user->types(secret);
@@ -118,7 +118,7 @@ TEST_F(SettingsPage, PutsAccountsIntoUseAndAsksBeforeItRemovesThem) {
 TEST_F(SettingsPage, SignsInThroughTheBrowserOnceTheKeysAreThere) {
     const auto known = standin::StandIn::flickrCredential();
     openPage();
-    EXPECT_FALSE(user->isEnabled(text("Add an account…"))) << "there are no keys to sign in with";
+    EXPECT_FALSE(user->isEnabled(text("Flickr: Add an account…"))) << "there are no keys to sign in with";
     storeKeys(text("only half"), {});
     EXPECT_TRUE(waitFor([&] { return !flickrAccess().keys()->problem().isEmpty(); }));
     storeKeys(QString::fromUtf8("  " + known.consumerKey + " "), QString::fromUtf8(known.consumerSecret));
@@ -128,7 +128,7 @@ TEST_F(SettingsPage, SignsInThroughTheBrowserOnceTheKeysAreThere) {
               QString::fromUtf8(known.consumerKey));
 
     ASSERT_TRUE(ACAccountStore().removeAccount(flickr.account->identifier()));
-    ASSERT_TRUE(goTo("Add an account…"));
+    ASSERT_TRUE(goTo("Flickr: Add an account…"));
     user->presses(Qt::Key_Return);
     ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
     EXPECT_EQ(flickrAccess().signIn()->step(), text("person"));
@@ -143,7 +143,7 @@ TEST_F(SettingsPage, SignsInWithATypedCodeAndSaysWhatWentWrong) {
     storeFlickrKeys();
     browserWorks = false;
     openPage();
-    ASSERT_TRUE(goTo("Add with a code…"));
+    ASSERT_TRUE(goTo("Flickr: Add with a code…"));
     user->presses(Qt::Key_Return);
     ASSERT_TRUE(waitToRead("The browser did not open"));
     const QString code = decide(opened, "allow").code();
@@ -158,21 +158,21 @@ TEST_F(SettingsPage, SignsInWithATypedCodeAndSaysWhatWentWrong) {
 
     opened.clear();
     browserWorks = true;
-    ASSERT_TRUE(goTo("Add an account…"));
+    ASSERT_TRUE(goTo("Flickr: Add an account…"));
     user->presses(Qt::Key_Return);
     ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
     decideAndReturn(opened, "refuse");
     ASSERT_TRUE(waitFor([&] { return !flickrAccess().signIn()->problem().isEmpty(); })) << "it was refused";
     EXPECT_EQ(flickrAccess().signIn()->step(), text("none"));
 
-    ASSERT_TRUE(goTo("Add an account…"));
+    ASSERT_TRUE(goTo("Flickr: Add an account…"));
     user->presses(Qt::Key_Return);
     ASSERT_TRUE(waitFor([&] { return flickrAccess().signIn()->step() == text("person"); }));
     ASSERT_TRUE(goTo("Cancel the sign-in"));
     user->presses(Qt::Key_Space);
     EXPECT_EQ(flickrAccess().signIn()->step(), text("none"));
     EXPECT_TRUE(flickrAccess().signIn()->problem().isEmpty()) << "who gives up knows it";
-    ASSERT_TRUE(goTo("Add an account…"));
+    ASSERT_TRUE(goTo("Flickr: Add an account…"));
     user->presses(Qt::Key_Return);
     close(); // in the middle of it
 }
