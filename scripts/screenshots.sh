@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Pictures of the window's screens, light and dark, on a phone and a desktop: scripts/screenshots.sh [FOLDER]
 # Into docs/images unless another folder is given; LANG=de_DE.UTF-8 gives another language, KORVANE_SCREENSHOTS=large
-# texts of twice the size. Sets up and builds first.
+# texts of twice the size, KORVANE_SCREENSHOTS=mirrored pages from right to left. Sets up and builds first.
 set -euo pipefail
 folder=$(realpath -m -- "${1:-$(dirname "$0")/../docs/images}")
 cd "$(dirname "$0")/.."

@@ -95,7 +95,7 @@ TEST(Thumbnails, AreMadeTwoAtATimeAndNotForThoseWhoHaveGone) {
         if (!image.isNull()) ++pictures;
     };
     for (int i = 0; i < 20; ++i)
-        queue.ask({QByteArray::number(i), false, 10}, i < 5 ? stays : leaves, answer);
+        queue.ask({.path = QByteArray::number(i), .isVideo = false, .edge = 10}, i < 5 ? stays : leaves, answer);
     ASSERT_TRUE(waitFor([&] { return running == 2; }));
     leaves.request_stop();
     queue.dropCancelled();
@@ -105,25 +105,28 @@ TEST(Thumbnails, AreMadeTwoAtATimeAndNotForThoseWhoHaveGone) {
     EXPECT_EQ(most, 2);
     EXPECT_EQ(made, 5);
     EXPECT_EQ(pictures, 5);
-    queue.ask({"3", false, 10}, stays, answer);
+    queue.ask({.path = "3", .isVideo = false, .edge = 10}, stays, answer);
     EXPECT_EQ(told, 21) << "known already";
 }
 
 TEST(Thumbnails, ShowPhotosUprightAndVideosByAFrame) {
     TemporaryHome home;
-    const QImage photo = ThumbnailMaker::make({dataPath("orientation-6.jpg"), false, 32}, {});
+    const QImage photo =
+        ThumbnailMaker::make({.path = dataPath("orientation-6.jpg"), .isVideo = false, .edge = 32}, {});
     ASSERT_FALSE(photo.isNull());
     EXPECT_EQ(std::max(photo.width(), photo.height()), 32);
-    const QImage straight = ThumbnailMaker::make({dataPath("orientation-1.jpg"), false, 32}, {});
+    const QImage straight =
+        ThumbnailMaker::make({.path = dataPath("orientation-1.jpg"), .isVideo = false, .edge = 32}, {});
     EXPECT_EQ(photo.size(), straight.size()) << "turned as the camera was";
-    EXPECT_FALSE(ThumbnailMaker::make({dataPath("quarters.heic"), false, 32}, {}).isNull());
-    EXPECT_TRUE(ThumbnailMaker::make({home.file("notes.txt", "words"), false, 32}, {}).isNull());
-    EXPECT_TRUE(ThumbnailMaker::make({home.path("gone").toUtf8(), true, 32}, {}).isNull());
+    EXPECT_FALSE(ThumbnailMaker::make({.path = dataPath("quarters.heic"), .isVideo = false, .edge = 32}, {}).isNull());
+    EXPECT_TRUE(
+        ThumbnailMaker::make({.path = home.file("notes.txt", "words"), .isVideo = false, .edge = 32}, {}).isNull());
+    EXPECT_TRUE(ThumbnailMaker::make({.path = home.path("gone").toUtf8(), .isVideo = true, .edge = 32}, {}).isNull());
 
     const QString film = home.path("film.mp4");
     const QString arguments = QStringLiteral("-v error -f lavfi -i color=red:s=320x180 -t 1 %1").arg(film);
     ASSERT_EQ(QProcess::execute(QStringLiteral("ffmpeg"), arguments.split(u' ')), 0);
-    const QImage frame = ThumbnailMaker::make({film.toUtf8(), true, 64}, {});
+    const QImage frame = ThumbnailMaker::make({.path = film.toUtf8(), .isVideo = true, .edge = 64}, {});
     ASSERT_EQ(frame.size(), QSize(64, 36));
     EXPECT_GT(frame.pixelColor(32, 18).red(), 200);
     EXPECT_LT(frame.pixelColor(32, 18).blue(), 60);

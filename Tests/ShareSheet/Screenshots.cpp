@@ -1,5 +1,6 @@
 // Pictures of the window's screens: korvane-screenshots FOLDER VIDEO PHOTO...
-// The language is the environment's; KORVANE_SCREENSHOTS is a list of "dark" and "large" (texts of twice the size).
+// The language is the environment's; KORVANE_SCREENSHOTS is a list of "dark", "large" (texts of twice the size) and
+// "mirrored" (from right to left).
 #include "ShareSheet/SheetApplication.h"
 #include "Tests/Support/StandInAccount.h"
 #include "Tests/Support/WaitFor.h"
@@ -85,6 +86,7 @@ int main(int argc, char **argv) {
     const QByteArrayList style = qgetenv("KORVANE_SCREENSHOTS").split(' ');
     const bool isDark = style.contains("dark");
     if (isDark) QGuiApplication::setPalette(QPalette(QColor(40, 40, 44)));
+    if (style.contains("mirrored")) QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     QFont font = QGuiApplication::font();
     if (style.contains("large")) font.setPointSizeF(font.pointSizeF() * 2);
     QGuiApplication::setFont(font);
