@@ -17,11 +17,11 @@ namespace korvane {
 class ThumbnailQueue {
 public:
     struct Order {
-        QByteArray path;    // in the file system's own bytes
+        QByteArray path; // in the file system's own bytes
+        bool isVideo = false;
+        int edge = 0;       // pixels that the longer edge may have
         qint64 offset = 0;  // where it begins in that file, and
         qint64 length = -1; // its bytes; below 0: to the end
-        bool isVideo = false;
-        int edge = 0; // pixels that the longer edge may have
     };
     // Hears the picture once, on any thread; a null one where there is none, or where it is no longer wanted.
     using Answer = std::function<void(const QImage &)>;

@@ -10,22 +10,22 @@
 namespace korvane {
 namespace {
 
-QString tr(const char *text, int count = -1) {
-    return QCoreApplication::translate("UploadWords", text, nullptr, count);
-}
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(UploadWords)
+};
 
 QString bytesText(double count) {
     return NSByteCountFormatter::stringFromByteCount(float(count), NSByteCountFormatterCountStyleFile);
 }
 
 QString waitText(const Upload &upload) {
-    if (upload.waitingFor == QLatin1String("sign-in")) return tr("Waiting for an account");
-    const QString what =
-        upload.waitingFor == QLatin1String("network") ? tr("Waiting for the network") : tr("Waiting for the next try");
+    if (upload.waitingFor == QLatin1String("sign-in")) return Words::tr("Waiting for an account");
+    const QString what = upload.waitingFor == QLatin1String("network") ? Words::tr("Waiting for the network")
+                                                                       : Words::tr("Waiting for the next try");
     if (!upload.nextTry.isValid()) return what;
     const QDateTime next = upload.nextTry.toLocalTime();
     const bool isToday = next.date() == QDate::currentDate();
-    return tr("%1, at the latest %2")
+    return Words::tr("%1, at the latest %2")
         .arg(what, isToday ? QLocale().toString(next.time(), QLocale::ShortFormat)
                            : QLocale().toString(next, QLocale::ShortFormat));
 }
@@ -45,19 +45,20 @@ QString UploadWords::serviceName(const Upload &upload) {
 
 QString UploadWords::title(const Upload &upload) {
     if (!upload.title.isEmpty()) return UploadText::printable(upload.title);
-    return upload.service == QLatin1String("vimeo") ? tr("Video without a title") : tr("Photo without a title");
+    return upload.service == QLatin1String("vimeo") ? Words::tr("Video without a title")
+                                                    : Words::tr("Photo without a title");
 }
 
 QString UploadWords::state(const Upload &upload) {
     if (upload.isWaiting()) return waitText(upload);
-    if (upload.isRunning()) return tr("Uploading");
-    if (upload.isDone()) return tr("Shared");
-    return upload.hasFailed() ? tr("Failed") : tr("Queued");
+    if (upload.isRunning()) return Words::tr("Uploading");
+    if (upload.isDone()) return Words::tr("Shared");
+    return upload.hasFailed() ? Words::tr("Failed") : Words::tr("Queued");
 }
 
 QString UploadWords::reason(const Upload &upload) {
     const QString text = upload.error ? UploadText::printable(upload.error->localizedDescription()) : QString();
-    if (upload.hasFailed() && text.isEmpty()) return tr("No reason was given.");
+    if (upload.hasFailed() && text.isEmpty()) return Words::tr("No reason was given.");
     return upload.hasFailed() || upload.isWaiting() ? text : QString();
 }
 
@@ -65,28 +66,30 @@ QString UploadWords::bytes(const Upload &upload) {
     const qint64 sent = upload.isDone() ? upload.bytesTotal : upload.bytesSent;
     if (upload.bytesTotal <= 0) return sent > 0 ? bytesText(double(sent)) : QString();
     if (sent == upload.bytesTotal || sent == 0) return bytesText(double(upload.bytesTotal));
-    return tr("%1 of %2").arg(bytesText(double(sent)), bytesText(double(upload.bytesTotal)));
+    return Words::tr("%1 of %2").arg(bytesText(double(sent)), bytesText(double(upload.bytesTotal)));
 }
 
 QString UploadWords::speed(double bytesPerSecond) {
-    return tr("%1/s").arg(bytesText(bytesPerSecond));
+    return Words::tr("%1/s").arg(bytesText(bytesPerSecond));
 }
 
 QString UploadWords::timeLeft(qint64 seconds) {
-    if (seconds <= 5) return tr("a few seconds left");
-    if (seconds <= 55) return tr("about %n s left", int(roundedTo(seconds <= 30 ? 5 : 10, seconds)));
+    if (seconds <= 5) return Words::tr("a few seconds left");
+    if (seconds <= 55) return Words::tr("about %n s left", nullptr, int(roundedTo(seconds <= 30 ? 5 : 10, seconds)));
     const qint64 minutes = roundedTo(60, seconds - 15) / 60;
-    if (minutes < 60) return tr("about %n min left", int(minutes < 20 ? minutes : roundedTo(5, minutes)));
-    if (minutes < 24 * 60) return tr("about %n h left", int((minutes + 30) / 60));
-    return tr("more than a day left");
+    if (minutes < 60)
+        return Words::tr("about %n min left", nullptr, int(minutes < 20 ? minutes : roundedTo(5, minutes)));
+    if (minutes < 24 * 60) return Words::tr("about %n h left", nullptr, int((minutes + 30) / 60));
+    return Words::tr("more than a day left");
 }
 
 QString UploadWords::removalQuestion(const Upload &upload) {
     if (upload.isDone()) return {};
     if (upload.mayHaveArrived)
-        return tr("Nobody knows whether “%1” has arrived. Look on %2 first. Removed here, it is not tried again.")
+        return Words::tr(
+                   "Nobody knows whether “%1” has arrived. Look on %2 first. Removed here, it is not tried again.")
             .arg(title(upload), serviceName(upload));
-    return tr("“%1” has not arrived on %2 yet. Removed here, it is not uploaded.")
+    return Words::tr("“%1” has not arrived on %2 yet. Removed here, it is not uploaded.")
         .arg(title(upload), serviceName(upload));
 }
 

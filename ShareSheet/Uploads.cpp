@@ -18,6 +18,7 @@ constexpr auto changeInterval = 50ms; // more often nobody sees it
 constexpr auto countInterval = 250ms;
 constexpr auto retryDelay = 1000ms;
 constexpr int longestRetryDelays = 30; // of those
+constexpr quint32 pageRows = 200;
 constexpr quint32 mostRunning = 100;
 constexpr qint64 newestID = std::numeric_limits<qint64>::max();
 
@@ -120,7 +121,7 @@ void Uploads::_loaded(const Snapshot &snapshot) {
 
 void Uploads::_fetchMore() {
     const qint64 before = _model.oldest();
-    const auto count = quint32(_model.countToAskFor());
+    const quint32 count = pageRows;
     const quint64 loading = _loading;
     _link.ask([=, this, states = _model.states()](UploadsClient &client) -> UploadsLink::Answer {
         std::optional<NSError> error;

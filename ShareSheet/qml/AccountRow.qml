@@ -7,6 +7,7 @@ Item {
 
     required property string username
     required property bool isInUse
+    property string serviceName
 
     signal useAsked
     signal removalAsked
@@ -21,6 +22,7 @@ Item {
         text: row.username
         isChecked: row.isInUse
         Accessible.role: Accessible.RadioButton
+        Accessible.name: qsTr("%1 account “%2”").arg(row.serviceName).arg(row.username)
         onClicked: if (!row.isInUse) row.useAsked()
     }
     Rectangle {
@@ -34,7 +36,7 @@ Item {
         height: parent.height
         text: "✕"
         ink: Theme.secondaryText
-        Accessible.name: qsTr("Remove the account “%1”").arg(row.username)
+        Accessible.name: qsTr("Remove the %1 account “%2”").arg(row.serviceName).arg(row.username)
         onClicked: row.removalAsked()
     }
 }

@@ -10,6 +10,11 @@ Column {
     property bool isEditing: false
     readonly property bool showsFields: !keys.isBusy && (isEditing || !keys.areStored)
 
+    // The page holds a panel for each service.
+    function named(text) {
+        return qsTr("%1: %2").arg(serviceName).arg(text);
+    }
+
     spacing: Theme.spacing
     bottomPadding: Theme.spacing
 
@@ -27,6 +32,7 @@ Column {
         width: Math.min(implicitWidth, parent.width - 2 * x)
         visible: panel.showsFields
         text: qsTr("Open that page")
+        Accessible.name: panel.named(text)
         onClicked: Qt.openUrlExternally(panel.keys.registrationAddress)
     }
     Note {
@@ -41,6 +47,7 @@ Column {
         width: parent.width - 2 * Theme.margin
         visible: panel.showsFields
         placeholderText: qsTr("Consumer key")
+        Accessible.name: panel.named(placeholderText)
         inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
         onAccepted: secret.forceActiveFocus()
     }
@@ -54,6 +61,7 @@ Column {
         echoMode: TextInput.Password
         inputMethodHints: Qt.ImhSensitiveData | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
         Accessible.passwordEdit: true
+        Accessible.description: placeholderText
         onAccepted: panel.keys.store(key.text, text)
     }
     Note {
@@ -75,6 +83,7 @@ Column {
         ActionButton {
             visible: panel.showsFields
             text: qsTr("Store the keys")
+            Accessible.name: panel.named(text)
             onClicked: panel.keys.store(key.text, secret.text)
         }
         ActionButton {
@@ -85,6 +94,7 @@ Column {
         ActionButton {
             visible: panel.keys.areStored && !panel.showsFields
             text: qsTr("Other keys…")
+            Accessible.name: panel.named(text)
             onClicked: {
                 key.text = panel.keys.consumerKey;
                 panel.isEditing = true;
@@ -94,6 +104,7 @@ Column {
         ActionButton {
             visible: panel.keys.areStored && !panel.showsFields
             text: qsTr("Remove the keys")
+            Accessible.name: panel.named(text)
             onClicked: panel.keys.remove()
         }
     }

@@ -22,6 +22,7 @@ Column {
             required property string accountID
 
             width: section.width
+            serviceName: section.access.name
             onUseAsked: section.access.accounts.use(accountID)
             onRemovalAsked: {
                 question.accountID = accountID;

@@ -12,6 +12,11 @@ Column {
 
     signal startAsked(bool typesCode)
 
+    // The page holds a panel for each service.
+    function named(text) {
+        return qsTr("%1: %2").arg(serviceName).arg(text);
+    }
+
     spacing: Theme.spacing
     bottomPadding: Theme.spacing
 
@@ -35,11 +40,13 @@ Column {
 
         ActionButton {
             text: qsTr("Add an account…")
+            Accessible.name: panel.named(text)
             enabled: panel.canStart
             onClicked: panel.startAsked(false)
         }
         ActionButton {
             text: qsTr("Add with a code…")
+            Accessible.name: panel.named(text)
             enabled: panel.canStart
             Accessible.description: qsTr("For a browser on another device: it shows a code that you type here.")
             onClicked: panel.startAsked(true)

@@ -26,7 +26,7 @@ FocusScope {
     signal retryAsked
     signal removalAsked
 
-    activeFocusOnTab: ListView.isCurrentItem
+    activeFocusOnTab: ListView.isCurrentItem || activeFocus
     implicitHeight: words.height + 2 * Theme.spacing + 1
     Accessible.role: Accessible.ListItem
     Accessible.name: [title, detail, reason].filter(part => part.length > 0).join(", ")

@@ -29,11 +29,13 @@ protected:
 
     // Gives it the keyboard, which brings it into sight.
     bool goTo(const char *name) {
+        QStringList stops;
         for (int i = 0; i < 80; ++i) {
             if (user->nameOfFocused() == text(name)) return true;
+            stops.append(user->nameOfFocused());
             user->presses(Qt::Key_Tab);
         }
-        ADD_FAILURE() << "the keyboard does not come to " << name;
+        ADD_FAILURE() << "the keyboard comes to " << qPrintable(stops.join(u'|')) << ", not to " << name;
         return false;
     }
     void fillIn(const char *field, const QString &value) {
@@ -42,8 +44,10 @@ protected:
         user->types(value);
     }
     void storeKeys(const QString &key, const QString &secret) {
-        fillIn("Consumer key", key);
-        fillIn("Consumer secret", secret);
+        fillIn("Flickr: Consumer key", key);
+        user->presses(Qt::Key_Tab); // a screen reader is told nothing of what holds a secret
+        user->presses(Qt::Key_A, Qt::ControlModifier);
+        user->types(secret);
         user->presses(Qt::Key_Return);
     }
     void storeFlickrKeys() {
@@ -88,16 +92,16 @@ TEST_F(SettingsPage, PutsAccountsIntoUseAndAsksBeforeItRemovesThem) {
     ACAccountStore store;
     ASSERT_TRUE(store.saveAccount(flickr.account->accountType(), text("eva"), *flickr.account->credential()));
     openPage();
-    EXPECT_TRUE(user->isChecked(text("eva"))) << "the one that was added last";
-    user->taps(text("standin"));
-    ASSERT_TRUE(waitFor([&] { return user->isChecked(text("standin")); }));
+    EXPECT_TRUE(user->isChecked(text("Flickr account “eva”"))) << "the one that was added last";
+    user->taps(text("Flickr account “standin”"));
+    ASSERT_TRUE(waitFor([&] { return user->isChecked(text("Flickr account “standin”")); }));
     EXPECT_EQ(accountInUse(), text("standin"));
 
-    user->clicks(text("Remove the account “eva”"));
+    user->clicks(text("Remove the Flickr account “eva”"));
     ASSERT_TRUE(waitToRead("Remove the Flickr account “eva”?"));
     user->presses(Qt::Key_Escape);
     ASSERT_TRUE(waitFor([&] { return !user->reads(text("“eva”?")); }));
-    user->clicks(text("Remove the account “eva”"));
+    user->clicks(text("Remove the Flickr account “eva”"));
     ASSERT_TRUE(waitToRead("“eva”?"));
     user->presses(Qt::Key_Tab);
     user->presses(Qt::Key_Return);
@@ -105,7 +109,7 @@ TEST_F(SettingsPage, PutsAccountsIntoUseAndAsksBeforeItRemovesThem) {
     EXPECT_EQ(store.accountsWithAccountType(flickr.account->accountType()).size(), 1U);
 
     ASSERT_TRUE(store.saveAccount(flickr.account->accountType(), text("zoe"), *flickr.account->credential()));
-    EXPECT_TRUE(waitFor([&] { return user->sees(text("zoe")); })) << "added by another program";
+    EXPECT_TRUE(waitFor([&] { return user->sees(text("Flickr account “zoe”")); })) << "added by another program";
     home.file("config/korvane/accounts.json", R"({"accounts": 7})");
     flickrAccess().accounts()->use(text("nobody"));
     EXPECT_TRUE(waitToRead("is not a list"));
@@ -114,7 +118,7 @@ TEST_F(SettingsPage, PutsAccountsIntoUseAndAsksBeforeItRemovesThem) {
 TEST_F(SettingsPage, SignsInThroughTheBrowserOnceTheKeysAreThere) {
     const auto known = standin::StandIn::flickrCredential();
     openPage();
-    EXPECT_FALSE(user->isEnabled(text("Add an account…"))) << "there are no keys to sign in with";
+    EXPECT_FALSE(user->isEnabled(text("Flickr: Add an account…"))) << "there are no keys to sign in with";
     storeKeys(text("only half"), {});
     EXPECT_TRUE(waitFor([&] { return !flickrAccess().keys()->problem().isEmpty(); }));
     storeKeys(QString::fromUtf8("  " + known.consumerKey + " "), QString::fromUtf8(known.consumerSecret));
@@ -124,7 +128,7 @@ TEST_F(SettingsPage, SignsInThroughTheBrowserOnceTheKeysAreThere) {
               QString::fromUtf8(known.consumerKey));
 
     ASSERT_TRUE(ACAccountStore().removeAccount(flickr.account->identifier()));
-    ASSERT_TRUE(goTo("Add an account…"));
+    ASSERT_TRUE(goTo("Flickr: Add an account…"));
     user->presses(Qt::Key_Return);
     ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
     EXPECT_EQ(flickrAccess().signIn()->step(), text("person"));
@@ -139,7 +143,7 @@ TEST_F(SettingsPage, SignsInWithATypedCodeAndSaysWhatWentWrong) {
     storeFlickrKeys();
     browserWorks = false;
     openPage();
-    ASSERT_TRUE(goTo("Add with a code…"));
+    ASSERT_TRUE(goTo("Flickr: Add with a code…"));
     user->presses(Qt::Key_Return);
     ASSERT_TRUE(waitToRead("The browser did not open"));
     const QString code = decide(opened, "allow").code();
@@ -154,21 +158,21 @@ TEST_F(SettingsPage, SignsInWithATypedCodeAndSaysWhatWentWrong) {
 
     opened.clear();
     browserWorks = true;
-    ASSERT_TRUE(goTo("Add an account…"));
+    ASSERT_TRUE(goTo("Flickr: Add an account…"));
     user->presses(Qt::Key_Return);
     ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
     decideAndReturn(opened, "refuse");
     ASSERT_TRUE(waitFor([&] { return !flickrAccess().signIn()->problem().isEmpty(); })) << "it was refused";
     EXPECT_EQ(flickrAccess().signIn()->step(), text("none"));
 
-    ASSERT_TRUE(goTo("Add an account…"));
+    ASSERT_TRUE(goTo("Flickr: Add an account…"));
     user->presses(Qt::Key_Return);
     ASSERT_TRUE(waitFor([&] { return flickrAccess().signIn()->step() == text("person"); }));
     ASSERT_TRUE(goTo("Cancel the sign-in"));
     user->presses(Qt::Key_Space);
     EXPECT_EQ(flickrAccess().signIn()->step(), text("none"));
     EXPECT_TRUE(flickrAccess().signIn()->problem().isEmpty()) << "who gives up knows it";
-    ASSERT_TRUE(goTo("Add an account…"));
+    ASSERT_TRUE(goTo("Flickr: Add an account…"));
     user->presses(Qt::Key_Return);
     close(); // in the middle of it
 }
