@@ -68,7 +68,7 @@ FocusScope {
                 Flow {
                     width: parent.width
                     spacing: Theme.spacing
-                    layoutDirection: LayoutMirroring.enabled ? Qt.LeftToRight : Qt.RightToLeft
+                    layoutDirection: Qt.RightToLeft
 
                     ActionButton {
                         id: accept

@@ -38,6 +38,7 @@ T.TextField {
         text: field.placeholderText
         color: field.placeholderTextColor
         elide: Text.ElideRight
+        horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
         visible: field.length === 0 && field.preeditText.length === 0
         Accessible.ignored: true

@@ -18,7 +18,6 @@ Item {
         anchors.right: parent.right
         height: previews.isOne ? parent.height : previews.edge
         orientation: ListView.Horizontal
-        layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight
         spacing: Theme.spacing
         leftMargin: Theme.margin
         rightMargin: Theme.margin
