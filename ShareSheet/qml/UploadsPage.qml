@@ -54,7 +54,12 @@ T.Page {
             onRemovalAsked: removalQuestion.length > 0 ? question.ask(uploadID, removalQuestion) : page.uploads.remove(uploadID)
         }
         // What is new shows at the top, unless the person reads further down.
-        onCountChanged: if (atYBeginning && !moving) Qt.callLater(list.positionViewAtBeginning)
+        onCountChanged: {
+            if (currentIndex < 0 && count > 0)
+                currentIndex = 0;
+            if (atYBeginning && !moving)
+                Qt.callLater(list.positionViewAtBeginning);
+        }
     }
     ScrollMark {
         view: list
