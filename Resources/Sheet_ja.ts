@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>AccountRow</name>
+    <message>
+        <source>%1 account “%2”</source>
+        <translation>%1アカウント「%2」</translation>
+    </message>
+    <message>
+        <source>Remove the %1 account “%2”</source>
+        <translation>%1アカウント「%2」を削除</translation>
+    </message>
+</context>
+<context>
     <name>AttachmentsModel</name>
     <message>
         <source>only one video at a time can be shared to Vimeo</source>
@@ -10,6 +21,61 @@
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>KeysPanel</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 application keys</source>
+        <translation>%1のアプリケーションキー</translation>
+    </message>
+    <message>
+        <source>Register an application of your own with permission to upload, and copy its two keys here:</source>
+        <translation>アップロードを許可した自分のアプリケーションを登録し、2つのキーをここにコピーしてください:</translation>
+    </message>
+    <message>
+        <source>Open that page</source>
+        <translation>そのページを開く</translation>
+    </message>
+    <message>
+        <source>Asking the keyring…</source>
+        <translation>キーリングに問い合わせています…</translation>
+    </message>
+    <message>
+        <source>Consumer key</source>
+        <translation>コンシューマーキー</translation>
+    </message>
+    <message>
+        <source>Consumer secret</source>
+        <translation>コンシューマーシークレット</translation>
+    </message>
+    <message>
+        <source>Consumer key: %1</source>
+        <translation>コンシューマーキー: %1</translation>
+    </message>
+    <message>
+        <source>The consumer secret is stored.</source>
+        <translation>コンシューマーシークレットは保存されています。</translation>
+    </message>
+    <message>
+        <source>Store the keys</source>
+        <translation>キーを保存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Other keys…</source>
+        <translation>別のキー…</translation>
+    </message>
+    <message>
+        <source>Remove the keys</source>
+        <translation>キーを削除</translation>
     </message>
 </context>
 <context>
@@ -41,6 +107,87 @@
         <translation>
             <numerusform>写真%n枚</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>ProgressLine</name>
+    <message>
+        <source>Beginning</source>
+        <translation>開始中</translation>
+    </message>
+    <message>
+        <source>%1 percent</source>
+        <translation>%1パーセント</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceSettings</name>
+    <message>
+        <source>%1 accounts</source>
+        <translation>%1のアカウント</translation>
+    </message>
+    <message>
+        <source>Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it fails.</source>
+        <translation>%1アカウント「%2」を削除しますか? 共有済みのものは残りますが、これからアップロードするものは失敗します。</translation>
+    </message>
+    <message>
+        <source>There is no account yet.</source>
+        <translation>アカウントはまだありません。</translation>
+    </message>
+    <message>
+        <source>What you share goes out with the account that is checked.</source>
+        <translation>共有にはチェックの付いたアカウントが使われます。</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>残す</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPage</name>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Uploads</source>
+        <translation>アップロード</translation>
+    </message>
+    <message>
+        <source>Photos at a time</source>
+        <translation>同時にアップロードする写真</translation>
+    </message>
+    <message>
+        <source>Videos at a time</source>
+        <translation>同時にアップロードするビデオ</translation>
+    </message>
+    <message>
+        <source>Upload over the cellular network</source>
+        <translation>モバイル回線でアップロードする</translation>
+    </message>
+    <message>
+        <source>Largest edge of newly encoded pictures</source>
+        <translation>再エンコードする画像の長辺</translation>
+    </message>
+    <message>
+        <source>As it is</source>
+        <translation>そのまま</translation>
+    </message>
+    <message>
+        <source>%L1 pixels</source>
+        <translation>%L1ピクセル</translation>
+    </message>
+    <message>
+        <source>JPEG, PNG and GIF files always go out as they are. Other pictures, and those sent without metadata, are newly encoded.</source>
+        <translation>JPEG、PNG、GIFは常にそのまま送られます。その他の画像と、メタデータなしで送る画像は再エンコードされます。</translation>
     </message>
 </context>
 <context>
@@ -120,10 +267,289 @@ What you entered is still here: press Post to try again.</source>
     </message>
 </context>
 <context>
+    <name>SignInPanel</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The account “%1” is ready.</source>
+        <translation>アカウント「%1」が使えるようになりました。</translation>
+    </message>
+    <message>
+        <source>Add an account…</source>
+        <translation>アカウントを追加…</translation>
+    </message>
+    <message>
+        <source>Add with a code…</source>
+        <translation>コードで追加…</translation>
+    </message>
+    <message>
+        <source>For a browser on another device: it shows a code that you type here.</source>
+        <translation>別の端末のブラウザー用です。表示されたコードをここに入力します。</translation>
+    </message>
+    <message>
+        <source>To sign in, Korvane first needs the keys of your own application, below.</source>
+        <translation>サインインするには、まず下に自分のアプリケーションのキーが必要です。</translation>
+    </message>
+    <message>
+        <source>Asking %1…</source>
+        <translation>%1に問い合わせています…</translation>
+    </message>
+    <message>
+        <source>Storing the account…</source>
+        <translation>アカウントを保存しています…</translation>
+    </message>
+    <message>
+        <source>Open this address, also on another device, allow Korvane to upload, and type the code that is shown:</source>
+        <translation>このアドレスを開き(別の端末でもかまいません)、Korvaneのアップロードを許可して、表示されたコードを入力してください:</translation>
+    </message>
+    <message>
+        <source>Allow Korvane to upload in the browser that has opened. If none has, open this address on this device:</source>
+        <translation>開いたブラウザーでKorvaneのアップロードを許可してください。開かない場合は、この端末でこのアドレスを開いてください:</translation>
+    </message>
+    <message>
+        <source>Address of the sign-in page</source>
+        <translation>サインインページのアドレス</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>コード</translation>
+    </message>
+    <message>
+        <source>Use this code</source>
+        <translation>このコードを使う</translation>
+    </message>
+    <message>
+        <source>Open the page again</source>
+        <translation>ページをもう一度開く</translation>
+    </message>
+    <message>
+        <source>Cancel the sign-in</source>
+        <translation>サインインをやめる</translation>
+    </message>
+</context>
+<context>
     <name>TableRow</name>
     <message>
         <source>New tag</source>
         <translation>新しいタグ</translation>
+    </message>
+</context>
+<context>
+    <name>UploadRow</name>
+    <message>
+        <source>Retry</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Retry “%1”</source>
+        <translation>「%1」を再試行</translation>
+    </message>
+    <message>
+        <source>Remove “%1”</source>
+        <translation>「%1」を削除</translation>
+    </message>
+</context>
+<context>
+    <name>UploadWords</name>
+    <message>
+        <source>Waiting for an account</source>
+        <translation>アカウント待ち</translation>
+    </message>
+    <message>
+        <source>Waiting for the network</source>
+        <translation>ネットワーク待ち</translation>
+    </message>
+    <message>
+        <source>Waiting for the next try</source>
+        <translation>次の試行待ち</translation>
+    </message>
+    <message>
+        <source>%1, at the latest %2</source>
+        <translation>%1(遅くとも%2)</translation>
+    </message>
+    <message>
+        <source>Video without a title</source>
+        <translation>無題のビデオ</translation>
+    </message>
+    <message>
+        <source>Photo without a title</source>
+        <translation>無題の写真</translation>
+    </message>
+    <message>
+        <source>Uploading</source>
+        <translation>アップロード中</translation>
+    </message>
+    <message>
+        <source>Shared</source>
+        <translation>共有済み</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Queued</source>
+        <translation>順番待ち</translation>
+    </message>
+    <message>
+        <source>No reason was given.</source>
+        <translation>理由は示されていません。</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2中%1</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/秒</translation>
+    </message>
+    <message>
+        <source>a few seconds left</source>
+        <translation>残り数秒</translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n s left</source>
+        <translation>
+            <numerusform>残り約%n秒</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n min left</source>
+        <translation>
+            <numerusform>残り約%n分</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n h left</source>
+        <translation>
+            <numerusform>残り約%n時間</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>more than a day left</source>
+        <translation>残り1日以上</translation>
+    </message>
+    <message>
+        <source>Nobody knows whether “%1” has arrived. Look on %2 first. Removed here, it is not tried again.</source>
+        <translation>「%1」が届いたかどうか分かりません。まず%2で確かめてください。ここで削除すると再試行されません。</translation>
+    </message>
+    <message>
+        <source>“%1” has not arrived on %2 yet. Removed here, it is not uploaded.</source>
+        <translation>「%1」はまだ%2に届いていません。ここで削除するとアップロードされません。</translation>
+    </message>
+</context>
+<context>
+    <name>UploadsHead</name>
+    <message>
+        <source>Asking the upload service…</source>
+        <translation>アップロードサービスに問い合わせています…</translation>
+    </message>
+    <message>
+        <source>The upload service does not answer just now. Uploads it has taken over are not lost.</source>
+        <translation>アップロードサービスが今応答していません。引き受けたものは失われません。</translation>
+    </message>
+    <message>
+        <source>The upload service has ended, since there is nothing left to upload.</source>
+        <translation>アップロードするものがなくなったため、アップロードサービスは終了しました。</translation>
+    </message>
+    <message>
+        <source>The upload service cannot be reached. It is asked again by and by.</source>
+        <translation>アップロードサービスに接続できません。しばらくしてもう一度試します。</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Under way</source>
+        <translation>進行中</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Shared</source>
+        <translation>共有済み</translation>
+    </message>
+    <message>
+        <source>Ask again</source>
+        <translation>もう一度問い合わせる</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Uploads are paused.</source>
+        <translation>アップロードは一時停止中です。</translation>
+    </message>
+    <message>
+        <source>Resume uploads</source>
+        <translation>アップロードを再開</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1(%2)</translation>
+    </message>
+    <message>
+        <source>Retry all that failed</source>
+        <translation>失敗したものをすべて再試行</translation>
+    </message>
+    <message>
+        <source>Clear what is shared</source>
+        <translation>共有済みを消去</translation>
+    </message>
+    <message>
+        <source>There is nothing of this kind.</source>
+        <translation>該当するものはありません。</translation>
+    </message>
+    <message>
+        <source>Nothing is being uploaded. What you share shows up here.</source>
+        <translation>アップロード中のものはありません。共有したものはここに表示されます。</translation>
+    </message>
+</context>
+<context>
+    <name>UploadsPage</name>
+    <message>
+        <source>Uploads</source>
+        <translation>アップロード</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>再開</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>残す</translation>
+    </message>
+</context>
+<context>
+    <name>korvane::Settings</name>
+    <message>
+        <source>The setting could not be written. It holds until this window is closed.</source>
+        <translation>設定を保存できませんでした。このウィンドウを閉じるまで有効です。</translation>
+    </message>
+</context>
+<context>
+    <name>korvane::SignInModel</name>
+    <message>
+        <source>The browser did not open. Open the address below yourself.</source>
+        <translation>ブラウザーが開きませんでした。下のアドレスを自分で開いてください。</translation>
     </message>
 </context>
 </TS>

@@ -7,7 +7,8 @@ Rectangle {
     id: tile
 
     property alias source: picture.source // as ThumbnailProvider gives it
-    readonly property bool isShown: picture.status === Image.Ready
+    readonly property bool isLoaded: picture.status === Image.Ready
+    readonly property bool isShown: isLoaded && picture.implicitWidth > 1 // a file that shows nothing gives a single dot
     property alias fillMode: picture.fillMode
     property bool isVideo: false
     property bool isUnusable: false
