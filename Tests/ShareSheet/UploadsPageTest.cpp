@@ -39,8 +39,7 @@ protected:
 
 } // namespace
 
-// Off: the Tab key does not come to the list in every run.
-TEST_F(UploadsPage, DISABLED_FollowsPhotosThatRunFailAndAreRetriedByTouchAndByKey) {
+TEST_F(UploadsPage, FollowsPhotosThatRunFailAndAreRetriedByTouchAndByKey) {
     server.on("upload")
         .answer(200, "text/xml", R"(<rsp stat="fail"><err code="5" msg="Filetype was not recognised"/></rsp>)", 2)
         .hang();
@@ -110,8 +109,7 @@ TEST_F(UploadsPage, PausesAndAsksBeforeItRemovesWhatHasNotArrived) {
     ASSERT_TRUE(waitFor([&] { return uploads().isEmpty(); })) << "what has arrived goes unasked";
 }
 
-// Off: a row whose file is no picture shows a thumbnail in some runs.
-TEST_F(UploadsPage, DISABLED_ShowsThumbnailsOfWhatStandsInAFile) {
+TEST_F(UploadsPage, ShowsThumbnailsOfWhatStandsInAFile) {
     ask("Pause");
     const auto video = VimeoPost::init();
     video->assetURL = NSURL::fileURLWithPath(home.file("gone.mp4", "no video"));
