@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Sets up, builds and measures: scripts/bench.sh [export|hand-over|long-queue|one-stream|side-by-side|video-stream]. Fails where a bound is missed.
+# Sets up, builds and measures: scripts/bench.sh [export|hand-over|long-queue|one-stream|side-by-side|video-stream|window]. Fails where a bound is missed.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -202,10 +202,9 @@ TEST_F(SignInTest, TellsWhatFailedAndWhatToDo) {
         EXPECT_TRUE(says(attempt->said(), words)) << qPrintable(attempt->said());
         EXPECT_FALSE(says(attempt->said(), "hush")) << qPrintable(attempt->said());
     }
-    for (const auto &[key, secret] : {std::pair("unknown", "hush"),
-                                      {standin::StandIn::flickrCredential().consumerKey.constData(), "hush"},
-                                      {"a b", "hush"},
-                                      {"a", ""}}) {
+    const QByteArray known = standin::StandIn::flickrCredential().consumerKey;
+    for (const auto &[key, secret] :
+         {std::pair("unknown", "hush"), {known.constData(), "hush"}, {"a b", "hush"}, {"a", ""}}) {
         const auto attempt = begin(flickr, {}, ApplicationKeys{QLatin1String(key), QLatin1String(secret)});
         ASSERT_TRUE(attempt->waitForEnd());
         EXPECT_EQ(attempt->error->code(), ACErrorApplicationKeyRefused) << key;

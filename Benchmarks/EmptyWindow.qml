@@ -1,0 +1,7 @@
+import QtQuick.Controls
+
+ApplicationWindow {
+    width: 640
+    height: 720
+    visible: true
+}
