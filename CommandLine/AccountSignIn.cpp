@@ -2,9 +2,9 @@
 #include "CommandLine/AccountSignIn.h"
 
 #include "CommandLine/Browser.h"
-#include "CommandLine/ExitStatus.h"
 #include "CommandLine/Interruption.h"
 #include "CommandLine/Output.h"
+#include "FrontEnd/ExitStatus.h"
 #include "Platform/Accounts/ACError.h"
 
 namespace korvane {

@@ -3,7 +3,7 @@
 
 #include "CommandLine/Output.h"
 #include "CommandLine/SheetUser.h"
-#include "CommandLine/UploadText.h"
+#include "FrontEnd/UploadText.h"
 
 #include <QCoreApplication>
 #include <QStringList>

@@ -2,11 +2,11 @@
 #include "CommandLine/AlbumsCommand.h"
 
 #include "CommandLine/AlbumList.h"
-#include "CommandLine/ExitStatus.h"
 #include "CommandLine/JSONArray.h"
 #include "CommandLine/Output.h"
 #include "CommandLine/SheetUser.h"
-#include "CommandLine/SystemLog.h"
+#include "FrontEnd/ExitStatus.h"
+#include "FrontEnd/SystemLog.h"
 
 #include <CLI/CLI.hpp>
 #include <QJsonDocument>

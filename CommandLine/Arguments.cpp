@@ -1,8 +1,6 @@
 // What the commands' arguments have in common.
 #include "CommandLine/Arguments.h"
 
-#include "Platform/Social/RemoteServiceError.h"
-
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -30,27 +28,8 @@ QStringList Arguments::texts(const std::vector<std::string> &arguments) {
     return list;
 }
 
-QString Arguments::shownPath(const QByteArray &path) {
-    return QString::fromUtf8(path);
-}
-
 QString Arguments::serviceOf(const ACAccountType &type) {
     return type == ACAccountType(ACAccountTypeIdentifierVimeo) ? QStringLiteral("vimeo") : QStringLiteral("flickr");
-}
-
-ExitStatus Arguments::exitStatusOf(const NSError &error) {
-    if (error.domain() != RemoteServiceErrorDomain) return ExitUploadFailed;
-    switch (error.code()) {
-    case RemoteServiceErrorUnreachable:
-    case RemoteServiceErrorOtherSettings:
-    case RemoteServiceErrorNotAvailable:
-        return ExitUnreachable;
-    case RemoteServiceErrorUnusableRecord:
-    case RemoteServiceErrorNothingToShare:
-        return ExitUsage;
-    default:
-        return ExitUploadFailed;
-    }
 }
 
 } // namespace korvane

@@ -1,8 +1,8 @@
 // korvane compose: opens the share sheet's window.
 #include "CommandLine/ComposeCommand.h"
 
-#include "CommandLine/ExitStatus.h"
 #include "CommandLine/Output.h"
+#include "FrontEnd/ExitStatus.h"
 #include "Platform/Foundation/ProgramPath.h"
 
 #include <CLI/CLI.hpp>

@@ -1,7 +1,7 @@
 // Standard output and standard error, as the commands write them.
 #include "CommandLine/Output.h"
 
-#include "CommandLine/UploadText.h"
+#include "FrontEnd/UploadText.h"
 
 #include <cerrno>
 #include <cstring>

@@ -1,7 +1,7 @@
 // Progress as plain lines.
 #include "CommandLine/PlainView.h"
 
-#include "CommandLine/UploadText.h"
+#include "FrontEnd/UploadText.h"
 
 namespace korvane {
 

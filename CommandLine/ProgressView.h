@@ -1,7 +1,7 @@
 // Shows how uploads go on.
 #pragma once
 
-#include "CommandLine/Upload.h"
+#include "FrontEnd/Upload.h"
 
 #include <cstdio>
 #include <memory>

@@ -5,21 +5,19 @@
 #include "CommandLine/Arguments.h"
 #include "CommandLine/Output.h"
 #include "CommandLine/SheetUser.h"
-#include "CommandLine/SystemLog.h"
-#include "CommandLine/UploadText.h"
 #include "FlickrAudienceController.h"
+#include "FrontEnd/ExitStatus.h"
+#include "FrontEnd/FileLimit.h"
+#include "FrontEnd/SystemLog.h"
+#include "FrontEnd/UploadText.h"
 #include "Korvane/FlickrUploadSession.h"
 
 #include <CLI/CLI.hpp>
 
 #include <map>
 
-#include <sys/resource.h>
-
 namespace korvane {
 namespace {
-
-constexpr qint64 largestPhoto = 200 * 1024 * 1024; // that Flickr takes
 
 const std::map<std::string, FlickrAudience> audiences{{"public", FlickrAudiencePublic},
                                                       {"friends", FlickrAudienceFriends},
@@ -37,24 +35,6 @@ JPEG, PNG and GIF files are sent as they are. Pictures of other formats are sent
 Audience and album are remembered for the next share, here and in the share sheet; at first they are public and none.
 
 Sharing copies the photos into the upload service's queue.)";
-
-// Every photo keeps its file open until it is handed over.
-void raiseFileLimit() {
-    rlimit limit{};
-    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
-    limit.rlim_cur = limit.rlim_max;
-    ::setrlimit(RLIMIT_NOFILE, &limit);
-}
-
-std::optional<NSError> problemWith(const QByteArray &path) {
-    const auto problem = SLAttachment::photoProblem(path);
-    const auto identity = FileIdentity::ofPath(path);
-    const bool isTooLarge = identity && identity->size > largestPhoto;
-    if (!isTooLarge || (problem && problem->domain() == NSPOSIXErrorDomain)) return problem;
-    return NSError::errorWithDescription(SLAttachmentErrorDomain, SLAttachmentErrorUnusable,
-                                         QStringLiteral("%1: the file has %2, Flickr takes photos of up to 200 MB")
-                                             .arg(Arguments::shownPath(path), UploadText::bytes(identity->size)));
-}
 
 std::string problemWithAlbum(const std::string &album) {
     return album.empty() ? "an album has a name or a number; for none there is --no-album"
@@ -132,7 +112,7 @@ std::optional<int> ShareFlickrCommand::_chooseAlbum(FlickrComposeViewController 
 std::optional<std::vector<SLAttachment>> ShareFlickrCommand::_attachments() const {
     QStringList problems;
     for (const std::string &file : _files)
-        if (const auto problem = problemWith(QByteArray::fromStdString(file)))
+        if (const auto problem = SLAttachment::photoProblem(QByteArray::fromStdString(file)))
             problems.append(problem->localizedDescription());
     std::vector<SLAttachment> attachments;
     for (size_t i = 0; i < _files.size() && problems.isEmpty(); ++i) {

@@ -4,8 +4,9 @@
 #include "CommandLine/Arguments.h"
 #include "CommandLine/JSONArray.h"
 #include "CommandLine/Output.h"
-#include "CommandLine/UploadText.h"
 #include "CommandLine/UploadsWatch.h"
+#include "FrontEnd/ExitStatus.h"
+#include "FrontEnd/UploadText.h"
 
 #include <CLI/CLI.hpp>
 
@@ -49,7 +50,7 @@ int ShareReport::succeeded(const QByteArrayList &files, const QString &messageID
     if (!error) return status;
     Output::problem(QStringLiteral("%1 handed over, but how it goes on cannot be told. ").arg(_counted(files.size())) +
                     error->localizedDescription());
-    return Arguments::exitStatusOf(*error);
+    return exitStatusOf(*error);
 }
 
 QString ShareReport::_counted(qsizetype count) const {
@@ -60,7 +61,7 @@ int ShareReport::_wait(UploadsClient &client, const QStringList &ids, const QByt
                        std::optional<NSError> *error) const {
     QHash<QString, QString> names;
     for (qsizetype i = 0; i < ids.size() && ids.size() == files.size(); ++i)
-        names[ids[i]] = Arguments::shownPath(files[i].split('/').last());
+        names[ids[i]] = QString::fromUtf8(files[i].split('/').last());
     UploadsWatch watch(client, ProgressView::onStream(_json ? stderr : stdout, !_json));
     watch.follow(ids, names);
     const int status = watch.run(error);

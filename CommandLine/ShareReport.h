@@ -1,7 +1,7 @@
 // How the uploads of a share go on.
 #pragma once
 
-#include "CommandLine/UploadsClient.h"
+#include "FrontEnd/UploadsClient.h"
 
 #include <QByteArrayList>
 #include <QString>

@@ -4,7 +4,8 @@
 #include "CommandLine/Arguments.h"
 #include "CommandLine/Output.h"
 #include "CommandLine/SheetUser.h"
-#include "CommandLine/SystemLog.h"
+#include "FrontEnd/ExitStatus.h"
+#include "FrontEnd/SystemLog.h"
 #include "Korvane/VimeoPost.h"
 #include "Korvane/VimeoUploadSession.h"
 

@@ -3,6 +3,7 @@
 
 #include "CommandLine/Arguments.h"
 #include "CommandLine/Output.h"
+#include "FrontEnd/ExitStatus.h"
 #include "Platform/Accounts/ACAccountStore.h"
 #include "Platform/Social/RemoteServiceError.h"
 
@@ -100,7 +101,7 @@ std::optional<int> SheetUser::posts(SLComposeServiceViewController &sheet) {
         context.error().value_or(NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable,
                                                                QStringLiteral("The upload service gave no reason.")));
     Output::problem(QStringLiteral("Nothing was shared. ") + reason.localizedDescription());
-    return Arguments::exitStatusOf(reason);
+    return exitStatusOf(reason);
 }
 
 } // namespace korvane

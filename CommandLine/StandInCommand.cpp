@@ -1,8 +1,8 @@
 // korvane standin: local stand-ins of the web services, for trying out.
 #include "CommandLine/StandInCommand.h"
 
-#include "CommandLine/ExitStatus.h"
 #include "CommandLine/Output.h"
+#include "FrontEnd/ExitStatus.h"
 #include "Platform/Foundation/ProgramPath.h"
 
 #include <CLI/CLI.hpp>

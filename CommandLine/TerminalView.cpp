@@ -3,7 +3,7 @@
 
 #include "CommandLine/Output.h"
 #include "CommandLine/PlainView.h"
-#include "CommandLine/UploadText.h"
+#include "FrontEnd/UploadText.h"
 
 #include <algorithm>
 

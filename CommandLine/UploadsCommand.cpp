@@ -5,8 +5,9 @@
 #include "CommandLine/JSONArray.h"
 #include "CommandLine/Output.h"
 #include "CommandLine/SilentView.h"
-#include "CommandLine/UploadText.h"
 #include "CommandLine/UploadsWatch.h"
+#include "FrontEnd/ExitStatus.h"
+#include "FrontEnd/UploadText.h"
 
 #include <CLI/CLI.hpp>
 
@@ -211,7 +212,7 @@ int UploadsCommand::_print(const std::vector<Upload> &uploads, const QString &se
 
 int UploadsCommand::_fail(const std::optional<NSError> &error) const {
     Output::problem(error->localizedDescription());
-    return Arguments::exitStatusOf(*error);
+    return exitStatusOf(*error);
 }
 
 } // namespace korvane

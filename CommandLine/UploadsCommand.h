@@ -1,7 +1,7 @@
 // korvane uploads: shows and steers what the upload service has to do.
 #pragma once
 
-#include "CommandLine/UploadsClient.h"
+#include "FrontEnd/UploadsClient.h"
 
 #include <optional>
 #include <string>

@@ -1,9 +1,9 @@
 // Follows uploads until none is left to wait for.
 #include "CommandLine/UploadsWatch.h"
 
-#include "CommandLine/ExitStatus.h"
 #include "CommandLine/Interruption.h"
-#include "CommandLine/UploadText.h"
+#include "FrontEnd/ExitStatus.h"
+#include "FrontEnd/UploadText.h"
 
 #include <chrono>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "CommandLine/ProgressView.h"
-#include "CommandLine/UploadsClient.h"
+#include "FrontEnd/UploadsClient.h"
 
 #include <QEventLoop>
 #include <QHash>

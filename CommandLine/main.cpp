@@ -2,12 +2,12 @@
 #include "CommandLine/AccountsCommand.h"
 #include "CommandLine/AlbumsCommand.h"
 #include "CommandLine/ComposeCommand.h"
-#include "CommandLine/ExitStatus.h"
 #include "CommandLine/Output.h"
 #include "CommandLine/ShareCommand.h"
 #include "CommandLine/StandInCommand.h"
-#include "CommandLine/UploadText.h"
 #include "CommandLine/UploadsCommand.h"
+#include "FrontEnd/ExitStatus.h"
+#include "FrontEnd/UploadText.h"
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>

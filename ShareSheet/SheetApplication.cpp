@@ -1,7 +1,8 @@
 // The window program.
 #include "ShareSheet/SheetApplication.h"
 
-#include "CommandLine/SystemLog.h"
+#include "FrontEnd/FileLimit.h"
+#include "FrontEnd/SystemLog.h"
 #include "Korvane/FlickrComposeViewController.h"
 #include "Korvane/VimeoComposeViewController.h"
 #include "ShareSheet/EditableText.h"
@@ -12,21 +13,11 @@
 #include <QLocale>
 #include <QTimer>
 
-#include <sys/resource.h>
-
 namespace korvane {
 namespace {
 
 constexpr int lookInterval = 50; // milliseconds
 const QString qmlFolder = QStringLiteral("qrc:/qt/qml/Korvane/Sheet/qml/");
-
-// Every photo keeps its file open until it is handed over.
-void raiseFileLimit() {
-    rlimit limit{};
-    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
-    limit.rlim_cur = limit.rlim_max;
-    ::setrlimit(RLIMIT_NOFILE, &limit);
-}
 
 } // namespace
 

@@ -1,7 +1,7 @@
 // A share sheet, as the window shows it.
 #include "ShareSheet/SheetModel.h"
 
-#include "CommandLine/Arguments.h"
+#include "FrontEnd/ExitStatus.h"
 #include "Platform/UIKit/UITableViewController.h"
 #include "ShareSheet/EditableText.h"
 #include "ShareSheet/FrameWait.h"
@@ -138,7 +138,7 @@ void SheetModel::_handOver() {
     if (request.state() == NSExtensionContext::State::Completed) return _finish(ExitDone);
     const QString reason = request.error() ? request.error()->localizedDescription()
                                            : QCoreApplication::translate("SheetModel", "No reason was given.");
-    _status = request.error() ? Arguments::exitStatusOf(*request.error()) : ExitUploadFailed;
+    _status = request.error() ? exitStatusOf(*request.error()) : ExitUploadFailed;
     _sheet->extensionContext()->reopen();
     _isHandingOver = false;
     Q_EMIT isHandingOverChanged();

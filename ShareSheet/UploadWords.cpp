@@ -1,7 +1,7 @@
 // How the window tells of an upload.
 #include "ShareSheet/UploadWords.h"
 
-#include "CommandLine/UploadText.h"
+#include "FrontEnd/UploadText.h"
 #include "Platform/Foundation/NSByteCountFormatter.h"
 
 #include <QCoreApplication>

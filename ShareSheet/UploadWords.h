@@ -1,7 +1,7 @@
 // How the window tells of an upload.
 #pragma once
 
-#include "CommandLine/Upload.h"
+#include "FrontEnd/Upload.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 // The upload service, asked without holding up the window.
 #pragma once
 
-#include "CommandLine/UploadsClient.h"
+#include "FrontEnd/UploadsClient.h"
 
 #include <QElapsedTimer>
 #include <QObject>

@@ -1,7 +1,7 @@
 // Uploads as the rows of a list: those that run, then all others, each newest first.
 #pragma once
 
-#include "CommandLine/Upload.h"
+#include "FrontEnd/Upload.h"
 #include "ShareSheet/TransferRate.h"
 
 #include <QAbstractListModel>

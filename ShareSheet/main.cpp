@@ -1,5 +1,5 @@
 // korvane-sheet: the share sheet's window.
-#include "CommandLine/ExitStatus.h"
+#include "FrontEnd/ExitStatus.h"
 #include "ShareSheet/SheetApplication.h"
 
 #include <QGuiApplication>

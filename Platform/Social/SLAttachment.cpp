@@ -2,6 +2,7 @@
 #include "Platform/Social/SLAttachment.h"
 
 #include "Platform/AssetsLibrary/ALAssetsLibrary.h"
+#include "Platform/Foundation/NSByteCountFormatter.h"
 #include "Platform/ImageIO/CGImageSource.h"
 #include "Platform/ImageIO/PictureProgram.h"
 #include "Platform/MobileCoreServices/UTType.h"
@@ -15,7 +16,8 @@ const QString SLAttachmentErrorDomain = QStringLiteral("SLAttachmentErrorDomain"
 
 namespace {
 
-constexpr qint64 typeProbe = 4096; // bytes that tell what a file holds
+constexpr qint64 typeProbe = 4096;                 // bytes that tell what a file holds
+constexpr qint64 largestPhoto = 200 * 1024 * 1024; // that Flickr takes
 
 // A file that is a picture by its contents.
 struct PhotoFile {
@@ -31,6 +33,12 @@ NSError unusable(const QByteArray &path, const QString &problem) {
 std::optional<PhotoFile> openPhoto(const QByteArray &path, std::optional<NSError> *error) {
     const auto data = NSData::dataWithContentsOfFile(path, error);
     if (!data) return std::nullopt;
+    if (data->length() > largestPhoto) {
+        setError(error, unusable(path, QStringLiteral("the file has %1, Flickr takes photos of up to 200 MB")
+                                           .arg(NSByteCountFormatter::stringFromByteCount(
+                                               float(data->length()), NSByteCountFormatterCountStyleFile))));
+        return std::nullopt;
+    }
     const auto source = CGImageSource::createWithData(*data);
     const QString type = source ? source->type() : QString();
     if (!type.isEmpty()) return PhotoFile{*data, type};

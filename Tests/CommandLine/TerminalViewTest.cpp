@@ -1,7 +1,7 @@
 // Bars on a terminal.
 #include "CommandLine/TerminalView.h"
 
-#include "CommandLine/UploadText.h"
+#include "FrontEnd/UploadText.h"
 #include "Tests/Support/Testing.h"
 
 using namespace korvane;

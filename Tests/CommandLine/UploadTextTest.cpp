@@ -1,5 +1,5 @@
 // Texts, units, columns and JSON of uploads.
-#include "CommandLine/UploadText.h"
+#include "FrontEnd/UploadText.h"
 #include "CommandLine/Arguments.h"
 #include "Tests/Support/Testing.h"
 

@@ -1,6 +1,6 @@
 // Following uploads of a real service.
 #include "CommandLine/UploadsWatch.h"
-#include "CommandLine/ExitStatus.h"
+#include "FrontEnd/ExitStatus.h"
 #include "Service/UploadStore.h"
 #include "Tests/EndToEnd/ServiceHarness.h"
 

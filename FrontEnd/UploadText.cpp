@@ -1,5 +1,5 @@
 // How uploads are told of in words, columns and JSON.
-#include "CommandLine/UploadText.h"
+#include "FrontEnd/UploadText.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

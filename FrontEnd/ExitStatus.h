@@ -1,5 +1,7 @@
-// What the command line's exit status says.
+// What the programs' exit status says.
 #pragma once
+
+#include "Platform/Foundation/NSError.h"
 
 namespace korvane {
 
@@ -11,5 +13,8 @@ enum ExitStatus : int {
     // The upload service cannot be reached, runs with other settings, or cannot take anything just now.
     ExitUnreachable = 4,
 };
+
+// The exit status that an error of the hand-over or of the status interface leads to.
+ExitStatus exitStatusOf(const NSError &error);
 
 } // namespace korvane

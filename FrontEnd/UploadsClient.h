@@ -1,7 +1,7 @@
 // The upload service's status interface, seen from a program that watches or steers uploads.
 #pragma once
 
-#include "CommandLine/Upload.h"
+#include "FrontEnd/Upload.h"
 #include "Platform/Social/ServiceConnection.h"
 
 #include <QObject>

@@ -1,5 +1,5 @@
 // The upload service's status interface, seen from a program that watches or steers uploads.
-#include "CommandLine/UploadsClient.h"
+#include "FrontEnd/UploadsClient.h"
 
 #include "Korvane/FlickrRemoteSessionProtocol.h"
 #include "Platform/Foundation/NSURL.h"

@@ -1,5 +1,5 @@
 // One upload, as the upload service tells of it.
-#include "CommandLine/Upload.h"
+#include "FrontEnd/Upload.h"
 
 #include "Platform/Social/RemoteServiceError.h"
 

@@ -1,7 +1,7 @@
 // How uploads are told of in words, columns and JSON.
 #pragma once
 
-#include "CommandLine/Upload.h"
+#include "FrontEnd/Upload.h"
 
 #include <QByteArray>
 #include <QString>

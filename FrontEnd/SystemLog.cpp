@@ -1,5 +1,5 @@
 // Where log lines go while a command does a person's work in a share sheet.
-#include "CommandLine/SystemLog.h"
+#include "FrontEnd/SystemLog.h"
 
 #include "Platform/Foundation/NSLog.h"
 
