@@ -5,14 +5,14 @@ target_compile_features(korvane PUBLIC cxx_std_20)
 target_link_libraries(korvane PRIVATE korvane-settings korvane-platform korvane-core korvane-resources)
 # What the installed headers include; KorvaneConfig.cmake finds the same.
 target_link_libraries(korvane PUBLIC Qt6::Core Qt6::DBus fmt::fmt)
-target_link_libraries(korvane PRIVATE Qt6::Network CURL::libcurl nlohmann_json::nlohmann_json PkgConfig::LIBSECRET Threads::Threads)
+target_link_libraries(korvane PRIVATE Qt6::Network nlohmann_json::nlohmann_json PkgConfig::LIBSECRET Threads::Threads)
 set_target_properties(korvane PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 0)
 target_include_directories(korvane INTERFACE
   $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/korvane>)
 
 # Headers that no public header includes and an embedding program has no use for.
 set(privateHeaders
-  AssetLocation CallbackListener ChildLaunch CredentialStore CurlPool DataFile ExportPlan ExportProgress HandOver LocalNetwork LockedJSONFile LogOnce MediaInfo MediaProgram NetworkRoute
+  AssetLocation CallbackListener ChildLaunch CredentialStore CurlLibrary CurlPool DataFile ExportPlan ExportProgress HandOver LocalNetwork LockedJSONFile LogOnce MediaInfo MediaProgram NetworkRoute
   PictureProgram PreferenceDomain RunningChild SecretKeyring ServiceConnection SignInAnswer SignInService URLTransfer UserBus WireRecord)
 list(JOIN privateHeaders "|" privateHeaders)
 

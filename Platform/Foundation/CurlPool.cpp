@@ -28,15 +28,14 @@ IdleHandles &idle() {
 } // namespace
 
 CurlHandle::CurlHandle() {
-    [[maybe_unused]] static const CURLcode initialised = curl_global_init(CURL_GLOBAL_DEFAULT);
-    multi = curl_multi_init();
-    easy = curl_easy_init();
-    curl_multi_setopt(multi, CURLMOPT_MAXCONNECTS, 1L);
+    multi = curl().multi_init();
+    easy = curl().easy_init();
+    curl().multi_setopt(multi, CURLMOPT_MAXCONNECTS, 1L);
 }
 
 CurlHandle::~CurlHandle() {
-    curl_easy_cleanup(easy);
-    curl_multi_cleanup(multi);
+    curl().easy_cleanup(easy);
+    curl().multi_cleanup(multi);
 }
 
 std::unique_ptr<CurlHandle> CurlPool::take(const QString &origin) {
@@ -55,7 +54,7 @@ std::unique_ptr<CurlHandle> CurlPool::take(const QString &origin) {
 }
 
 void CurlPool::giveBack(const QString &origin, std::unique_ptr<CurlHandle> handle) {
-    curl_easy_reset(handle->easy);
+    curl().easy_reset(handle->easy);
     std::unique_ptr<CurlHandle> oldest; // declared before the lock: closed after it
     const std::lock_guard lock(idle().mutex);
     auto &handles = idle().handles;

@@ -1,7 +1,7 @@
 // Idle curl handles with their open connections, kept by origin.
 #pragma once
 
-#include <curl/curl.h>
+#include "Platform/Foundation/CurlLibrary.h"
 
 #include <QString>
 
@@ -9,7 +9,7 @@
 
 namespace korvane {
 
-// One transfer at a time; the multi handle owns the connection that is kept for the next one.
+// One transfer at a time, once curl is loaded; the multi handle owns the connection that is kept for the next one.
 struct CurlHandle {
     CurlHandle();
     ~CurlHandle();

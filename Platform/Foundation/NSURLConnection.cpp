@@ -9,6 +9,10 @@ namespace korvane {
 std::optional<NSData> NSURLConnection::sendSynchronousRequest(const NSMutableURLRequest &request,
                                                               NSHTTPURLResponse *response,
                                                               std::optional<NSError> *error) {
+    if (const auto problem = CurlLibrary::problem()) {
+        setError(error, problem);
+        return std::nullopt;
+    }
     const QString origin =
         QStringLiteral("%1://%2:%3").arg(request.URL.scheme(), request.URL.host()).arg(request.URL.port());
     auto handle = CurlPool::take(origin);

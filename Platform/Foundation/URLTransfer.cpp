@@ -69,56 +69,57 @@ QByteArray proxyExceptions() {
 URLTransfer::URLTransfer(const NSMutableURLRequest &request, CurlHandle &handle)
     : _request(request), _handle(handle), _bodyLength(request.bodyLength()), _lastMove(Clock::now()) {
     _configure();
-    curl_multi_add_handle(_handle.multi, _handle.easy);
+    curl().multi_add_handle(_handle.multi, _handle.easy);
 }
 
 URLTransfer::~URLTransfer() {
-    curl_multi_remove_handle(_handle.multi, _handle.easy);
-    curl_slist_free_all(_headers);
+    curl().multi_remove_handle(_handle.multi, _handle.easy);
+    curl().slist_free_all(_headers);
 }
 
 void URLTransfer::_configure() {
     CURL *easy = _handle.easy;
-    curl_easy_setopt(easy, CURLOPT_URL, _request.URL.absoluteString().toUtf8().constData());
-    curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
-    curl_easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "http,https");
-    curl_easy_setopt(easy, CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_1_1));
-    curl_easy_setopt(easy, CURLOPT_USERAGENT, "Korvane/" KORVANE_VERSION);
-    curl_easy_setopt(easy, CURLOPT_NOPROXY, proxyExceptions().constData());
-    curl_easy_setopt(easy, CURLOPT_CONNECTTIMEOUT_MS, long(_request.timeoutInterval * 1000));
-    curl_easy_setopt(easy, CURLOPT_UPLOAD_BUFFERSIZE, uploadBuffer);
-    curl_easy_setopt(easy, CURLOPT_READFUNCTION, _onRead);
-    curl_easy_setopt(easy, CURLOPT_READDATA, this);
-    curl_easy_setopt(easy, CURLOPT_SEEKFUNCTION, _onSeek);
-    curl_easy_setopt(easy, CURLOPT_SEEKDATA, this);
-    curl_easy_setopt(easy, CURLOPT_WRITEFUNCTION, _onWrite);
-    curl_easy_setopt(easy, CURLOPT_WRITEDATA, this);
-    curl_easy_setopt(easy, CURLOPT_HEADERFUNCTION, _onHeader);
-    curl_easy_setopt(easy, CURLOPT_HEADERDATA, this);
-    curl_easy_setopt(easy, CURLOPT_PREREQFUNCTION, _onRequest);
-    curl_easy_setopt(easy, CURLOPT_PREREQDATA, this);
+    curl().easy_setopt(easy, CURLOPT_URL, _request.URL.absoluteString().toUtf8().constData());
+    curl().easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
+    curl().easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "http,https");
+    curl().easy_setopt(easy, CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_1_1));
+    curl().easy_setopt(easy, CURLOPT_USERAGENT, "Korvane/" KORVANE_VERSION);
+    curl().easy_setopt(easy, CURLOPT_NOPROXY, proxyExceptions().constData());
+    curl().easy_setopt(easy, CURLOPT_CONNECTTIMEOUT_MS, long(_request.timeoutInterval * 1000));
+    curl().easy_setopt(easy, CURLOPT_UPLOAD_BUFFERSIZE, uploadBuffer);
+    curl().easy_setopt(easy, CURLOPT_READFUNCTION, _onRead);
+    curl().easy_setopt(easy, CURLOPT_READDATA, this);
+    curl().easy_setopt(easy, CURLOPT_SEEKFUNCTION, _onSeek);
+    curl().easy_setopt(easy, CURLOPT_SEEKDATA, this);
+    curl().easy_setopt(easy, CURLOPT_WRITEFUNCTION, _onWrite);
+    curl().easy_setopt(easy, CURLOPT_WRITEDATA, this);
+    curl().easy_setopt(easy, CURLOPT_HEADERFUNCTION, _onHeader);
+    curl().easy_setopt(easy, CURLOPT_HEADERDATA, this);
+    curl().easy_setopt(easy, CURLOPT_PREREQFUNCTION, _onRequest);
+    curl().easy_setopt(easy, CURLOPT_PREREQDATA, this);
     _configureMethod();
 }
 
 void URLTransfer::_configureMethod() {
     CURL *easy = _handle.easy;
     if (_request.HTTPMethod == "POST") {
-        curl_easy_setopt(easy, CURLOPT_POST, 1L);
-        curl_easy_setopt(easy, CURLOPT_POSTFIELDSIZE_LARGE, curl_off_t(_bodyLength));
+        curl().easy_setopt(easy, CURLOPT_POST, 1L);
+        curl().easy_setopt(easy, CURLOPT_POSTFIELDSIZE_LARGE, curl_off_t(_bodyLength));
     } else if (_request.HTTPMethod == "PUT") {
-        curl_easy_setopt(easy, CURLOPT_UPLOAD, 1L);
-        curl_easy_setopt(easy, CURLOPT_INFILESIZE_LARGE, curl_off_t(_bodyLength));
+        curl().easy_setopt(easy, CURLOPT_UPLOAD, 1L);
+        curl().easy_setopt(easy, CURLOPT_INFILESIZE_LARGE, curl_off_t(_bodyLength));
     }
     // Without this the server's "100 Continue" is waited for, a second on servers that never send it.
-    _headers = curl_slist_append(_headers, "Expect:");
+    _headers = curl().slist_append(_headers, "Expect:");
     for (const auto &[name, value] : _request.headers)
-        _headers = curl_slist_append(_headers, (name + (value.isEmpty() ? QByteArray(";") : ": " + value)).constData());
-    curl_easy_setopt(easy, CURLOPT_HTTPHEADER, _headers);
+        _headers =
+            curl().slist_append(_headers, (name + (value.isEmpty() ? QByteArray(";") : ": " + value)).constData());
+    curl().easy_setopt(easy, CURLOPT_HTTPHEADER, _headers);
 }
 
 std::optional<NSError> URLTransfer::run() {
     const auto &context = _request.uploadContext;
-    if (context) context->requestBegan(_bodyLength, [multi = _handle.multi] { curl_multi_wakeup(multi); });
+    if (context) context->requestBegan(_bodyLength, [multi = _handle.multi] { curl().multi_wakeup(multi); });
     auto error = _objection();
     if (!error) error = _drive();
     if (context) context->requestEnded(_response.statusCode, error, _body);
@@ -140,14 +141,14 @@ std::optional<NSError> URLTransfer::_drive() {
         if (_request.uploadContext && _request.uploadContext->isCancelled())
             return failure(NSURLErrorCancelled, QStringLiteral("The upload was stopped."));
         int running = 0;
-        curl_multi_perform(_handle.multi, &running);
+        curl().multi_perform(_handle.multi, &running);
         int waiting = 0;
-        if (const CURLMsg *message = curl_multi_info_read(_handle.multi, &waiting))
+        if (const CURLMsg *message = curl().multi_info_read(_handle.multi, &waiting))
             return _result(message->data.result);
         _noteProgress();
         if (_hasStalled())
             return failure(NSURLErrorTimedOut, QStringLiteral("The web service did not respond in time."));
-        curl_multi_poll(_handle.multi, nullptr, 0, longestWaitMilliseconds, nullptr);
+        curl().multi_poll(_handle.multi, nullptr, 0, longestWaitMilliseconds, nullptr);
     }
 }
 
@@ -161,19 +162,19 @@ std::optional<NSError> URLTransfer::_result(CURLcode code) const {
         return std::nullopt;
     }
     long osError = 0;
-    curl_easy_getinfo(_handle.easy, CURLINFO_OS_ERRNO, &osError);
-    return failure(errorCode(code, osError, _request.URL), QString::fromUtf8(curl_easy_strerror(code)));
+    curl().easy_getinfo(_handle.easy, CURLINFO_OS_ERRNO, &osError);
+    return failure(errorCode(code, osError, _request.URL), QString::fromUtf8(curl().easy_strerror(code)));
 }
 
 // What still waits in the socket's buffer has not moved: on a slow line that is many seconds' worth.
 void URLTransfer::_noteProgress() {
     curl_off_t up = 0;
     curl_off_t down = 0;
-    curl_easy_getinfo(_handle.easy, CURLINFO_SIZE_UPLOAD_T, &up);
-    curl_easy_getinfo(_handle.easy, CURLINFO_SIZE_DOWNLOAD_T, &down);
+    curl().easy_getinfo(_handle.easy, CURLINFO_SIZE_UPLOAD_T, &up);
+    curl().easy_getinfo(_handle.easy, CURLINFO_SIZE_DOWNLOAD_T, &down);
     curl_socket_t socket = CURL_SOCKET_BAD;
     int unsent = 0;
-    curl_easy_getinfo(_handle.easy, CURLINFO_ACTIVESOCKET, &socket);
+    curl().easy_getinfo(_handle.easy, CURLINFO_ACTIVESOCKET, &socket);
     if (socket != CURL_SOCKET_BAD && ::ioctl(socket, SIOCOUTQ, &unsent) != 0) unsent = 0;
     const qint64 sent = std::max<qint64>(0, up - unsent);
     if (_request.uploadContext) _request.uploadContext->requestSent(sent);
