@@ -5,11 +5,11 @@
     <name>AccountRow</name>
     <message>
         <source>%1 account “%2”</source>
-        <translation>Compte %1 « %2 »</translation>
+        <translation>Compte %1 «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>Remove the %1 account “%2”</source>
-        <translation>Retirer le compte %1 « %2 »</translation>
+        <translation>Retirer le compte %1 «&#xa0;%2&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -20,14 +20,14 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>KeysPanel</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 application keys</source>
@@ -35,7 +35,7 @@
     </message>
     <message>
         <source>Register an application of your own with permission to upload, and copy its two keys here:</source>
-        <translation>Enregistrez votre propre application avec le droit de téléverser des fichiers, puis copiez ici ses deux clés :</translation>
+        <translation>Enregistrez votre propre application avec le droit de téléverser des fichiers, puis copiez ici ses deux clés&#xa0;:</translation>
     </message>
     <message>
         <source>Open that page</source>
@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>Consumer key: %1</source>
-        <translation>Consumer key : %1</translation>
+        <translation>Consumer key&#xa0;: %1</translation>
     </message>
     <message>
         <source>The consumer secret is stored.</source>
@@ -100,7 +100,7 @@
     <name>Previews</name>
     <message>
         <source>%1 of %2: %3</source>
-        <translation>%1 sur %2 : %3</translation>
+        <translation>%1 sur %2&#xa0;: %3</translation>
     </message>
     <message numerus="yes">
         <source>%n photo(s)</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it fails.</source>
-        <translation>Retirer le compte %1 « %2 » ? Ce qui est déjà partagé avec lui y reste ; ce qui reste à envoyer échouera.</translation>
+        <translation>Retirer le compte %1 «&#xa0;%2&#xa0;»&#x202f;? Ce qui est déjà partagé avec lui y reste&#x202f;; ce qui reste à envoyer échouera.</translation>
     </message>
     <message>
         <source>There is no account yet.</source>
@@ -195,7 +195,7 @@
     <name>SharedFile</name>
     <message>
         <source>this is not on this device; copy it here, or open its folder in the file manager first</source>
-        <translation>ce fichier n’est pas sur cet appareil ; copiez-le ici ou ouvrez d’abord son dossier dans le gestionnaire de fichiers</translation>
+        <translation>ce fichier n’est pas sur cet appareil&#x202f;; copiez-le ici ou ouvrez d’abord son dossier dans le gestionnaire de fichiers</translation>
     </message>
     <message>
         <source>there is no such file</source>
@@ -203,7 +203,7 @@
     </message>
     <message>
         <source>this is a folder; choose the files in it</source>
-        <translation>c’est un dossier ; choisissez les fichiers qu’il contient</translation>
+        <translation>c’est un dossier&#x202f;; choisissez les fichiers qu’il contient</translation>
     </message>
     <message>
         <source>this is no ordinary file</source>
@@ -242,7 +242,7 @@
         <source>Nothing was shared. %1
 What you entered is still here: press Post to try again.</source>
         <translation>Rien n’a été partagé. %1
-Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</translation>
+Votre saisie est toujours là&#xa0;: appuyez sur «&#xa0;Publier&#xa0;» pour réessayer.</translation>
     </message>
 </context>
 <context>
@@ -272,11 +272,11 @@ Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</t
     <name>SignInPanel</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The account “%1” is ready.</source>
-        <translation>Le compte « %1 » est prêt.</translation>
+        <translation>Le compte «&#xa0;%1&#xa0;» est prêt.</translation>
     </message>
     <message>
         <source>Add an account…</source>
@@ -288,7 +288,7 @@ Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</t
     </message>
     <message>
         <source>For a browser on another device: it shows a code that you type here.</source>
-        <translation>Pour un navigateur sur un autre appareil : il affiche un code à saisir ici.</translation>
+        <translation>Pour un navigateur sur un autre appareil&#xa0;: il affiche un code à saisir ici.</translation>
     </message>
     <message>
         <source>To sign in, Korvane first needs the keys of your own application, below.</source>
@@ -304,11 +304,11 @@ Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</t
     </message>
     <message>
         <source>Open this address, also on another device, allow Korvane to upload, and type the code that is shown:</source>
-        <translation>Ouvrez cette adresse, même sur un autre appareil, autorisez Korvane à téléverser des fichiers, puis saisissez le code affiché :</translation>
+        <translation>Ouvrez cette adresse, même sur un autre appareil, autorisez Korvane à téléverser des fichiers, puis saisissez le code affiché&#xa0;:</translation>
     </message>
     <message>
         <source>Allow Korvane to upload in the browser that has opened. If none has, open this address on this device:</source>
-        <translation>Autorisez Korvane à téléverser des fichiers dans le navigateur qui s’est ouvert. S’il ne s’est pas ouvert, ouvrez cette adresse sur cet appareil :</translation>
+        <translation>Autorisez Korvane à téléverser des fichiers dans le navigateur qui s’est ouvert. S’il ne s’est pas ouvert, ouvrez cette adresse sur cet appareil&#xa0;:</translation>
     </message>
     <message>
         <source>Address of the sign-in page</source>
@@ -346,11 +346,11 @@ Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</t
     </message>
     <message>
         <source>Retry “%1”</source>
-        <translation>Réessayer « %1 »</translation>
+        <translation>Réessayer «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Remove “%1”</source>
-        <translation>Retirer « %1 »</translation>
+        <translation>Retirer «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -438,11 +438,11 @@ Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</t
     </message>
     <message>
         <source>Nobody knows whether “%1” has arrived. Look on %2 first. Removed here, it is not tried again.</source>
-        <translation>On ignore si « %1 » est arrivé. Vérifiez d’abord sur %2. Si vous retirez cet envoi, il sera abandonné.</translation>
+        <translation>On ignore si «&#xa0;%1&#xa0;» est arrivé. Vérifiez d’abord sur %2. Si vous retirez cet envoi, il sera abandonné.</translation>
     </message>
     <message>
         <source>“%1” has not arrived on %2 yet. Removed here, it is not uploaded.</source>
-        <translation>L’envoi de « %1 » vers %2 n’est pas terminé. Si vous le retirez, il sera abandonné.</translation>
+        <translation>L’envoi de «&#xa0;%1&#xa0;» vers %2 n’est pas terminé. Si vous le retirez, il sera abandonné.</translation>
     </message>
 </context>
 <context>
