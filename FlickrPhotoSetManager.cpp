@@ -5,6 +5,7 @@
 #include "Korvane/FlickrResponse.h"
 #include "Platform/Accounts/ACAccount.h"
 #include "Platform/Foundation/KRAssert.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/NSLog.h"
 #include "Platform/Preferences/KorvaneSettings.h"
 #include "Platform/Social/SLRequest.h"
@@ -16,8 +17,8 @@ std::optional<NSError> problemOf(const FlickrPhotoSetResponse &response) {
     if (response.isSuccess()) return std::nullopt;
     const QString message = redacted(response.errorDescription().value_or(QString()));
     return NSError::errorWithDescription(FlickrResponseErrorDomain, 0,
-                                         message.isEmpty() ? QStringLiteral("Flickr's answer is not understood.")
-                                                           : QStringLiteral("Flickr says: ") + message);
+                                         message.isEmpty() ? localizedText("Flickr's answer is not understood.")
+                                                           : localizedText("Flickr says: %1", message));
 }
 
 } // namespace

@@ -22,9 +22,7 @@ QString takeSecretFromEnvironment() {
 } // namespace
 
 AccountSignIn::AccountSignIn(ACAccountType type, Options options)
-    : _type(std::move(type)), _options(std::move(options)),
-      _service(_type == ACAccountType(ACAccountTypeIdentifierVimeo) ? QStringLiteral("Vimeo")
-                                                                    : QStringLiteral("Flickr")) {}
+    : _type(std::move(type)), _options(std::move(options)), _service(_type.serviceName()) {}
 
 std::optional<SignedInAccount> AccountSignIn::run(int *status) {
     const Interruption interruption([this](int signal) { _interrupted(signal); });

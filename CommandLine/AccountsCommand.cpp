@@ -29,7 +29,7 @@ const char *const examples = R"(Examples:
   korvane accounts remove ID
 
 Secrets are kept in the desktop's keyring, or in a file that only you can read where there is no keyring. Of several
-accounts of a service, the one that was added last is used.
+accounts of a service, the one that signed in last is used, or the one chosen since in the settings; the list marks it.
 
 Exit status: 0 all well, 1 the account cannot be signed in or stored, 2 bad usage, an unusable file or no such account,
 130 after Ctrl-C.)";
@@ -55,10 +55,17 @@ std::vector<std::shared_ptr<ACAccount>> allAccounts() {
     return all;
 }
 
+// Posts of its service go out with it.
+bool isInUse(const ACAccount &account) {
+    const auto used = ACAccountStore().accountInUse(account.accountType().identifier());
+    return used && used->identifier() == account.identifier();
+}
+
 QJsonObject jsonOf(const ACAccount &account) {
     return {{QStringLiteral("id"), account.identifier()},
             {QStringLiteral("service"), Arguments::serviceOf(account.accountType())},
-            {QStringLiteral("username"), account.username()}};
+            {QStringLiteral("username"), account.username()},
+            {QStringLiteral("inUse"), isInUse(account)}};
 }
 
 // Pipes are taken as well as files; a byte more than the largest credential file, so that a larger one is told.
@@ -144,7 +151,8 @@ int AccountsCommand::_list() {
                  QStringLiteral("USER NAME"));
     for (const auto &account : accounts)
         Output::line(UploadText::padded(account->identifier(), 37) + u' ' +
-                     UploadText::padded(Arguments::serviceOf(account->accountType()), 8) + u' ' + account->username());
+                     UploadText::padded(Arguments::serviceOf(account->accountType()), 8) + u' ' + account->username() +
+                     (isInUse(*account) ? QStringLiteral(" (in use)") : QString()));
     return ExitDone;
 }
 

@@ -21,7 +21,7 @@ const char *const examples = R"(Examples:
   korvane albums
   korvane share flickr --album "Summer" sunset.jpg
 
-Lists the albums of the account with which photos are shared: the one that was added last.
+Lists the albums of the account with which photos are shared: the one in use.
 
 Exit status: 0 all well, 1 the albums cannot be loaded, 2 bad usage, 3 no usable account.)";
 

@@ -1,16 +1,9 @@
 // korvane compose: opens the share sheet's window.
 #include "CommandLine/ComposeCommand.h"
 
-#include "CommandLine/Output.h"
-#include "FrontEnd/ExitStatus.h"
-#include "Platform/Foundation/ProgramPath.h"
+#include "CommandLine/BecomeProgram.h"
 
 #include <CLI/CLI.hpp>
-
-#include <cerrno>
-#include <cstring>
-
-#include <unistd.h>
 
 namespace korvane {
 namespace {
@@ -42,21 +35,10 @@ bool ComposeCommand::isChosen() const {
 }
 
 int ComposeCommand::run() {
-    const std::string program = pathOfProgram("korvane-sheet").toStdString();
-    if (program.empty()) {
-        Output::problem(QStringLiteral("The program korvane-sheet is not installed beside korvane, nor in PATH."));
-        return ExitUploadFailed;
-    }
-    std::vector<std::string> arguments{program, _service, "--"};
-    arguments.insert(arguments.end(), _files.begin(), _files.end());
-    std::vector<char *> pointers;
-    for (std::string &argument : arguments)
-        pointers.push_back(argument.data());
-    pointers.push_back(nullptr);
-    ::execv(program.c_str(), pointers.data());
-    Output::problem(QStringLiteral("%1 cannot be run: %2")
-                        .arg(QString::fromStdString(program), QString::fromLocal8Bit(std::strerror(errno))));
-    return ExitUploadFailed;
+    QByteArrayList arguments{QByteArray::fromStdString(_service), "--"};
+    for (const std::string &file : _files)
+        arguments.append(QByteArray::fromStdString(file));
+    return becomeProgram("korvane-sheet", arguments);
 }
 
 } // namespace korvane

@@ -55,7 +55,7 @@ bool SheetUser::hasCredential(const ACAccount &account) {
 void SheetUser::saysAccount(const ACAccount &account) {
     const auto count = ACAccountStore().accountsWithAccountType(account.accountType()).size();
     if (count > 1)
-        Output::note(QStringLiteral("Sharing as %1, the last added of %2 %3 accounts.")
+        Output::note(QStringLiteral("Sharing as %1, the one in use of %2 %3 accounts.")
                          .arg(account.username(), QString::number(count), Arguments::serviceOf(account.accountType())));
 }
 

@@ -1,18 +1,9 @@
 // korvane standin: local stand-ins of the web services, for trying out.
 #include "CommandLine/StandInCommand.h"
 
-#include "CommandLine/Output.h"
-#include "FrontEnd/ExitStatus.h"
-#include "Platform/Foundation/ProgramPath.h"
+#include "CommandLine/BecomeProgram.h"
 
 #include <CLI/CLI.hpp>
-#include <QByteArrayList>
-
-#include <cerrno>
-#include <cstring>
-#include <vector>
-
-#include <unistd.h>
 
 namespace korvane {
 
@@ -32,22 +23,10 @@ bool StandInCommand::isChosen() const {
 }
 
 int StandInCommand::run() {
-    QByteArray program = pathOfProgram("korvane-standin");
-    if (program.isEmpty()) {
-        Output::problem(QStringLiteral("The program korvane-standin is not installed beside korvane, nor in PATH."));
-        return ExitUploadFailed;
-    }
-    QByteArrayList arguments{program};
+    QByteArrayList arguments;
     if (_port >= 0) arguments += {"--port", QByteArray::number(_port)};
     if (!_folder.empty()) arguments += {"--state", QByteArray::fromStdString(_folder)};
-    std::vector<char *> pointers;
-    for (QByteArray &argument : arguments)
-        pointers.push_back(argument.data());
-    pointers.push_back(nullptr);
-    ::execv(program.constData(), pointers.data());
-    Output::problem(QStringLiteral("%1 cannot be run: %2")
-                        .arg(QString::fromUtf8(program), QString::fromLocal8Bit(std::strerror(errno))));
-    return ExitUploadFailed;
+    return becomeProgram("korvane-standin", arguments);
 }
 
 } // namespace korvane

@@ -2,6 +2,7 @@
 #include "FrontEnd/UploadsClient.h"
 
 #include "Korvane/FlickrRemoteSessionProtocol.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/NSURL.h"
 #include "Platform/Social/RemoteServiceError.h"
 #include "Platform/Social/UploadsInterface.h"
@@ -176,7 +177,7 @@ bool UploadsClient::subscribe(std::optional<NSError> *error) {
     if (!heard)
         setError(error, NSError::errorWithDescription(
                             RemoteServiceErrorDomain, RemoteServiceErrorUnreachable,
-                            QStringLiteral("The upload service cannot be watched: %1").arg(bus.lastError().message())));
+                            localizedText("The upload service cannot be watched: %1", bus.lastError().message())));
     return heard;
 }
 

@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>NO_FLICKR_ACCOUNT_TITLE</source>
-        <translation>Kein Flickr-Account</translation>
+        <translation>Kein Flickr-Konto</translation>
     </message>
     <message>
         <source>NO_FLICKR_ACCOUNT_MESSAGE</source>
-        <translation>Auf diesem Gerät ist noch kein Flickr-Account eingerichtet. Fügen Sie in den Einstellungen einen hinzu und teilen Sie dann erneut.</translation>
+        <translation>Auf diesem Gerät ist noch kein Flickr-Konto eingerichtet. Fügen Sie in den Einstellungen eines hinzu und teilen Sie dann erneut.</translation>
     </message>
 </context>
 </TS>

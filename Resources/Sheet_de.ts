@@ -16,7 +16,7 @@
     <name>AttachmentsModel</name>
     <message>
         <source>only one video at a time can be shared to Vimeo</source>
-        <translation>nur ein Video auf einmal kann auf Vimeo geteilt werden</translation>
+        <translation>auf Vimeo kann nur ein Video auf einmal geteilt werden</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -43,7 +43,7 @@
     </message>
     <message>
         <source>Asking the keyring…</source>
-        <translation>Der Schlüsselbund wird gefragt …</translation>
+        <translation>Anfrage an den Schlüsselbund …</translation>
     </message>
     <message>
         <source>Consumer key</source>
@@ -114,7 +114,7 @@
     <name>ProgressLine</name>
     <message>
         <source>Beginning</source>
-        <translation>Beginnt</translation>
+        <translation>Beginn</translation>
     </message>
     <message>
         <source>%1 percent</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it fails.</source>
-        <translation>Das %1-Konto „%2“ entfernen? Was damit schon geteilt ist, bleibt dort; was damit noch hochzuladen ist, schlägt fehl.</translation>
+        <translation>Das %1-Konto „%2“ entfernen? Was damit bereits geteilt wurde, bleibt dort; was damit noch hochzuladen ist, schlägt fehl.</translation>
     </message>
     <message>
         <source>There is no account yet.</source>
@@ -160,15 +160,15 @@
     </message>
     <message>
         <source>Uploads</source>
-        <translation>Hochladen</translation>
+        <translation>Uploads</translation>
     </message>
     <message>
         <source>Photos at a time</source>
-        <translation>Fotos auf einmal</translation>
+        <translation>Gleichzeitige Foto-Uploads</translation>
     </message>
     <message>
         <source>Videos at a time</source>
-        <translation>Videos auf einmal</translation>
+        <translation>Gleichzeitige Video-Uploads</translation>
     </message>
     <message>
         <source>Upload over the cellular network</source>
@@ -180,7 +180,7 @@
     </message>
     <message>
         <source>As it is</source>
-        <translation>Wie sie ist</translation>
+        <translation>Unverändert</translation>
     </message>
     <message>
         <source>%L1 pixels</source>
@@ -188,14 +188,14 @@
     </message>
     <message>
         <source>JPEG, PNG and GIF files always go out as they are. Other pictures, and those sent without metadata, are newly encoded.</source>
-        <translation>JPEG-, PNG- und GIF-Dateien gehen immer so hinaus, wie sie sind. Andere Bilder und solche ohne Metadaten werden neu kodiert.</translation>
+        <translation>JPEG-, PNG- und GIF-Dateien werden unverändert hochgeladen. Andere Bilder und solche ohne Metadaten werden neu kodiert.</translation>
     </message>
 </context>
 <context>
     <name>SharedFile</name>
     <message>
         <source>this is not on this device; copy it here, or open its folder in the file manager first</source>
-        <translation>das liegt nicht auf diesem Gerät; kopieren Sie es hierher oder öffnen Sie zuerst seinen Ordner im Dateimanager</translation>
+        <translation>die Datei liegt nicht auf diesem Gerät; kopieren Sie sie hierher oder öffnen Sie zuerst ihren Ordner im Dateimanager</translation>
     </message>
     <message>
         <source>there is no such file</source>
@@ -222,7 +222,7 @@
     </message>
     <message>
         <source>Title (optional)</source>
-        <translation>Titel (freiwillig)</translation>
+        <translation>Titel (optional)</translation>
     </message>
     <message numerus="yes">
         <source>Room for %n more letter(s)</source>
@@ -236,7 +236,7 @@
     <name>SheetModel</name>
     <message>
         <source>No reason was given.</source>
-        <translation>Ein Grund wurde nicht genannt.</translation>
+        <translation>Es wurde kein Grund genannt.</translation>
     </message>
     <message>
         <source>Nothing was shared. %1
@@ -296,7 +296,7 @@ Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</tran
     </message>
     <message>
         <source>Asking %1…</source>
-        <translation>%1 wird gefragt …</translation>
+        <translation>Anfrage an %1 …</translation>
     </message>
     <message>
         <source>Storing the account…</source>
@@ -304,11 +304,11 @@ Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</tran
     </message>
     <message>
         <source>Open this address, also on another device, allow Korvane to upload, and type the code that is shown:</source>
-        <translation>Öffnen Sie diese Adresse, gern auf einem anderen Gerät, erlauben Sie Korvane das Hochladen und geben Sie den angezeigten Code ein:</translation>
+        <translation>Öffnen Sie diese Adresse, auch auf einem anderen Gerät, erlauben Sie Korvane das Hochladen und geben Sie den angezeigten Code ein:</translation>
     </message>
     <message>
         <source>Allow Korvane to upload in the browser that has opened. If none has, open this address on this device:</source>
-        <translation>Erlauben Sie Korvane das Hochladen im Browser, der aufgegangen ist. Wenn keiner aufging, öffnen Sie diese Adresse auf diesem Gerät:</translation>
+        <translation>Erlauben Sie Korvane das Hochladen im geöffneten Browser. Wenn sich keiner geöffnet hat, öffnen Sie diese Adresse auf diesem Gerät:</translation>
     </message>
     <message>
         <source>Address of the sign-in page</source>
@@ -438,30 +438,30 @@ Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</tran
     </message>
     <message>
         <source>Nobody knows whether “%1” has arrived. Look on %2 first. Removed here, it is not tried again.</source>
-        <translation>Niemand weiß, ob „%1“ angekommen ist. Sehen Sie zuerst auf %2 nach. Hier entfernt, wird es nicht noch einmal versucht.</translation>
+        <translation>Es ist nicht bekannt, ob „%1“ angekommen ist. Sehen Sie zuerst auf %2 nach. Wenn Sie es hier entfernen, wird es nicht erneut versucht.</translation>
     </message>
     <message>
         <source>“%1” has not arrived on %2 yet. Removed here, it is not uploaded.</source>
-        <translation>„%1“ ist noch nicht bei %2 angekommen. Hier entfernt, wird es nicht hochgeladen.</translation>
+        <translation>„%1“ ist noch nicht auf %2 angekommen. Wenn Sie es hier entfernen, wird es nicht hochgeladen.</translation>
     </message>
 </context>
 <context>
     <name>UploadsHead</name>
     <message>
         <source>Asking the upload service…</source>
-        <translation>Der Hochladedienst wird gefragt …</translation>
+        <translation>Anfrage an den Upload-Dienst …</translation>
     </message>
     <message>
         <source>The upload service does not answer just now. Uploads it has taken over are not lost.</source>
-        <translation>Der Hochladedienst antwortet gerade nicht. Was er übernommen hat, ist nicht verloren.</translation>
+        <translation>Der Upload-Dienst antwortet gerade nicht. Uploads, die er übernommen hat, sind nicht verloren.</translation>
     </message>
     <message>
         <source>The upload service has ended, since there is nothing left to upload.</source>
-        <translation>Der Hochladedienst hat sich beendet, da nichts mehr hochzuladen ist.</translation>
+        <translation>Der Upload-Dienst hat sich beendet, da nichts mehr hochzuladen ist.</translation>
     </message>
     <message>
         <source>The upload service cannot be reached. It is asked again by and by.</source>
-        <translation>Der Hochladedienst ist nicht zu erreichen. Er wird immer wieder gefragt.</translation>
+        <translation>Der Upload-Dienst ist nicht erreichbar. Es wird regelmäßig erneut versucht.</translation>
     </message>
     <message>
         <source>All</source>
@@ -469,7 +469,7 @@ Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</tran
     </message>
     <message>
         <source>Under way</source>
-        <translation>Unterwegs</translation>
+        <translation>In Arbeit</translation>
     </message>
     <message>
         <source>Failed</source>
@@ -481,7 +481,7 @@ Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</tran
     </message>
     <message>
         <source>Ask again</source>
-        <translation>Noch einmal fragen</translation>
+        <translation>Erneut versuchen</translation>
     </message>
     <message>
         <source>Dismiss</source>
@@ -493,7 +493,7 @@ Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</tran
     </message>
     <message>
         <source>Resume uploads</source>
-        <translation>Weiter hochladen</translation>
+        <translation>Hochladen fortsetzen</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
@@ -501,15 +501,15 @@ Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</tran
     </message>
     <message>
         <source>Retry all that failed</source>
-        <translation>Alle Fehlgeschlagenen wiederholen</translation>
+        <translation>Alle fehlgeschlagenen wiederholen</translation>
     </message>
     <message>
         <source>Clear what is shared</source>
-        <translation>Geteilte ausräumen</translation>
+        <translation>Geteilte aus der Liste entfernen</translation>
     </message>
     <message>
         <source>There is nothing of this kind.</source>
-        <translation>Davon gibt es nichts.</translation>
+        <translation>Keine Einträge</translation>
     </message>
     <message>
         <source>Nothing is being uploaded. What you share shows up here.</source>
@@ -520,7 +520,7 @@ Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</tran
     <name>UploadsPage</name>
     <message>
         <source>Uploads</source>
-        <translation>Hochladen</translation>
+        <translation>Uploads</translation>
     </message>
     <message>
         <source>Close</source>
@@ -528,7 +528,7 @@ Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</tran
     </message>
     <message>
         <source>Resume</source>
-        <translation>Weiter</translation>
+        <translation>Fortsetzen</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -554,7 +554,7 @@ Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</tran
     <name>korvane::SignInModel</name>
     <message>
         <source>The browser did not open. Open the address below yourself.</source>
-        <translation>Der Browser ging nicht auf. Öffnen Sie die Adresse unten selbst.</translation>
+        <translation>Der Browser konnte nicht geöffnet werden. Öffnen Sie die Adresse unten selbst.</translation>
     </message>
 </context>
 </TS>

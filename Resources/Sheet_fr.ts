@@ -5,11 +5,11 @@
     <name>AccountRow</name>
     <message>
         <source>%1 account “%2”</source>
-        <translation>Compte %1 « %2 »</translation>
+        <translation>Compte %1 «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>Remove the %1 account “%2”</source>
-        <translation>Retirer le compte %1 « %2 »</translation>
+        <translation>Retirer le compte %1 «&#xa0;%2&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -20,22 +20,22 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>KeysPanel</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 application keys</source>
-        <translation>Clés d’application %1</translation>
+        <translation>Clés d’application pour %1</translation>
     </message>
     <message>
         <source>Register an application of your own with permission to upload, and copy its two keys here:</source>
-        <translation>Enregistrez votre propre application avec le droit d’envoyer, puis copiez ici ses deux clés :</translation>
+        <translation>Enregistrez votre propre application avec le droit de téléverser des fichiers, puis copiez ici ses deux clés&#xa0;:</translation>
     </message>
     <message>
         <source>Open that page</source>
@@ -43,7 +43,7 @@
     </message>
     <message>
         <source>Asking the keyring…</source>
-        <translation>Consultation du trousseau…</translation>
+        <translation>Accès au trousseau…</translation>
     </message>
     <message>
         <source>Consumer key</source>
@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>Consumer key: %1</source>
-        <translation>Consumer key : %1</translation>
+        <translation>Consumer key&#xa0;: %1</translation>
     </message>
     <message>
         <source>The consumer secret is stored.</source>
@@ -100,7 +100,7 @@
     <name>Previews</name>
     <message>
         <source>%1 of %2: %3</source>
-        <translation>%1 sur %2 : %3</translation>
+        <translation>%1 sur %2&#xa0;: %3</translation>
     </message>
     <message numerus="yes">
         <source>%n photo(s)</source>
@@ -114,7 +114,7 @@
     <name>ProgressLine</name>
     <message>
         <source>Beginning</source>
-        <translation>Début</translation>
+        <translation>Démarrage</translation>
     </message>
     <message>
         <source>%1 percent</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it fails.</source>
-        <translation>Retirer le compte %1 « %2 » ? Ce qui est déjà partagé y reste ; ce qui reste à envoyer échouera.</translation>
+        <translation>Retirer le compte %1 «&#xa0;%2&#xa0;»&#x202f;? Ce qui est déjà partagé avec lui y reste&#x202f;; ce qui reste à envoyer échouera.</translation>
     </message>
     <message>
         <source>There is no account yet.</source>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>What you share goes out with the account that is checked.</source>
-        <translation>Le compte coché sert à vos partages.</translation>
+        <translation>Vos partages utilisent le compte coché.</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -164,11 +164,11 @@
     </message>
     <message>
         <source>Photos at a time</source>
-        <translation>Photos à la fois</translation>
+        <translation>Envois de photos simultanés</translation>
     </message>
     <message>
         <source>Videos at a time</source>
-        <translation>Vidéos à la fois</translation>
+        <translation>Envois de vidéos simultanés</translation>
     </message>
     <message>
         <source>Upload over the cellular network</source>
@@ -180,7 +180,7 @@
     </message>
     <message>
         <source>As it is</source>
-        <translation>Tel quel</translation>
+        <translation>Inchangé</translation>
     </message>
     <message>
         <source>%L1 pixels</source>
@@ -188,14 +188,14 @@
     </message>
     <message>
         <source>JPEG, PNG and GIF files always go out as they are. Other pictures, and those sent without metadata, are newly encoded.</source>
-        <translation>Les fichiers JPEG, PNG et GIF partent toujours tels quels. Les autres images, et celles sans métadonnées, sont réencodées.</translation>
+        <translation>Les fichiers JPEG, PNG et GIF sont toujours envoyés sans modification. Les autres images, et celles envoyées sans métadonnées, sont réencodées.</translation>
     </message>
 </context>
 <context>
     <name>SharedFile</name>
     <message>
         <source>this is not on this device; copy it here, or open its folder in the file manager first</source>
-        <translation>ceci n’est pas sur cet appareil ; copiez-le ici ou ouvrez d’abord son dossier dans le gestionnaire de fichiers</translation>
+        <translation>ce fichier n’est pas sur cet appareil&#x202f;; copiez-le ici ou ouvrez d’abord son dossier dans le gestionnaire de fichiers</translation>
     </message>
     <message>
         <source>there is no such file</source>
@@ -203,7 +203,7 @@
     </message>
     <message>
         <source>this is a folder; choose the files in it</source>
-        <translation>c’est un dossier ; choisissez les fichiers qu’il contient</translation>
+        <translation>c’est un dossier&#x202f;; choisissez les fichiers qu’il contient</translation>
     </message>
     <message>
         <source>this is no ordinary file</source>
@@ -242,7 +242,7 @@
         <source>Nothing was shared. %1
 What you entered is still here: press Post to try again.</source>
         <translation>Rien n’a été partagé. %1
-Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</translation>
+Votre saisie est toujours là&#xa0;: appuyez sur «&#xa0;Publier&#xa0;» pour réessayer.</translation>
     </message>
 </context>
 <context>
@@ -272,11 +272,11 @@ Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</tran
     <name>SignInPanel</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The account “%1” is ready.</source>
-        <translation>Le compte « %1 » est prêt.</translation>
+        <translation>Le compte «&#xa0;%1&#xa0;» est prêt.</translation>
     </message>
     <message>
         <source>Add an account…</source>
@@ -288,7 +288,7 @@ Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</tran
     </message>
     <message>
         <source>For a browser on another device: it shows a code that you type here.</source>
-        <translation>Pour un navigateur sur un autre appareil : il affiche un code à saisir ici.</translation>
+        <translation>Pour un navigateur sur un autre appareil&#xa0;: il affiche un code à saisir ici.</translation>
     </message>
     <message>
         <source>To sign in, Korvane first needs the keys of your own application, below.</source>
@@ -296,7 +296,7 @@ Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</tran
     </message>
     <message>
         <source>Asking %1…</source>
-        <translation>Demande à %1…</translation>
+        <translation>Connexion à %1…</translation>
     </message>
     <message>
         <source>Storing the account…</source>
@@ -304,11 +304,11 @@ Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</tran
     </message>
     <message>
         <source>Open this address, also on another device, allow Korvane to upload, and type the code that is shown:</source>
-        <translation>Ouvrez cette adresse, même sur un autre appareil, autorisez Korvane à envoyer, puis saisissez le code affiché :</translation>
+        <translation>Ouvrez cette adresse, même sur un autre appareil, autorisez Korvane à téléverser des fichiers, puis saisissez le code affiché&#xa0;:</translation>
     </message>
     <message>
         <source>Allow Korvane to upload in the browser that has opened. If none has, open this address on this device:</source>
-        <translation>Autorisez Korvane à envoyer dans le navigateur qui s’est ouvert. Sinon, ouvrez cette adresse sur cet appareil :</translation>
+        <translation>Autorisez Korvane à téléverser des fichiers dans le navigateur qui s’est ouvert. S’il ne s’est pas ouvert, ouvrez cette adresse sur cet appareil&#xa0;:</translation>
     </message>
     <message>
         <source>Address of the sign-in page</source>
@@ -346,11 +346,11 @@ Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</tran
     </message>
     <message>
         <source>Retry “%1”</source>
-        <translation>Réessayer « %1 »</translation>
+        <translation>Réessayer «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Remove “%1”</source>
-        <translation>Retirer « %1 »</translation>
+        <translation>Retirer «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -365,7 +365,7 @@ Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</tran
     </message>
     <message>
         <source>Waiting for the next try</source>
-        <translation>En attente du prochain essai</translation>
+        <translation>En attente de la prochaine tentative</translation>
     </message>
     <message>
         <source>%1, at the latest %2</source>
@@ -438,22 +438,22 @@ Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</tran
     </message>
     <message>
         <source>Nobody knows whether “%1” has arrived. Look on %2 first. Removed here, it is not tried again.</source>
-        <translation>Personne ne sait si « %1 » est arrivé. Vérifiez d’abord sur %2. Retiré ici, il ne sera plus réessayé.</translation>
+        <translation>On ignore si «&#xa0;%1&#xa0;» est arrivé. Vérifiez d’abord sur %2. Si vous retirez cet envoi, il sera abandonné.</translation>
     </message>
     <message>
         <source>“%1” has not arrived on %2 yet. Removed here, it is not uploaded.</source>
-        <translation>« %1 » n’est pas encore arrivé sur %2. Retiré ici, il ne sera pas envoyé.</translation>
+        <translation>L’envoi de «&#xa0;%1&#xa0;» vers %2 n’est pas terminé. Si vous le retirez, il sera abandonné.</translation>
     </message>
 </context>
 <context>
     <name>UploadsHead</name>
     <message>
         <source>Asking the upload service…</source>
-        <translation>Consultation du service d’envoi…</translation>
+        <translation>Connexion au service d’envoi…</translation>
     </message>
     <message>
         <source>The upload service does not answer just now. Uploads it has taken over are not lost.</source>
-        <translation>Le service d’envoi ne répond pas pour l’instant. Ce qu’il a pris en charge n’est pas perdu.</translation>
+        <translation>Le service d’envoi ne répond pas pour l’instant. Les envois qu’il a pris en charge ne sont pas perdus.</translation>
     </message>
     <message>
         <source>The upload service has ended, since there is nothing left to upload.</source>
@@ -461,7 +461,7 @@ Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</tran
     </message>
     <message>
         <source>The upload service cannot be reached. It is asked again by and by.</source>
-        <translation>Le service d’envoi est injoignable. Il sera de nouveau consulté.</translation>
+        <translation>Le service d’envoi est injoignable. Une nouvelle tentative sera faite.</translation>
     </message>
     <message>
         <source>All</source>
@@ -481,7 +481,7 @@ Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</tran
     </message>
     <message>
         <source>Ask again</source>
-        <translation>Redemander</translation>
+        <translation>Réessayer</translation>
     </message>
     <message>
         <source>Dismiss</source>
@@ -505,11 +505,11 @@ Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</tran
     </message>
     <message>
         <source>Clear what is shared</source>
-        <translation>Effacer les partagés</translation>
+        <translation>Effacer les éléments partagés</translation>
     </message>
     <message>
         <source>There is nothing of this kind.</source>
-        <translation>Il n’y a rien de tel.</translation>
+        <translation>Aucun élément de ce type</translation>
     </message>
     <message>
         <source>Nothing is being uploaded. What you share shows up here.</source>
@@ -547,7 +547,7 @@ Votre saisie est toujours là : appuyez sur « Publier » pour réessayer.</tran
     <name>korvane::Settings</name>
     <message>
         <source>The setting could not be written. It holds until this window is closed.</source>
-        <translation>Le réglage n’a pas pu être enregistré. Il vaut jusqu’à la fermeture de cette fenêtre.</translation>
+        <translation>Le réglage n’a pas pu être enregistré. Il reste valable jusqu’à la fermeture de cette fenêtre.</translation>
     </message>
 </context>
 <context>

@@ -27,7 +27,7 @@
     <name>KeysPanel</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1: %2</translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>%1 application keys</source>
@@ -35,7 +35,7 @@
     </message>
     <message>
         <source>Register an application of your own with permission to upload, and copy its two keys here:</source>
-        <translation>アップロードを許可した自分のアプリケーションを登録し、2つのキーをここにコピーしてください:</translation>
+        <translation>アップロード権限のある自分用のアプリケーションを登録し、2つのキーをここにコピーしてください：</translation>
     </message>
     <message>
         <source>Open that page</source>
@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>Consumer key: %1</source>
-        <translation>コンシューマーキー: %1</translation>
+        <translation>コンシューマーキー：%1</translation>
     </message>
     <message>
         <source>The consumer secret is stored.</source>
@@ -100,7 +100,7 @@
     <name>Previews</name>
     <message>
         <source>%1 of %2: %3</source>
-        <translation>%2件中%1件目：%3</translation>
+        <translation>%1 / %2件目：%3</translation>
     </message>
     <message numerus="yes">
         <source>%n photo(s)</source>
@@ -128,7 +128,7 @@
     </message>
     <message>
         <source>Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it fails.</source>
-        <translation>%1アカウント「%2」を削除しますか? 共有済みのものは残りますが、これからアップロードするものは失敗します。</translation>
+        <translation>%1アカウント「%2」を削除しますか？共有済みのものは残りますが、これからアップロードするものは失敗します。</translation>
     </message>
     <message>
         <source>There is no account yet.</source>
@@ -163,11 +163,11 @@
     </message>
     <message>
         <source>Photos at a time</source>
-        <translation>同時にアップロードする写真</translation>
+        <translation>同時にアップロードする写真の枚数</translation>
     </message>
     <message>
         <source>Videos at a time</source>
-        <translation>同時にアップロードするビデオ</translation>
+        <translation>同時にアップロードする動画の本数</translation>
     </message>
     <message>
         <source>Upload over the cellular network</source>
@@ -187,14 +187,14 @@
     </message>
     <message>
         <source>JPEG, PNG and GIF files always go out as they are. Other pictures, and those sent without metadata, are newly encoded.</source>
-        <translation>JPEG、PNG、GIFは常にそのまま送られます。その他の画像と、メタデータなしで送る画像は再エンコードされます。</translation>
+        <translation>JPEG、PNG、GIFのファイルは常にそのままアップロードされます。その他の画像と、メタデータなしで送る画像は再エンコードされます。</translation>
     </message>
 </context>
 <context>
     <name>SharedFile</name>
     <message>
         <source>this is not on this device; copy it here, or open its folder in the file manager first</source>
-        <translation>この端末にありません。ここにコピーするか、先にファイルマネージャーでフォルダを開いてください</translation>
+        <translation>このデバイスにありません。ここにコピーするか、先にファイルマネージャーでフォルダを開いてください</translation>
     </message>
     <message>
         <source>there is no such file</source>
@@ -270,7 +270,7 @@ What you entered is still here: press Post to try again.</source>
     <name>SignInPanel</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1: %2</translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>The account “%1” is ready.</source>
@@ -286,11 +286,11 @@ What you entered is still here: press Post to try again.</source>
     </message>
     <message>
         <source>For a browser on another device: it shows a code that you type here.</source>
-        <translation>別の端末のブラウザー用です。表示されたコードをここに入力します。</translation>
+        <translation>別のデバイスのブラウザー用です。表示されたコードをここに入力します。</translation>
     </message>
     <message>
         <source>To sign in, Korvane first needs the keys of your own application, below.</source>
-        <translation>サインインするには、まず下に自分のアプリケーションのキーが必要です。</translation>
+        <translation>サインインするには、まず下で自分のアプリケーションのキーを登録してください。</translation>
     </message>
     <message>
         <source>Asking %1…</source>
@@ -302,11 +302,11 @@ What you entered is still here: press Post to try again.</source>
     </message>
     <message>
         <source>Open this address, also on another device, allow Korvane to upload, and type the code that is shown:</source>
-        <translation>このアドレスを開き(別の端末でもかまいません)、Korvaneのアップロードを許可して、表示されたコードを入力してください:</translation>
+        <translation>このアドレスを開き（別のデバイスでもかまいません）、Korvaneのアップロードを許可して、表示されたコードを入力してください：</translation>
     </message>
     <message>
         <source>Allow Korvane to upload in the browser that has opened. If none has, open this address on this device:</source>
-        <translation>開いたブラウザーでKorvaneのアップロードを許可してください。開かない場合は、この端末でこのアドレスを開いてください:</translation>
+        <translation>開いたブラウザーでKorvaneのアップロードを許可してください。開かない場合は、このデバイスでこのアドレスを開いてください：</translation>
     </message>
     <message>
         <source>Address of the sign-in page</source>
@@ -326,7 +326,7 @@ What you entered is still here: press Post to try again.</source>
     </message>
     <message>
         <source>Cancel the sign-in</source>
-        <translation>サインインをやめる</translation>
+        <translation>サインインをキャンセル</translation>
     </message>
 </context>
 <context>
@@ -363,15 +363,15 @@ What you entered is still here: press Post to try again.</source>
     </message>
     <message>
         <source>Waiting for the next try</source>
-        <translation>次の試行待ち</translation>
+        <translation>再試行待ち</translation>
     </message>
     <message>
         <source>%1, at the latest %2</source>
-        <translation>%1(遅くとも%2)</translation>
+        <translation>%1（遅くとも%2）</translation>
     </message>
     <message>
         <source>Video without a title</source>
-        <translation>無題のビデオ</translation>
+        <translation>無題の動画</translation>
     </message>
     <message>
         <source>Photo without a title</source>
@@ -395,11 +395,11 @@ What you entered is still here: press Post to try again.</source>
     </message>
     <message>
         <source>No reason was given.</source>
-        <translation>理由は示されていません。</translation>
+        <translation>理由は示されませんでした。</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%2中%1</translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>%1/s</source>
@@ -433,7 +433,7 @@ What you entered is still here: press Post to try again.</source>
     </message>
     <message>
         <source>Nobody knows whether “%1” has arrived. Look on %2 first. Removed here, it is not tried again.</source>
-        <translation>「%1」が届いたかどうか分かりません。まず%2で確かめてください。ここで削除すると再試行されません。</translation>
+        <translation>「%1」が届いたかどうか確認できません。まず%2でご確認ください。ここで削除すると再試行されません。</translation>
     </message>
     <message>
         <source>“%1” has not arrived on %2 yet. Removed here, it is not uploaded.</source>
@@ -448,7 +448,7 @@ What you entered is still here: press Post to try again.</source>
     </message>
     <message>
         <source>The upload service does not answer just now. Uploads it has taken over are not lost.</source>
-        <translation>アップロードサービスが今応答していません。引き受けたものは失われません。</translation>
+        <translation>アップロードサービスが現在応答していません。受け付け済みのアップロードは失われません。</translation>
     </message>
     <message>
         <source>The upload service has ended, since there is nothing left to upload.</source>
@@ -456,7 +456,7 @@ What you entered is still here: press Post to try again.</source>
     </message>
     <message>
         <source>The upload service cannot be reached. It is asked again by and by.</source>
-        <translation>アップロードサービスに接続できません。しばらくしてもう一度試します。</translation>
+        <translation>アップロードサービスに接続できません。しばらくしてから自動的に再試行します。</translation>
     </message>
     <message>
         <source>All</source>
@@ -476,7 +476,7 @@ What you entered is still here: press Post to try again.</source>
     </message>
     <message>
         <source>Ask again</source>
-        <translation>もう一度問い合わせる</translation>
+        <translation>再試行</translation>
     </message>
     <message>
         <source>Dismiss</source>
@@ -492,7 +492,7 @@ What you entered is still here: press Post to try again.</source>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation>%1(%2)</translation>
+        <translation>%1（%2）</translation>
     </message>
     <message>
         <source>Retry all that failed</source>
@@ -500,7 +500,7 @@ What you entered is still here: press Post to try again.</source>
     </message>
     <message>
         <source>Clear what is shared</source>
-        <translation>共有済みを消去</translation>
+        <translation>共有済みをリストから消去</translation>
     </message>
     <message>
         <source>There is nothing of this kind.</source>

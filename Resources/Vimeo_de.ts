@@ -13,11 +13,11 @@
     </message>
     <message>
         <source>NO_VIMEO_ACCOUNT_TITLE</source>
-        <translation>Kein Vimeo-Account</translation>
+        <translation>Kein Vimeo-Konto</translation>
     </message>
     <message>
         <source>NO_VIMEO_ACCOUNT_MESSAGE</source>
-        <translation>Auf diesem Gerät ist noch kein Vimeo-Account eingerichtet. Fügen Sie in den Einstellungen einen hinzu und teilen Sie dann erneut.</translation>
+        <translation>Auf diesem Gerät ist noch kein Vimeo-Konto eingerichtet. Fügen Sie in den Einstellungen eines hinzu und teilen Sie dann erneut.</translation>
     </message>
     <message>
         <source>ADD_DESCRIPTION</source>

@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>VIDEO_SIZE</source>
-        <translation>ビデオサイズ</translation>
+        <translation>動画サイズ</translation>
     </message>
     <message>
         <source>PRVACY_LEVEL</source>

@@ -3,6 +3,7 @@
 
 #include "Korvane/FlickrPost.h"
 #include "Korvane/FlickrResponse.h"
+#include "Platform/Foundation/LocalizedText.h"
 
 #include <QHash>
 #include <QUrlQuery>
@@ -15,17 +16,17 @@ const QString serviceName = QStringLiteral("Flickr");
 // Codes of flickr.com/services/api/upload.api.html; those not listed here are final and have only Flickr's own words.
 QString adviceOnCode(qint64 code) {
     static const QHash<qint64, QString> advice{
-        {4, QStringLiteral("The file was empty. Check it and share it again.")},
-        {5, QStringLiteral("Flickr takes JPEG, PNG, GIF and TIFF pictures.")},
-        {6, QStringLiteral("Your upload limit is used up. Free space on Flickr, then retry.")},
-        {8, QStringLiteral("The file is too large for Flickr.")},
-        {96, QStringLiteral("Sign in again (korvane accounts), then retry.")},
-        {97, QStringLiteral("Sign in again (korvane accounts), then retry.")},
-        {98, QStringLiteral("Sign in again (korvane accounts), then retry.")},
-        {99, QStringLiteral("Sign in again and allow uploads, then retry.")},
-        {100, QStringLiteral("Check the application's key (korvane accounts), then retry.")},
+        {4, localizedText("The file was empty. Check it and share it again.")},
+        {5, localizedText("Flickr takes JPEG, PNG, GIF and TIFF pictures.")},
+        {6, localizedText("Your upload limit is used up. Free space on Flickr, then retry.")},
+        {8, localizedText("The file is too large for Flickr.")},
+        {96, localizedText("Sign in again (korvane accounts), then retry.")},
+        {97, localizedText("Sign in again (korvane accounts), then retry.")},
+        {98, localizedText("Sign in again (korvane accounts), then retry.")},
+        {99, localizedText("Sign in again and allow uploads, then retry.")},
+        {100, localizedText("Check the application's key (korvane accounts), then retry.")},
     };
-    return advice.value(code, QStringLiteral("Change what Flickr objects to and share it again, or retry."));
+    return advice.value(code, localizedText("Change what Flickr objects to and share it again, or retry."));
 }
 
 // Refusals of the OAuth layer come as a form text instead of XML.
@@ -34,13 +35,13 @@ std::optional<Verdict> verdictOnOAuthProblem(const NSError &error) {
     if (!answer.startsWith(QLatin1String("oauth_problem="))) return std::nullopt;
     const QString problem = QUrlQuery(answer).queryItemValue(QStringLiteral("oauth_problem"));
     if (problem == QLatin1String("nonce_used"))
-        return Verdict::waiting(WaitReason::NextTry, error, QStringLiteral("Flickr asks to send the request again."));
+        return Verdict::waiting(WaitReason::NextTry, error, localizedText("Flickr asks to send the request again."));
     if (problem == QLatin1String("timestamp_refused"))
         return Verdict::failed(
-            error, QStringLiteral("Flickr refused the request's time. Set this device's clock, then retry."));
+            error, localizedText("Flickr refused the request's time. Set this device's clock, then retry."));
     return Verdict::failed(
-        error, QStringLiteral("Flickr does not accept the sign-in (%1). Sign in again (korvane accounts), then retry.")
-                   .arg(shownAnswer(problem)));
+        error, localizedText("Flickr does not accept the sign-in (%1). Sign in again (korvane accounts), then retry.",
+                             shownAnswer(problem)));
 }
 
 Verdict verdictOnAnswer(const NSError &error, int status) {
@@ -49,15 +50,13 @@ Verdict verdictOnAnswer(const NSError &error, int status) {
     const QString message = shownAnswer(error.localizedDescription());
     if (error.code() == 105 || error.code() == 106)
         return Verdict::waiting(WaitReason::NextTry, error,
-                                QStringLiteral("Flickr is not available just now: %1").arg(message));
+                                localizedText("Flickr is not available just now: %1", message));
     const bool saysNothing = error.code() == 0 && !error.userInfo().contains(NSLocalizedDescriptionKey);
     if (error.code() == -1 || saysNothing)
-        return Verdict::failed(
-            error, QStringLiteral("Flickr's answer was not understood (HTTP status %1). Retry later.").arg(status));
-    return Verdict::failed(error, QStringLiteral("Flickr refused the photo: %1 (code %2). %3")
-                                      .arg(message)
-                                      .arg(error.code())
-                                      .arg(adviceOnCode(error.code())));
+        return Verdict::failed(error, localizedText("Flickr's answer was not understood (HTTP status %1). Retry later.",
+                                                    QString::number(status)));
+    return Verdict::failed(error, localizedText("Flickr refused the photo: %1 (code %2). %3", message,
+                                                QString::number(error.code()), adviceOnCode(error.code())));
 }
 
 // The upload code reports success once the photo is on Flickr, whatever became of its place in the photo set; a set
@@ -66,13 +65,15 @@ Verdict verdictOnPhotoSet(const RunOutcome &outcome) {
     const auto &request = outcome.lastRequest;
     if (outcome.photoID == 0)
         return {}; // an "ok" without an id: nothing could be asked for without sending the photo again
-    const QString text = QStringLiteral("The photo is on Flickr; adding it to its album is still to be done. %1");
+    const auto undone = [](const NSError &reason) {
+        return localizedText("The photo is on Flickr; adding it to its album is still to be done. %1",
+                             reason.localizedDescription());
+    };
     if (request.transportError)
-        return Verdict::waiting(WaitReason::Network, *request.transportError,
-                                text.arg(request.transportError->localizedDescription()));
+        return Verdict::waiting(WaitReason::Network, *request.transportError, undone(*request.transportError));
     const NSError error(FlickrResponseErrorDomain, -1);
     if (const auto trouble = Verdict::onServerTrouble(error, request.httpStatus, serviceName))
-        return Verdict::waiting(WaitReason::NextTry, error, text.arg(trouble->error->localizedDescription()));
+        return Verdict::waiting(WaitReason::NextTry, error, undone(*trouble->error));
     return {};
 }
 
@@ -86,7 +87,7 @@ Verdict FailureClassifier::verdictOnFlickrRun(const RunOutcome &outcome, bool wa
     if (error.domain() == FlickrResponseErrorDomain) return verdictOnAnswer(error, outcome.lastRequest.httpStatus);
     if (error.domain() == FlickrPostErrorDomain)
         return Verdict::failed(
-            error, QStringLiteral("The photo is no longer in the photo library. Share it again from where it is now."));
+            error, localizedText("The photo is no longer in the photo library. Share it again from where it is now."));
     return Verdict::failed(error);
 }
 

@@ -2,6 +2,7 @@
 #include "Service/JobAccount.h"
 
 #include "Platform/Accounts/ACAccountStore.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Service/JobError.h"
 
 #include <algorithm>
@@ -21,9 +22,9 @@ std::shared_ptr<ACAccount> accountOfJob(const UploadJob &job, const ACAccountSto
 }
 
 RunOutcome withoutAccount(const UploadJob &job) {
-    const QString text = QStringLiteral("There is no usable sign-in for the %1 account of %2, from which this was "
-                                        "shared. Add it with: korvane accounts add %3")
-                             .arg(nameOfService(job.service), job.accountName, job.service);
+    const QString text = localizedText("There is no usable sign-in for the %1 account of %2, from which this was "
+                                       "shared. Add it with: korvane accounts add %3",
+                                       nameOfService(job.service), job.accountName, job.service);
     return {RunOutcome::NoAccount, jobError(JobErrorNoAccount, text)};
 }
 

@@ -1,6 +1,8 @@
 // Desktop notifications of what became of uploads.
 #include "Service/Notifier.h"
 
+#include "Platform/Foundation/LocalizedText.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -38,15 +40,15 @@ void Notifier::uploadFinished(const UploadJob &job) {
 
 void Notifier::_tell() {
     for (const auto &[service, tally] : _tallies) {
-        const QString what = service == flickrServiceID ? QStringLiteral("photo") : QStringLiteral("video");
-        const auto counted = [&](int count) {
-            return count == 1 ? QStringLiteral("1 ") + what : QStringLiteral("%1 %2s").arg(count).arg(what);
-        };
+        const bool isPhoto = service == flickrServiceID;
         if (tally.done > 0)
-            _notify(QStringLiteral("%1 shared to %2").arg(counted(tally.done), nameOfService(service)),
+            _notify(isPhoto ? localizedCount("%n photo(s) shared to Flickr", tally.done)
+                            : localizedCount("%n video(s) shared to Vimeo", tally.done),
                     tally.done == 1 ? tally.lastTitle : QString());
         if (tally.failed > 0)
-            _notify(QStringLiteral("%1 could not be shared").arg(counted(tally.failed)), tally.lastReason);
+            _notify(isPhoto ? localizedCount("%n photo(s) could not be shared", tally.failed)
+                            : localizedCount("%n video(s) could not be shared", tally.failed),
+                    tally.lastReason);
     }
     _tallies.clear();
 }
@@ -56,7 +58,7 @@ void Notifier::_notify(const QString &summary, const QString &body) {
     QStringList actions;
     if (_showUploads)
         for (const QString &action : {QStringLiteral("default"), QStringLiteral("show-uploads")})
-            actions += {action, QStringLiteral("Show uploads")};
+            actions += {action, localizedText("Show uploads")};
     // The body is markup to some servers: titles must not be.
     call.setArguments({QStringLiteral("Korvane"), 0U, QStringLiteral("korvane"), summary, body.toHtmlEscaped(), actions,
                        QVariantMap{{QStringLiteral("desktop-entry"), QStringLiteral("korvane-sheet")}}, -1});

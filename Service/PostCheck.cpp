@@ -3,6 +3,7 @@
 
 #include "Platform/AssetsLibrary/AssetLocation.h"
 #include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/MobileCoreServices/UTType.h"
 #include "Service/JobError.h"
 
@@ -28,7 +29,7 @@ bool isSameFile(const std::optional<FileIdentity> &now, const std::optional<File
 
 NSError changedError(const QString &name) {
     return jobError(JobErrorFileChanged,
-                    QStringLiteral("The file %1 has changed since it was shared. Share it again.").arg(name));
+                    localizedText("The file %1 has changed since it was shared. Share it again.", name));
 }
 
 // data: the file, opened.
@@ -38,11 +39,11 @@ std::optional<PostCheck::Objection> objectionToFile(const NSURL &url, const Uplo
     std::optional<NSError> error;
     const auto contents = NSData::dataWithContentsOfURL(url, &error);
     if (!contents)
-        return objectionWithText(JobErrorFileUnreadable,
-                                 QStringLiteral("The file cannot be read (%1). Bring it back, then retry.")
-                                     .arg(error->localizedDescription()));
+        return objectionWithText(
+            JobErrorFileUnreadable,
+            localizedText("The file cannot be read (%1). Bring it back, then retry.", error->localizedDescription()));
     if (contents->length() == 0)
-        return objectionWithText(JobErrorFileEmpty, QStringLiteral("The file %1 is empty.").arg(name));
+        return objectionWithText(JobErrorFileEmpty, localizedText("The file %1 is empty.", name));
     if (!isSameFile(contents->identity(), job.source)) return PostCheck::Objection{changedError(name)};
     if (data) *data = contents;
     return std::nullopt;
@@ -64,28 +65,29 @@ std::optional<PostCheck::Objection> objectionToAsset(const NSURL &url) {
     auto file = std::make_shared<FileDescriptor>(location ? location->open() : FileDescriptor());
     if (!*file) return std::nullopt;
     if (!hasRoomToEncode(FileIdentity::ofDescriptor(file->get()).value_or(FileIdentity{}).size))
-        return objectionWithText(JobErrorNoRoom, QStringLiteral("There is no room to convert %1 in %2.")
-                                                     .arg(QFile::decodeName(location->path), NSTemporaryDirectory()));
+        return objectionWithText(JobErrorNoRoom,
+                                 localizedText("There is no room to convert %1 in %2.",
+                                               QFile::decodeName(location->path), NSTemporaryDirectory()));
     if (!UTTypeConformsTo(typeIdentifierForData(NSData::dataWithFile(file, 0, typeProbe)), kUTTypeMovie))
         return std::nullopt;
-    return objectionWithText(
-        JobErrorNoPicture, QStringLiteral("%1 is a video. Share it to Vimeo.").arg(QFile::decodeName(location->path)));
+    return objectionWithText(JobErrorNoPicture,
+                             localizedText("%1 is a video. Share it to Vimeo.", QFile::decodeName(location->path)));
 }
 
-// what: "photo" or "video".
+// what: "photo" or "video", in the user's language.
 std::optional<PostCheck::Objection> objectionToData(const std::optional<NSData> &data, const UploadJob &job,
                                                     const QString &what) {
     if (!data && job.spoolFile.isEmpty())
         return objectionWithText(JobErrorNothingToUpload,
-                                 QStringLiteral("The post holds no %1. Share the %1 again.").arg(what));
+                                 localizedText("The post holds no %1. Share the %1 again.", what));
     if (!data)
         return objectionWithText(JobErrorDataLost,
-                                 QStringLiteral("The %1's data is gone from this device. Share it again.").arg(what));
-    if (data->length() == 0) return objectionWithText(JobErrorFileEmpty, QStringLiteral("The %1 is empty.").arg(what));
+                                 localizedText("The %1's data is gone from this device. Share it again.", what));
+    if (data->length() == 0) return objectionWithText(JobErrorFileEmpty, localizedText("The %1 is empty.", what));
     const auto file = data->file() ? FileIdentity::ofDescriptor(data->file()->get()) : std::nullopt;
     if (file && file->size < data->fileOffset() + data->length())
         return objectionWithText(JobErrorDataLost,
-                                 QStringLiteral("The %1's data was damaged on this device. Share it again.").arg(what));
+                                 localizedText("The %1's data was damaged on this device. Share it again.", what));
     return std::nullopt;
 }
 
@@ -99,7 +101,7 @@ std::optional<PostCheck::Objection> PostCheck::prepare(FlickrPost &post, const U
     const QString scheme = post.assetURL ? post.assetURL->scheme() : QString();
     if (post.photoID != 0) return std::nullopt;
     if (scheme == QLatin1String("assets-library")) return objectionToAsset(*post.assetURL);
-    if (scheme != QLatin1String("file")) return objectionToData(post.photoData, job, QStringLiteral("photo"));
+    if (scheme != QLatin1String("file")) return objectionToData(post.photoData, job, localizedText("photo"));
     if (const auto objection = objectionToFile(*post.assetURL, job, &post.photoData)) return objection;
     post.assetURL.reset();
     return std::nullopt;
@@ -109,11 +111,11 @@ std::optional<PostCheck::Objection> PostCheck::prepare(const VimeoPost &post, co
     const QString scheme = post.assetURL ? post.assetURL->scheme() : QString();
     if (!post.title || post.title->isEmpty())
         return objectionWithText(JobErrorNoTitle,
-                                 QStringLiteral("A video on Vimeo needs a title. Share it again with one."));
+                                 localizedText("A video on Vimeo needs a title. Share it again with one."));
     if (job.video && job.video->videoID.isValid()) return std::nullopt; // its bytes are there
     if (scheme == QLatin1String("assets-library")) return std::nullopt; // the export says what is wrong with it
     if (scheme == QLatin1String("file")) return objectionToFile(*post.assetURL, job);
-    return objectionToData(post.assetData, job, QStringLiteral("video"));
+    return objectionToData(post.assetData, job, localizedText("video"));
 }
 
 std::optional<NSError> PostCheck::objectionToChange(const VimeoPost &post, const UploadJob &job) {

@@ -1,6 +1,7 @@
 // A message bus of the service's own, where the environment has none.
 #include "Service/PrivateBus.h"
 
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Social/RemoteServiceError.h"
 #include "Platform/Social/SessionBus.h"
 
@@ -38,9 +39,8 @@ std::optional<QString> PrivateBus::start(std::optional<NSError> *error) {
                   {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
                    QStringLiteral("--address=unix:path=") + socket, QStringLiteral("--print-address")});
     if (_daemon.waitForReadyRead(startMilliseconds)) return QString::fromLocal8Bit(_daemon.readLine()).trimmed();
-    setError(error,
-             NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorUnreachable,
-                                           QStringLiteral("dbus-daemon could not be started at %1").arg(socket)));
+    setError(error, NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorUnreachable,
+                                                  localizedText("dbus-daemon could not be started at %1", socket)));
     return std::nullopt;
 }
 

@@ -2,6 +2,7 @@
 #include "Service/Spool.h"
 
 #include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/LocalizedText.h"
 
 #include <QDir>
 #include <QFile>
@@ -23,8 +24,8 @@ std::optional<QString> Spool::adopt(int file, std::optional<NSError> *error) con
     const QByteArray path = _pathOf(name);
     const FileDescriptor folder(::open(QFile::encodeName(_folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if ((_link(file, path) || _copy(file, path)) && ::fsync(folder.get()) == 0) return name;
-    setError(error, NSError::errorWithErrno(
-                        errno, QStringLiteral("The data to be shared cannot be stored in %1").arg(_folder)));
+    setError(error,
+             NSError::errorWithErrno(errno, localizedText("The data to be shared cannot be stored in %1", _folder)));
     ::unlink(path.constData());
     return std::nullopt;
 }

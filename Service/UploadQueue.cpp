@@ -3,6 +3,7 @@
 
 #include "Korvane/KRRemoteSession.h"
 #include "Platform/Accounts/ACAccountStore.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/NSLog.h"
 #include "Platform/Preferences/KorvaneSettings.h"
 #include "Platform/Social/RemoteServiceError.h"
@@ -59,7 +60,7 @@ void UploadQueue::_recover(UploadJob &job, bool fatalDeath) {
     job.state = UploadState::Queued;
     if (fatalDeath && ++job.deaths > 1) {
         NSLog("Upload %lli was set aside: the service ended fatally while it ran, twice.", job.id);
-        const QString text = QStringLiteral(
+        const QString text = localizedText(
             "The upload service ended unexpectedly each time it tried this upload, so it was set aside. Check the "
             "file, then retry or remove the upload.");
         job.state = UploadState::Failed;
@@ -81,7 +82,7 @@ void UploadQueue::takeOver(const QString &service, const QVariantList &records, 
                            const XPCTransferCompletion &reply) {
     if (records.isEmpty())
         return reply(false, NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNothingToShare,
-                                                          QStringLiteral("There is nothing to share.")));
+                                                          localizedText("There is nothing to share.")));
     ++_takeOvers;
     // Large data takes its time to reach the disk; the queue goes on meanwhile.
     dispatchGlobal([=, this] {
@@ -177,8 +178,8 @@ bool UploadQueue::_pinAccount(UploadJob &job) {
 }
 
 void UploadQueue::_waitForSignIn(UploadJob &job) {
-    const QString text = QStringLiteral("There is no %1 account. Add one with: korvane accounts add %2")
-                             .arg(nameOfService(job.service), job.service);
+    const QString text = localizedText("There is no %1 account. Add one with: korvane accounts add %2",
+                                       nameOfService(job.service), job.service);
     _apply({UploadState::Waiting, WaitReason::SignIn,
             NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable, text)},
            job);
@@ -274,9 +275,9 @@ void UploadQueue::_wait(UploadJob &job, const Verdict &verdict) {
     ++job.failures;
     if (job.failingSince == 0) job.failingSince = now();
     if (verdict.waitReason != WaitReason::SignIn && now() - job.failingSince > _policy.giveUpAfter) {
-        const QString text = QStringLiteral("Given up after %1 hours of trying. Last: %2 Retry when it is better.")
-                                 .arg(_policy.giveUpAfter / 3'600'000)
-                                 .arg(verdict.error->localizedDescription());
+        const QString text =
+            localizedText("Given up after %1 hours of trying. Last: %2 Retry when it is better.",
+                          QString::number(_policy.giveUpAfter / 3'600'000), verdict.error->localizedDescription());
         job.error = NSError::errorWithDescription(verdict.error->domain(), verdict.error->code(), text);
         job.state = UploadState::Failed;
         job.waitReason = WaitReason::None;

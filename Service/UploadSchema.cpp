@@ -34,16 +34,10 @@ const QStringList schema{
     QStringLiteral("CREATE TABLE settings (name TEXT PRIMARY KEY, value INTEGER NOT NULL)"),
 };
 
-const QStringList fromVersion1{
-    QStringLiteral("ALTER TABLE uploads ADD COLUMN export TEXT NOT NULL DEFAULT ''"),
-    QStringLiteral("ALTER TABLE uploads ADD COLUMN video BLOB"),
-};
-
 } // namespace
 
-QStringList UploadSchema::statementsFrom(int version) {
-    if (version == 0) return schema;
-    return version == 1 ? fromVersion1 : QStringList();
+const QStringList &UploadSchema::statements() {
+    return schema;
 }
 
 } // namespace korvane

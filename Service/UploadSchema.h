@@ -9,8 +9,8 @@ namespace UploadSchema {
 
 inline constexpr int version = 2;
 
-// What brings a database of an earlier version up to date, 0 being an empty one; empty for a version that is not known.
-QStringList statementsFrom(int version);
+// What makes an empty database one of this version.
+const QStringList &statements();
 
 } // namespace UploadSchema
 

@@ -8,13 +8,13 @@
 #include "Platform/Social/SessionBus.h"
 #include "Platform/SystemConfiguration/NetworkWatch.h"
 #include "Service/DeathMarker.h"
+#include "Service/UploadsWindow.h"
 
 #include <QCoreApplication>
 #include <QDBusConnectionInterface>
 #include <QDBusError>
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QThread>
 
 #include <sys/file.h>
@@ -35,11 +35,11 @@ constexpr auto stopLimit = 45s;  // a commit may have to be waited for
 constexpr int lockAttempts = 50; // a service that is just ending lets go within seconds
 constexpr int lockAttemptMilliseconds = 100;
 
-// Opens the window's page of uploads; null where the window is not installed.
+// Null where the window is not installed.
 std::function<void()> uploadsPage() {
     const QString program = QFile::decodeName(pathOfProgram("korvane-sheet"));
     if (program.isEmpty()) return {};
-    return [program] { QProcess::startDetached(program, {QStringLiteral("--uploads")}); };
+    return [program] { UploadsWindow::open(program); };
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // The durable queue: uploads in an SQLite database.
 #include "Service/UploadStore.h"
 
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/NSLog.h"
 #include "Platform/Social/RemoteServiceError.h"
 #include "Service/UploadRow.h"
@@ -57,14 +58,14 @@ bool UploadStore::open(const QString &path, std::optional<NSError> *error) {
         return fail(QStringLiteral(
             "it is damaged. Move it away to begin a new queue; the data of its posts stands in the spool beside it"));
     }
-    const QStringList statements = UploadSchema::statementsFrom(found);
-    if (statements.isEmpty()) return fail(QStringLiteral("it was written by another version of Korvane"));
-    return _bringUpToDate(statements) || fail(_errorText);
+    if (found != 0) return fail(QStringLiteral("it was written by another version of Korvane"));
+    return _makeTables() || fail(_errorText);
 }
 
-bool UploadStore::_bringUpToDate(const QStringList &statements) {
+bool UploadStore::_makeTables() {
     _database.transaction();
-    return std::ranges::all_of(statements, [this](const QString &statement) { return _exec(statement); }) &&
+    return std::ranges::all_of(UploadSchema::statements(),
+                               [this](const QString &statement) { return _exec(statement); }) &&
            _exec(QStringLiteral("PRAGMA user_version=%1").arg(UploadSchema::version)) && _database.commit();
 }
 
@@ -295,7 +296,7 @@ void UploadStore::_setDurable(bool durable) {
 
 NSError UploadStore::_lastError() const {
     return NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable,
-                                         QStringLiteral("The upload queue cannot be written: %1").arg(_errorText));
+                                         localizedText("The upload queue cannot be written: %1", _errorText));
 }
 
 } // namespace korvane

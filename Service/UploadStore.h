@@ -86,7 +86,7 @@ private:
     bool _exec(const QString &statement);
     std::vector<UploadJob> _select(const QString &condition, const QVariantList &values);
     void _setDurable(bool durable);
-    bool _bringUpToDate(const QStringList &statements);
+    bool _makeTables();
     bool _isSound();
     NSError _lastError() const;
 

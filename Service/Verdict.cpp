@@ -1,6 +1,7 @@
 // What becomes of an upload after a run, and what is judged alike for all web services.
 #include "Service/Verdict.h"
 
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/NSLog.h"
 
 namespace korvane {
@@ -44,17 +45,17 @@ Verdict Verdict::onTransport(const NSError &error, const QString &service) {
     case NSURLErrorNetworkConnectionLost:
     case NSURLErrorTimedOut:
         return waiting(WaitReason::Network, error,
-                       QStringLiteral("%1 cannot be reached: %2").arg(service, error.localizedDescription()));
+                       localizedText("%1 cannot be reached: %2", service, error.localizedDescription()));
     default:
         return waiting(WaitReason::NextTry, error,
-                       QStringLiteral("The connection to %1 failed: %2").arg(service, error.localizedDescription()));
+                       localizedText("The connection to %1 failed: %2", service, error.localizedDescription()));
     }
 }
 
 std::optional<Verdict> Verdict::onServerTrouble(const NSError &error, int status, const QString &service) {
     if (!isServerTrouble(status)) return std::nullopt;
     return waiting(WaitReason::NextTry, error,
-                   QStringLiteral("%1 is in trouble (HTTP status %2).").arg(service).arg(status));
+                   localizedText("%1 is in trouble (HTTP status %2).", service, QString::number(status)));
 }
 
 bool isServerTrouble(int status) {

@@ -2,6 +2,7 @@
 #include "Service/VerifyWatch.h"
 
 #include "Korvane/VimeoPost.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Service/FailureClassifier.h"
 #include "Service/JobError.h"
 
@@ -18,19 +19,19 @@ Verdict verdictOnRefusedVerify(const UploadContext::Snapshot &request) {
     if (request.httpStatus == 401 || request.httpStatus == 403)
         return FailureClassifier::verdictOnVimeoRun(
             {RunOutcome::Finished, NSError(VimeoPublishPostErrorDomain, VimeoPostErrorServiceCode401), request});
-    return Verdict::waiting(
-        WaitReason::NextTry, NSError(VimeoPublishPostErrorDomain, VimeoPostErrorBadResponse),
-        QStringLiteral("Vimeo did not say how much of the video it has (HTTP status %1).").arg(request.httpStatus));
+    return Verdict::waiting(WaitReason::NextTry, NSError(VimeoPublishPostErrorDomain, VimeoPostErrorBadResponse),
+                            localizedText("Vimeo did not say how much of the video it has (HTTP status %1).",
+                                          QString::number(request.httpStatus)));
 }
 
 NSError senselessCountError() {
     return jobError(JobErrorSenselessCount,
-                    QStringLiteral("Vimeo says that it has more of the video than there is. Retry later."));
+                    localizedText("Vimeo says that it has more of the video than there is. Retry later."));
 }
 
 NSError stuckError() {
     return jobError(JobErrorStuck,
-                    QStringLiteral("Vimeo takes the video's parts but stores nothing of them. Retry later."));
+                    localizedText("Vimeo takes the video's parts but stores nothing of them. Retry later."));
 }
 
 } // namespace

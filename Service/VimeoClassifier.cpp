@@ -3,6 +3,7 @@
 
 #include "Korvane/VimeoPost.h"
 #include "Platform/AVFoundation/AVError.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/NSJSONSerialization.h"
 #include "Platform/Foundation/NSNumber.h"
 
@@ -29,27 +30,26 @@ QString wordsOf(const QVariantMap &refusal) {
 Verdict verdictOnBadAnswer(const NSError &error, const UploadContext::Snapshot &request) {
     const QVariantMap refusal = refusalIn(request);
     if (refusal.isEmpty())
-        return Verdict::failed(
-            error,
-            QStringLiteral("Vimeo's answer was not understood (HTTP status %1). Retry later.").arg(request.httpStatus));
-    return Verdict::failed(error, QStringLiteral("Vimeo refused the video: %1 (code %2). Retry, or share it again.")
-                                      .arg(wordsOf(refusal), refusal.value(QStringLiteral("code")).toString()));
+        return Verdict::failed(error, localizedText("Vimeo's answer was not understood (HTTP status %1). Retry later.",
+                                                    QString::number(request.httpStatus)));
+    return Verdict::failed(error, localizedText("Vimeo refused the video: %1 (code %2). Retry, or share it again.",
+                                                wordsOf(refusal), refusal.value(QStringLiteral("code")).toString()));
 }
 
 Verdict verdictOnPostError(const NSError &error, const UploadContext::Snapshot &request) {
     switch (error.code()) {
     case VimeoPostErrorServiceCode401:
-        return Verdict::failed(error, QStringLiteral("Vimeo does not accept the sign-in (%1). Sign in again (korvane "
-                                                     "accounts), check this device's clock, then retry.")
-                                          .arg(wordsOf(refusalIn(request))));
+        return Verdict::failed(error, localizedText("Vimeo does not accept the sign-in (%1). Sign in again (korvane "
+                                                    "accounts), check this device's clock, then retry.",
+                                                    wordsOf(refusalIn(request))));
     case VimeoPostErrorServiceCode708:
-        return Verdict::waiting(WaitReason::NextTry, error, QStringLiteral("Vimeo asks to send the video again."));
+        return Verdict::waiting(WaitReason::NextTry, error, localizedText("Vimeo asks to send the video again."));
     case VimeoPostErrorQuotaExceeded:
-        return Verdict::failed(error, QStringLiteral("The video is larger than the space that is free on Vimeo. Free "
-                                                     "space there, or share a smaller one."));
+        return Verdict::failed(error, localizedText("The video is larger than the space that is free on Vimeo. Free "
+                                                    "space there, or share a smaller one."));
     case VimeoPostErrorNoSDQuota:
-        return Verdict::failed(error, QStringLiteral("The Vimeo account can take no more videos just now. Retry when "
-                                                     "its quota is renewed."));
+        return Verdict::failed(error, localizedText("The Vimeo account can take no more videos just now. Retry when "
+                                                    "its quota is renewed."));
     default:
         return verdictOnBadAnswer(error, request);
     }
@@ -59,13 +59,13 @@ Verdict verdictOnPostError(const NSError &error, const UploadContext::Snapshot &
 QString missingOf(const VimeoPost &post) {
     QStringList missing;
     if (post.uploadState() < VimeoUploadStateSettingDescription) {
-        missing.append(QStringLiteral("title"));
-        if (post.postDescription) missing.append(QStringLiteral("description"));
+        missing.append(localizedText("title"));
+        if (post.postDescription) missing.append(localizedText("description"));
     }
-    if (post.uploadState() < VimeoUploadStateSettingPrivacy && post.tags) missing.append(QStringLiteral("tags"));
-    missing.append(QStringLiteral("privacy setting"));
+    if (post.uploadState() < VimeoUploadStateSettingPrivacy && post.tags) missing.append(localizedText("tags"));
+    missing.append(localizedText("privacy setting"));
     const QString last = missing.takeLast();
-    return missing.isEmpty() ? last : missing.join(QStringLiteral(", ")) + QStringLiteral(" and ") + last;
+    return missing.isEmpty() ? last : localizedText("%1 and %2", missing.join(localizedText(", ")), last);
 }
 
 Verdict verdictOnExport(const NSError &error) {
@@ -96,20 +96,21 @@ Verdict FailureClassifier::verdictAfterCommit(const RunOutcome &outcome, const V
     const QVariantMap refusal = refusalIn(outcome.lastRequest);
     const bool isRefused = verdict.state == UploadState::Failed && !refusal.isEmpty() &&
                            verdict.error->code() != VimeoPostErrorServiceCode401;
-    const QString reason = isRefused ? QStringLiteral("Vimeo refused it: %1 (code %2). Retry.")
-                                           .arg(wordsOf(refusal), refusal.value(QStringLiteral("code")).toString())
+    const QString reason = isRefused ? localizedText("Vimeo refused it: %1 (code %2). Retry.", wordsOf(refusal),
+                                                     refusal.value(QStringLiteral("code")).toString())
                                      : verdict.error->localizedDescription();
-    QString text = QStringLiteral("The video is on Vimeo, but without its %1. %2").arg(missingOf(post), reason);
-    if (post.privacySettings != VimeoPrivacyPublic) text += QStringLiteral(" Until then others may see the video.");
+    QString text = localizedText("The video is on Vimeo, but without its %1. %2", missingOf(post), reason);
+    if (post.privacySettings != VimeoPrivacyPublic)
+        text += u' ' + localizedText("Until then others may see the video.");
     verdict.error = NSError::errorWithDescription(verdict.error->domain(), verdict.error->code(), text);
     return verdict;
 }
 
 Verdict FailureClassifier::verdictOnDeadEndpoint(const NSError &error) {
     return Verdict::waiting(WaitReason::NextTry, error,
-                            QStringLiteral("The server that Vimeo named for this video cannot be reached: %1 Vimeo "
-                                           "will be asked for another one.")
-                                .arg(error.localizedDescription()));
+                            localizedText("The server that Vimeo named for this video cannot be reached: %1 Vimeo "
+                                          "will be asked for another one.",
+                                          error.localizedDescription()));
 }
 
 FailureClassifier::CommitFate FailureClassifier::fateOfCommit(const UploadContext::Snapshot &request) {
@@ -124,14 +125,14 @@ FailureClassifier::CommitFate FailureClassifier::fateOfCommit(const UploadContex
 
 Verdict FailureClassifier::verdictOnUnansweredCommit() {
     return Verdict::failed(NSError(VimeoPublishPostErrorDomain, VimeoPostErrorEmptyResponse),
-                           QStringLiteral("Vimeo did not say whether it has the whole video: the video may be on "
-                                          "Vimeo; look there, then retry or remove."));
+                           localizedText("Vimeo did not say whether it has the whole video: the video may be on "
+                                         "Vimeo; look there, then retry or remove."));
 }
 
 Verdict FailureClassifier::verdictOnUnrecordedCommit() {
     return Verdict::waiting(WaitReason::NextTry, NSError(NSPOSIXErrorDomain, ENOSPC),
-                            QStringLiteral("The whole video is at Vimeo, but the upload queue cannot be written. Make "
-                                           "room on the disk; it goes on by itself."));
+                            localizedText("The whole video is at Vimeo, but the upload queue cannot be written. Make "
+                                          "room on the disk; it goes on by itself."));
 }
 
 } // namespace korvane

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs what building, testing and trying out Korvane need on Debian 12: scripts/setup.sh [MORE PACKAGES...]
-# Quick when nothing is missing.
+# Quick when nothing is missing. Daily use asks for two more: qt6-wayland where the desktop is a Wayland one, and
+# fonts-noto-cjk for Japanese titles and texts.
 set -euo pipefail
 
 packages=(

@@ -5,6 +5,7 @@
 #include "Platform/AVFoundation/ExportPlan.h"
 #include "Platform/AVFoundation/ExportProgress.h"
 #include "Platform/AVFoundation/MediaProgram.h"
+#include "Platform/Foundation/LocalizedText.h"
 
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -27,15 +28,15 @@ constexpr std::chrono::milliseconds longestLook(1000);
 constexpr float almostDone = 0.999F;
 
 NSError damaged(const QString &name) {
-    return avError(AVErrorFileFailedToParse, QStringLiteral("“%1” ends too early: it is damaged or incomplete. Check "
-                                                            "that it plays to its end, or copy it again from where "
-                                                            "it was made.")
-                                                 .arg(name));
+    return avError(AVErrorFileFailedToParse, localizedText("“%1” ends too early: it is damaged or incomplete. Check "
+                                                           "that it plays to its end, or copy it again from where "
+                                                           "it was made.",
+                                                           name));
 }
 
 NSError notUnderstood(const QString &name) {
     return avError(AVErrorExportFailed,
-                   QStringLiteral("What ffmpeg says of “%1” is not understood. Check the package “ffmpeg”.").arg(name));
+                   localizedText("What ffmpeg says of “%1” is not understood. Check the package “ffmpeg”.", name));
 }
 
 // Whether a program that failed to copy did not blame the source.
@@ -126,10 +127,10 @@ std::optional<NSError> AVAssetExportSession::_export() {
 std::optional<NSError> AVAssetExportSession::_checkRequest() const {
     if (_asset.error) return _asset.error;
     if (_outputFileType != AVFileTypeMPEG4)
-        return avError(AVErrorInvalidOutputURLParameter, QStringLiteral("Only MP4 files can be exported."));
+        return avError(AVErrorInvalidOutputURLParameter, localizedText("Only MP4 files can be exported."));
     if (!_outputURL || !_outputURL->isFileURL() || _outputURL->fileSystemRepresentation().contains('\0'))
         return avError(AVErrorInvalidOutputURLParameter,
-                       QStringLiteral("There is no file to export “%1” to.").arg(_asset.name));
+                       localizedText("There is no file to export “%1” to.", _asset.name));
     return std::nullopt;
 }
 
@@ -138,7 +139,7 @@ std::optional<NSError> AVAssetExportSession::_claimOutput() {
     const FileDescriptor earlier(::open(path.constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
     if (earlier && ::flock(earlier.get(), LOCK_EX | LOCK_NB) != 0)
         return avError(AVErrorFileAlreadyExists,
-                       QStringLiteral("Another export writes to %1. Try again.").arg(_outputURL->path()));
+                       localizedText("Another export writes to %1. Try again.", _outputURL->path()));
     if (earlier) ::unlink(path.constData());
     FileDescriptor output(::open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (!output && (errno == ENOSPC || errno == EDQUOT)) return diskFullError(_asset.name);
@@ -186,7 +187,7 @@ std::optional<NSError> AVAssetExportSession::_checkOutput(const MediaInfo &info,
     if (!_asset.file->isIntact())
         return avError(
             AVErrorContentIsUnavailable,
-            QStringLiteral("“%1” was changed while it was exported. Try again when it is complete.").arg(_asset.name));
+            localizedText("“%1” was changed while it was exported. Try again when it is complete.", _asset.name));
     struct stat status;
     if (::fstat(_output.get(), &status) != 0 || status.st_size == 0 || microsecondsWritten == 0)
         return damaged(_asset.name);

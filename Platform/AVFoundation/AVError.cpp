@@ -1,6 +1,8 @@
 // Errors of reading and exporting videos.
 #include "Platform/AVFoundation/AVError.h"
 
+#include "Platform/Foundation/LocalizedText.h"
+
 namespace korvane {
 
 const QString AVFoundationErrorDomain = QStringLiteral("AVFoundationErrorDomain");
@@ -12,12 +14,12 @@ NSError avError(AVErrorCode code, const QString &text) {
 NSError diskFullError(const QString &name) {
     return avError(
         AVErrorDiskFull,
-        QStringLiteral("There is not enough disk space to export “%1”. Free some space and try again.").arg(name));
+        localizedText("There is not enough disk space to export “%1”. Free some space and try again.", name));
 }
 
 NSError exportCancelledError() {
     return NSError::errorWithDescription(NSURLErrorDomain, NSURLErrorCancelled,
-                                         QStringLiteral("the export was cancelled"));
+                                         localizedText("the export was cancelled"));
 }
 
 } // namespace korvane

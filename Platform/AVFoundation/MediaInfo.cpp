@@ -3,6 +3,7 @@
 
 #include "Platform/AVFoundation/AVError.h"
 #include "Platform/AVFoundation/MediaProgram.h"
+#include "Platform/Foundation/LocalizedText.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -98,9 +99,9 @@ void deduceBitRate(MediaInfo &info) {
 
 NSError notRecognized(const AVAsset &asset) {
     return avError(AVErrorFileFormatNotRecognized,
-                   QStringLiteral("“%1” is not a video that can be read: it is damaged, incomplete or of an unknown "
-                                  "format. Check that it plays, or choose another file.")
-                       .arg(asset.name));
+                   localizedText("“%1” is not a video that can be read: it is damaged, incomplete or of an unknown "
+                                 "format. Check that it plays, or choose another file.",
+                                 asset.name));
 }
 
 // What ffprobe writes. Null, with the error placed, if it fails.
@@ -119,8 +120,13 @@ std::optional<QByteArray> probe(const AVAsset &asset, std::chrono::milliseconds 
     std::optional<NSError> reason;
     const auto result = program.run(&reason);
     if (result && result->succeeded()) return output;
-    const bool isRefused = result && result->ending == ChildProcess::Exited;
-    setError(error, isRefused ? notRecognized(asset) : MediaProgram::failure(asset, result, reason));
+    if (result && result->ending == ChildProcess::Exited)
+        setError(error, notRecognized(asset));
+    else if (result && result->ending != ChildProcess::Cancelled)
+        setError(error, avError(AVErrorExportFailed, localizedText("“%1” could not be looked at (%2). Try again.",
+                                                                   asset.name, result->description())));
+    else
+        setError(error, MediaProgram::failure(asset, result, reason));
     return std::nullopt;
 }
 
@@ -128,17 +134,16 @@ std::optional<QByteArray> probe(const AVAsset &asset, std::chrono::milliseconds 
 std::optional<NSError> objectionTo(const MediaInfo &info, const QJsonObject &answer, const AVAsset &asset) {
     if (!answer.contains(QLatin1String("format")))
         return avError(AVErrorExportFailed,
-                       QStringLiteral("The answer of ffprobe about “%1” is not understood. Check the package “ffmpeg”.")
-                           .arg(asset.name));
+                       localizedText("The answer of ffprobe about “%1” is not understood. Check the package “ffmpeg”.",
+                                     asset.name));
     if (!isUsable(info.video) && !info.sound) return notRecognized(asset);
     if (!isUsable(info.video))
-        return avError(
-            AVErrorInvalidSourceMedia,
-            QStringLiteral("There are no pictures in “%1”. Choose a file with a video in it.").arg(asset.name));
+        return avError(AVErrorInvalidSourceMedia,
+                       localizedText("There are no pictures in “%1”. Choose a file with a video in it.", asset.name));
     // A file that does not say how long it is leaves the key out.
     if (info.microseconds == 0 && answer.value(QLatin1String("format")).toObject().contains(QLatin1String("duration")))
         return avError(AVErrorInvalidSourceMedia,
-                       QStringLiteral("“%1” is 0 seconds long. Choose another file.").arg(asset.name));
+                       localizedText("“%1” is 0 seconds long. Choose another file.", asset.name));
     return std::nullopt;
 }
 

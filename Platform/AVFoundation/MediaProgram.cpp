@@ -2,6 +2,7 @@
 #include "Platform/AVFoundation/MediaProgram.h"
 
 #include "Platform/AVFoundation/AVError.h"
+#include "Platform/Foundation/LocalizedText.h"
 
 #include <algorithm>
 #include <array>
@@ -23,10 +24,10 @@ bool saysOneOf(const QByteArray &text, std::initializer_list<const char *> phras
 NSError notStarted(const std::optional<NSError> &error) {
     if (error && error->domain() == NSPOSIXErrorDomain && error->code() == ENOENT)
         return avError(AVErrorEncoderNotFound,
-                       QStringLiteral("Videos cannot be read without the programs ffmpeg and ffprobe. Install the "
-                                      "package “ffmpeg” and try again."));
-    return avError(AVErrorExportFailed, QStringLiteral("The program for videos cannot be started: %1")
-                                            .arg(error ? error->localizedDescription() : QString()));
+                       localizedText("Videos cannot be read without the programs ffmpeg and ffprobe. Install the "
+                                     "package “ffmpeg” and try again."));
+    return avError(AVErrorExportFailed, localizedText("The program for videos cannot be started: %1",
+                                                      error ? error->localizedDescription() : QString()));
 }
 
 NSError endedBadly(const AVAsset &asset, const ChildProcess::Result &result) {
@@ -35,17 +36,16 @@ NSError endedBadly(const AVAsset &asset, const ChildProcess::Result &result) {
         saysOneOf(result.standardError, {"No space left on device", "Disk quota exceeded", "File too large"}))
         return diskFullError(asset.name);
     if (result.ending != ChildProcess::Exited)
-        return avError(
-            AVErrorExportFailed,
-            QStringLiteral("The export of “%1” broke off (%2). Try again.").arg(asset.name, result.description()));
+        return avError(AVErrorExportFailed, localizedText("The export of “%1” broke off (%2). Try again.", asset.name,
+                                                          result.description()));
     if (result.standardError.contains("Unknown encoder"))
         return avError(AVErrorEncoderNotFound,
-                       QStringLiteral("The installed ffmpeg cannot write H.264 and AAC. Install a package “ffmpeg” "
-                                      "with libx264 and try again."));
+                       localizedText("The installed ffmpeg cannot write H.264 and AAC. Install a package “ffmpeg” "
+                                     "with libx264 and try again."));
     return avError(AVErrorFileFailedToParse,
-                   QStringLiteral("“%1” is damaged or incomplete. Check that it plays to its end, or copy it again "
-                                  "from where it was made (%2).")
-                       .arg(asset.name, result.description()));
+                   localizedText("“%1” is damaged or incomplete. Check that it plays to its end, or copy it again "
+                                 "from where it was made (%2).",
+                                 asset.name, result.description()));
 }
 
 } // namespace

@@ -3,7 +3,9 @@
 
 #include "Platform/Accounts/ACError.h"
 #include "Platform/Accounts/CredentialStore.h"
+#include "Platform/Accounts/PlainLine.h"
 #include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/NSLog.h"
 #include "Platform/Preferences/LockedJSONFile.h"
 #include "Platform/Preferences/LogOnce.h"
@@ -31,8 +33,7 @@ struct Entry {
         return {{QStringLiteral("identifier"), identifier},
                 {QStringLiteral("type"), type},
                 {QStringLiteral("username"), username},
-                {QStringLiteral("secret"),
-                 place == SecretPlace::Keyring ? QStringLiteral("keyring") : QStringLiteral("file")}};
+                {QStringLiteral("secret"), CredentialStore::nameOfPlace(place)}};
     }
     std::shared_ptr<ACAccount> account() const {
         return std::make_shared<ACAccount>(identifier, ACAccountType(type), username, place);
@@ -46,14 +47,12 @@ std::optional<Entry> entryOf(const QVariant &value) {
         const QVariant found = map.value(QLatin1String(key));
         return found.typeId() == QMetaType::QString ? found.toString() : QString();
     };
-    const QString secret = text("secret");
-    if (text("identifier").isEmpty() || text("type").isEmpty() || text("username").isEmpty() ||
-        (secret != QLatin1String("keyring") && secret != QLatin1String("file"))) {
+    const auto place = CredentialStore::placeOfName(text("secret"));
+    if (text("identifier").isEmpty() || text("type").isEmpty() || text("username").isEmpty() || !place) {
         logOnce(QStringLiteral("An entry in the list of accounts is not understood and is skipped."));
         return std::nullopt;
     }
-    return Entry{text("identifier"), text("type"), text("username"),
-                 secret == QLatin1String("keyring") ? SecretPlace::Keyring : SecretPlace::File};
+    return Entry{text("identifier"), text("type"), text("username"), *place};
 }
 
 LockedJSONFile accountsFile() {
@@ -90,24 +89,19 @@ bool fail(std::optional<NSError> *error, ACErrorCode code, const QString &text) 
     return false;
 }
 
-bool isUsable(const QString &text) {
-    return !text.isEmpty() &&
-           std::none_of(text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; });
-}
-
 bool check(const ACAccountType &type, const QString &username, const ACAccountCredential &credential,
            std::optional<NSError> *error) {
     if (!type.isKnown())
         return fail(error, ACErrorAccountTypeInvalid,
-                    QStringLiteral("Accounts of type \"%1\" cannot be stored.").arg(type.identifier()));
-    if (!isUsable(username))
+                    localizedText("Accounts of type \"%1\" cannot be stored.", type.identifier()));
+    if (!isPlainLine(username))
         return fail(error, ACErrorCredentialInvalid,
-                    QStringLiteral("The user name is empty or holds control characters."));
+                    localizedText("The user name is empty or holds control characters."));
     for (const QString *text :
          {&credential.consumerKey, &credential.consumerSecret, &credential.token, &credential.tokenSecret})
-        if (!isUsable(*text))
+        if (!isPlainLine(*text))
             return fail(error, ACErrorCredentialInvalid,
-                        QStringLiteral("A part of the credential is empty or holds control characters."));
+                        localizedText("A part of the credential is empty or holds control characters."));
     return true;
 }
 
@@ -116,7 +110,7 @@ bool checkList(const QVariantMap &values, std::optional<NSError> *error) {
     const QVariant list = values.value(accountsKey);
     if (!list.isValid() || list.typeId() == QMetaType::QVariantList) return true;
     return fail(error, ACErrorAccountListDamaged,
-                QStringLiteral("\"accounts\" in %1 is not a list.").arg(accountsFile().path()));
+                localizedText("\"accounts\" in %1 is not a list.", accountsFile().path()));
 }
 
 } // namespace
@@ -163,10 +157,8 @@ std::shared_ptr<ACAccount> ACAccountStore::saveAccount(const ACAccountType &type
         stored = true;
         entry.place = *place;
         QVariantList list = values.value(accountsKey).toList();
-        if (replaced)
-            list[positionOf(list, entry.identifier)] = entry.map();
-        else
-            list.append(entry.map());
+        if (replaced) list.removeAt(positionOf(list, entry.identifier));
+        list.append(entry.map());
         values.insert(accountsKey, list);
         return true;
     };
@@ -185,7 +177,7 @@ bool ACAccountStore::useAccount(const QString &identifier, std::optional<NSError
         QVariantList list = values.value(accountsKey).toList();
         const qsizetype position = positionOf(list, identifier);
         if (position == list.size())
-            return fail(error, ACErrorAccountMissing, QStringLiteral("There is no account \"%1\".").arg(identifier));
+            return fail(error, ACErrorAccountMissing, localizedText("There is no account \"%1\".", identifier));
         list.append(list.takeAt(position));
         values.insert(accountsKey, list);
         return true;
@@ -199,7 +191,7 @@ bool ACAccountStore::removeAccount(const QString &identifier, std::optional<NSEr
         for (const Entry &known : entriesOf(values))
             if (!removed && known.identifier == identifier) removed = known;
         if (!removed)
-            return fail(error, ACErrorAccountMissing, QStringLiteral("There is no account \"%1\".").arg(identifier));
+            return fail(error, ACErrorAccountMissing, localizedText("There is no account \"%1\".", identifier));
         QVariantList list = values.value(accountsKey).toList();
         list.removeAt(positionOf(list, identifier));
         values.insert(accountsKey, list);

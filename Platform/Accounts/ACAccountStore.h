@@ -16,17 +16,17 @@ class ACAccountStore {
 public:
     ACAccountType accountTypeWithAccountTypeIdentifier(const QString &identifier) const;
 
-    // In the order in which they were added or put into use. Empty, with a log line and the error placed, if the list
+    // In the order in which they were saved or put into use. Empty, with a log line and the error placed, if the list
     // cannot be read.
     std::vector<std::shared_ptr<ACAccount>> accountsWithAccountType(const ACAccountType &type,
                                                                     std::optional<NSError> *error = nullptr) const;
     std::shared_ptr<ACAccount> accountWithIdentifier(const QString &identifier) const; // null if there is none
-    // The account of that type that was added or put into use last, with which posts go out; null if there is none.
+    // The account of that type that was saved or put into use last, with which posts go out; null if there is none.
     std::shared_ptr<ACAccount> accountInUse(const QString &typeIdentifier) const;
 
-    // Stores an account and its credential; may take up to five seconds. An account of the same type and user name
-    // keeps its identifier and gets the new credential. Null with the error placed on failure; nothing is half stored
-    // then.
+    // Stores an account and its credential, and puts it into use; may take up to five seconds. An account of the same
+    // type and user name keeps its identifier and gets the new credential. Null with the error placed on failure;
+    // nothing is half stored then.
     std::shared_ptr<ACAccount> saveAccount(const ACAccountType &type, const QString &username,
                                            const ACAccountCredential &credential,
                                            std::optional<NSError> *error = nullptr);

@@ -7,7 +7,12 @@ const QString ACAccountTypeIdentifierFlickr = QStringLiteral("com.zorvex.flickr"
 const QString ACAccountTypeIdentifierVimeo = QStringLiteral("com.zorvex.vimeo");
 
 bool ACAccountType::isKnown() const {
-    return _identifier == ACAccountTypeIdentifierFlickr || _identifier == ACAccountTypeIdentifierVimeo;
+    return !serviceName().isEmpty();
+}
+
+QString ACAccountType::serviceName() const {
+    if (_identifier == ACAccountTypeIdentifierFlickr) return QStringLiteral("Flickr");
+    return _identifier == ACAccountTypeIdentifierVimeo ? QStringLiteral("Vimeo") : QString();
 }
 
 } // namespace korvane

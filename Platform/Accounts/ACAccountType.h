@@ -15,6 +15,8 @@ public:
     const QString &identifier() const { return _identifier; }
     // False for a type that no web service of ours has; accounts of it cannot be saved.
     bool isKnown() const;
+    // "Flickr" or "Vimeo", for people; empty for a type that is not known.
+    QString serviceName() const;
 
     friend bool operator==(const ACAccountType &, const ACAccountType &) = default;
 

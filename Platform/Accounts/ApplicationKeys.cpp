@@ -4,6 +4,7 @@
 #include "Platform/Accounts/ACError.h"
 #include "Platform/Accounts/CredentialStore.h"
 #include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Preferences/LockedJSONFile.h"
 
 #include <algorithm>
@@ -23,7 +24,7 @@ QString identifierOf(const ACAccountType &type) {
 }
 
 SecretPlace placeOf(const QVariant &value) {
-    return value.toString() == QLatin1String("keyring") ? SecretPlace::Keyring : SecretPlace::File;
+    return CredentialStore::placeOfName(value.toString()).value_or(SecretPlace::File);
 }
 
 bool isUsable(const QString &text) {
@@ -34,12 +35,11 @@ bool isUsable(const QString &text) {
 } // namespace
 
 QString ApplicationKeys::problem() const {
-    const auto said = [](const char *which) {
-        return QStringLiteral("The application's %1 is empty, too long, or holds spaces or special characters.")
-            .arg(QLatin1String(which));
-    };
-    if (!isUsable(consumerKey)) return said("key");
-    return isUsable(consumerSecret) ? QString() : said("secret");
+    if (!isUsable(consumerKey))
+        return localizedText("The application's key is empty, too long, or holds spaces or special characters.");
+    if (!isUsable(consumerSecret))
+        return localizedText("The application's secret is empty, too long, or holds spaces or special characters.");
+    return {};
 }
 
 std::optional<ApplicationKeys> ApplicationKeys::stored(const ACAccountType &type, std::optional<NSError> *error) {
@@ -52,7 +52,7 @@ std::optional<ApplicationKeys> ApplicationKeys::stored(const ACAccountType &type
 }
 
 bool ApplicationKeys::store(const ACAccountType &type, std::optional<NSError> *error) const {
-    const QString wrong = type.isKnown() ? problem() : QStringLiteral("There is no such web service.");
+    const QString wrong = type.isKnown() ? problem() : localizedText("There is no such web service.");
     if (!wrong.isEmpty()) {
         setError(error, NSError::errorWithDescription(ACErrorDomain, ACErrorCredentialInvalid, wrong));
         return false;
@@ -65,8 +65,7 @@ bool ApplicationKeys::store(const ACAccountType &type, std::optional<NSError> *e
                                        QStringLiteral("Korvane: application keys (%1)").arg(type.identifier()),
                                        {consumerKey, consumerSecret, {}, {}}, error);
         if (!place) return false;
-        values.insert(type.identifier(),
-                      *place == SecretPlace::Keyring ? QStringLiteral("keyring") : QStringLiteral("file"));
+        values.insert(type.identifier(), CredentialStore::nameOfPlace(*place));
         return true;
     };
     const bool isDone = placesFile().update(put, error);

@@ -1,6 +1,8 @@
 // Waits for the browser to come back from a web service's sign-in page.
 #include "Platform/Accounts/CallbackListener.h"
 
+#include "Platform/Foundation/LocalizedText.h"
+
 #include <QNetworkProxy>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -16,13 +18,14 @@ constexpr qint64 longestHead = 16 * 1024;
 constexpr qsizetype mostConnections = 16;
 constexpr std::chrono::seconds patience(10);
 
-QByteArray page(const char *title, const char *text) {
-    return QByteArray(
-               "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\"><title>Korvane</title><meta "
+QByteArray page(const QString &title, const QString &text) {
+    return "<!DOCTYPE html>\n<html lang=\"" + localizedText("en").toUtf8() +
+           QByteArray(
+               "\"><head><meta charset=\"utf-8\"><title>Korvane</title><meta "
                "name=\"viewport\" content=\"width=device-width\"><style>:root { color-scheme: light dark; } body "
                "{ font: 18px/1.5 system-ui, sans-serif; max-width: 30em; margin: 20vh auto; padding: 0 1.5em; "
                "}</style></head><body><h1>") +
-           title + "</h1><p>" + text + "</p></body></html>\n";
+           title.toUtf8() + "</h1><p>" + text.toUtf8() + "</p></body></html>\n";
 }
 
 void answer(QTcpSocket &socket, const char *status, const QByteArray &body) {
@@ -75,7 +78,8 @@ void CallbackListener::_read(QTcpSocket &socket) {
     socket.readAll();
     QObject::disconnect(&socket, &QTcpSocket::readyRead, nullptr, nullptr);
     if (isWhole) return _receive(socket, head.left(head.indexOf("\r\n")));
-    answer(socket, "431 Request Header Fields Too Large", page("Too long", "This request is too long."));
+    answer(socket, "431 Request Header Fields Too Large",
+           page(localizedText("Too long"), localizedText("This request is too long.")));
 }
 
 void CallbackListener::_receive(QTcpSocket &socket, const QByteArray &requestLine) {
@@ -83,18 +87,24 @@ void CallbackListener::_receive(QTcpSocket &socket, const QByteArray &requestLin
     const QByteArray target = words.value(1);
     const bool isOurs = words.size() == 3 && words[2].startsWith("HTTP/1.") &&
                         (target == _path || target.startsWith(_path + '?')) && _server->isListening();
-    if (!isOurs) return answer(socket, "404 Not Found", page("Not found", "There is nothing here."));
+    if (!isOurs)
+        return answer(socket, "404 Not Found",
+                      page(localizedText("Not found"), localizedText("There is nothing here.")));
     if (words[0] != "GET")
-        return answer(socket, "405 Method Not Allowed", page("Not possible", "This page can only be opened."));
+        return answer(socket, "405 Method Not Allowed",
+                      page(localizedText("Not possible"), localizedText("This page can only be opened.")));
     switch (_receiver(OAuthSigner::parametersOfQuery(QString::fromLatin1(target.mid(_path.size() + 1))))) {
     case Reception::Foreign:
         return answer(socket, "400 Bad Request",
-                      page("Another sign-in", "This page belongs to another sign-in. Go back to Korvane."));
+                      page(localizedText("Another sign-in"),
+                           localizedText("This page belongs to another sign-in. Go back to Korvane.")));
     case Reception::Refused:
-        answer(socket, "200 OK", page("Not signed in", "You can close this page and go back to Korvane."));
+        answer(socket, "200 OK",
+               page(localizedText("Not signed in"), localizedText("You can close this page and go back to Korvane.")));
         break;
     case Reception::Done:
-        answer(socket, "200 OK", page("Thank you", "You can close this page and go back to Korvane."));
+        answer(socket, "200 OK",
+               page(localizedText("Thank you"), localizedText("You can close this page and go back to Korvane.")));
         break;
     }
     _server->close();

@@ -4,6 +4,7 @@
 #include "Platform/Accounts/ACError.h"
 #include "Platform/Accounts/SecretKeyring.h"
 #include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/NSJSONSerialization.h"
 #include "Platform/Foundation/NSLog.h"
 #include "Platform/Preferences/LockedJSONFile.h"
@@ -24,8 +25,8 @@ bool keyringForbidden() {
 }
 
 void sayThatTheFileIsUsed(const QString &reason) {
-    logOnce(QStringLiteral("Credentials are kept in %1, readable by this user alone (%2).")
-                .arg(credentialsFile().path(), reason));
+    const QString path = credentialsFile().path();
+    logOnce(QStringLiteral("Credentials are kept in %1, readable by this user alone (%2).").arg(path, reason), path);
 }
 
 QVariantMap mapOf(const ACAccountCredential &credential) {
@@ -36,7 +37,7 @@ QVariantMap mapOf(const ACAccountCredential &credential) {
 }
 
 QString addAgain(SecretOf kind) {
-    return kind == SecretOf::Account ? QStringLiteral("Add the account again") : QStringLiteral("Enter the keys again");
+    return kind == SecretOf::Account ? localizedText("Add the account again.") : localizedText("Enter the keys again.");
 }
 
 std::optional<ACAccountCredential> credentialOf(const QVariantMap &map, SecretOf kind, std::optional<NSError> *error) {
@@ -44,10 +45,9 @@ std::optional<ACAccountCredential> credentialOf(const QVariantMap &map, SecretOf
     if (kind == SecretOf::Account) needed += {QStringLiteral("token"), QStringLiteral("tokenSecret")};
     for (const QString &key : std::as_const(needed)) {
         if (map.value(key).typeId() == QMetaType::QString && !map.value(key).toString().isEmpty()) continue;
-        setError(error,
-                 NSError::errorWithDescription(
-                     ACErrorDomain, ACErrorCredentialInvalid,
-                     QStringLiteral("The stored credential has no usable \"%1\". %2.").arg(key, addAgain(kind))));
+        setError(error, NSError::errorWithDescription(
+                            ACErrorDomain, ACErrorCredentialInvalid,
+                            localizedText("The stored credential has no usable \"%1\". %2", key, addAgain(kind))));
         return std::nullopt;
     }
     const auto text = [&map](const char *key) { return map.value(QLatin1String(key)).toString(); };
@@ -62,21 +62,19 @@ std::nullopt_t missing(std::optional<NSError> *error, const QString &text) {
 std::optional<ACAccountCredential> loadFromKeyring(const QString &identifier, SecretOf kind,
                                                    std::optional<NSError> *error) {
     if (keyringForbidden())
-        return missing(error,
-                       QStringLiteral("It is in the keyring, which KORVANE_SECRETS=file forbids to use. %1 to keep it "
-                                      "in a file.")
-                           .arg(addAgain(kind)));
+        return missing(error, localizedText("It is in the keyring, which KORVANE_SECRETS=file forbids to use. %1",
+                                            addAgain(kind)));
     const SecretKeyring::Answer answer = SecretKeyring::load(identifier);
     switch (answer.outcome) {
     case Outcome::Done:
         return credentialOf(NSJSONSerialization::JSONObjectWithData(answer.text.toUtf8()).value_or(QVariant()).toMap(),
                             kind, error);
     case Outcome::Locked:
-        return missing(error, QStringLiteral("The keyring is locked. Unlock it and try again."));
+        return missing(error, localizedText("The keyring is locked. Unlock it and try again."));
     case Outcome::Missing:
-        return missing(error, QStringLiteral("The keyring does not hold it any more. %1.").arg(addAgain(kind)));
+        return missing(error, localizedText("The keyring does not hold it any more. %1", addAgain(kind)));
     default:
-        return missing(error, QStringLiteral("The keyring cannot be used: %1.").arg(answer.text));
+        return missing(error, localizedText("The keyring cannot be used: %1.", answer.text));
     }
 }
 
@@ -86,7 +84,7 @@ std::optional<ACAccountCredential> loadFromFile(const QString &identifier, Secre
     if (!values) return std::nullopt;
     sayThatTheFileIsUsed(QStringLiteral("they were not stored in a keyring"));
     if (!values->contains(identifier))
-        return missing(error, QStringLiteral("%1 does not hold it. %2.").arg(credentialsFile().path(), addAgain(kind)));
+        return missing(error, localizedText("%1 does not hold it. %2", credentialsFile().path(), addAgain(kind)));
     return credentialOf(values->value(identifier).toMap(), kind, error);
 }
 
@@ -102,6 +100,16 @@ std::optional<SecretPlace> storeInFile(const QString &identifier, const ACAccoun
 }
 
 } // namespace
+
+QString CredentialStore::nameOfPlace(SecretPlace place) {
+    return place == SecretPlace::Keyring ? QStringLiteral("keyring") : QStringLiteral("file");
+}
+
+std::optional<SecretPlace> CredentialStore::placeOfName(const QString &name) {
+    for (const SecretPlace place : {SecretPlace::Keyring, SecretPlace::File})
+        if (nameOfPlace(place) == name) return place;
+    return std::nullopt;
+}
 
 std::optional<ACAccountCredential> CredentialStore::load(const QString &identifier, SecretPlace place,
                                                          std::optional<NSError> *error, SecretOf kind) {
@@ -121,9 +129,9 @@ std::optional<SecretPlace> CredentialStore::store(const QString &identifier, con
     // A keyring that is there but locked is no reason to write secrets to a file unasked.
     setError(error, NSError::errorWithDescription(
                         ACErrorDomain, ACErrorCredentialNotStored,
-                        QStringLiteral("The credential was not stored: %1. Unlock the keyring and try again, or set "
-                                       "KORVANE_SECRETS=file to keep credentials in a file.")
-                            .arg(answer.text)));
+                        localizedText("The credential was not stored: %1. Unlock the keyring and try again, or set "
+                                      "KORVANE_SECRETS=file to keep credentials in a file.",
+                                      answer.text)));
     return std::nullopt;
 }
 

@@ -17,6 +17,10 @@ enum class SecretOf { Account, Application };
 // the environment keeps the keyring out of everything. Calls may take up to five seconds. Thread: any.
 namespace CredentialStore {
 
+// As the lists of what is stored name it; null for what is no such name.
+QString nameOfPlace(SecretPlace place);
+std::optional<SecretPlace> placeOfName(const QString &name);
+
 // Null, with the error placed, if there is no usable secret of that identifier in that place, or it cannot be had now.
 std::optional<ACAccountCredential> load(const QString &identifier, SecretPlace place, std::optional<NSError> *error,
                                         SecretOf kind = SecretOf::Account);

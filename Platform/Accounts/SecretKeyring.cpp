@@ -2,6 +2,7 @@
 #include "Platform/Accounts/SecretKeyring.h"
 
 #include "Platform/Foundation/Dispatch.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/SystemConfiguration/UserBus.h"
 
 #include <libsecret/secret.h>
@@ -50,7 +51,7 @@ Attributes attributesOf(const QString &identifier) {
 }
 
 Answer failure(Outcome outcome, GError *error) {
-    const QString text = error ? QString::fromUtf8(error->message) : QStringLiteral("the keyring gave no reason");
+    const QString text = error ? QString::fromUtf8(error->message) : localizedText("the keyring gave no reason");
     g_clear_error(&error);
     return {outcome, text};
 }
@@ -86,7 +87,7 @@ Answer withOwnContext(const Task &task, GCancellable *cancellable) {
 
 // Waits for the task on a pool thread; after the time limit it is cancelled and left to itself.
 Answer limited(Task task) {
-    if (!UserBus::isPresent()) return {Outcome::Unavailable, QStringLiteral("there is no session bus")};
+    if (!UserBus::isPresent()) return {Outcome::Unavailable, localizedText("there is no session bus")};
     struct Wait {
         std::mutex mutex;
         std::condition_variable ended;
@@ -104,7 +105,7 @@ Answer limited(Task task) {
     if (wait->ended.wait_for(lock, timeLimit, [&] { return wait->answer.has_value(); })) return *wait->answer;
     lock.unlock();
     g_cancellable_cancel(wait->cancellable.get());
-    return {Outcome::Unavailable, QStringLiteral("the keyring did not answer in time")};
+    return {Outcome::Unavailable, localizedText("the keyring did not answer in time")};
 }
 
 Answer find(SecretService *service, const QString &identifier, GCancellable *cancellable) {
@@ -112,14 +113,14 @@ Answer find(SecretService *service, const QString &identifier, GCancellable *can
     GList *items = secret_service_search_sync(service, &schema(), attributesOf(identifier).get(),
                                               SECRET_SEARCH_LOAD_SECRETS, cancellable, &error);
     if (error) return failure(Outcome::Failed, error);
-    if (!items) return {Outcome::Missing, QStringLiteral("the keyring does not hold it")};
+    if (!items) return {Outcome::Missing, localizedText("the keyring does not hold it")};
     auto *item = static_cast<SecretItem *>(items->data);
     const bool locked = secret_item_get_locked(item);
     const Value value(locked ? nullptr : secret_item_get_secret(item), forget);
     g_list_free_full(items, g_object_unref);
-    if (locked) return {Outcome::Locked, QStringLiteral("the keyring is locked")};
+    if (locked) return {Outcome::Locked, localizedText("the keyring is locked")};
     const char *text = value ? secret_value_get_text(value.get()) : nullptr;
-    if (!text) return {Outcome::Failed, QStringLiteral("the keyring gave no text")};
+    if (!text) return {Outcome::Failed, localizedText("the keyring gave no text")};
     return {Outcome::Done, QString::fromUtf8(text)};
 }
 
@@ -129,8 +130,8 @@ Answer checkDefaultKeyring(SecretService *service, GCancellable *cancellable) {
     const Object<SecretCollection> keyring(secret_collection_for_alias_sync(
         service, SECRET_COLLECTION_DEFAULT, SECRET_COLLECTION_NONE, cancellable, &error));
     if (error) return failure(Outcome::Unavailable, error);
-    if (!keyring) return {Outcome::Unavailable, QStringLiteral("there is no default keyring")};
-    if (secret_collection_get_locked(keyring.get())) return {Outcome::Locked, QStringLiteral("the keyring is locked")};
+    if (!keyring) return {Outcome::Unavailable, localizedText("there is no default keyring")};
+    if (secret_collection_get_locked(keyring.get())) return {Outcome::Locked, localizedText("the keyring is locked")};
     return {Outcome::Done, {}};
 }
 

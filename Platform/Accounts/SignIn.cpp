@@ -5,6 +5,7 @@
 #include "Platform/Accounts/CallbackListener.h"
 #include "Platform/Accounts/SignInAnswer.h"
 #include "Platform/Accounts/SignInService.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/NSURLConnection.h"
 #include "Platform/Social/RequestBody.h"
 
@@ -48,7 +49,7 @@ void SignIn::start() {
 
 void SignIn::_listen() {
     const QString problem = ApplicationKeys{_credential.consumerKey, _credential.consumerSecret}.problem();
-    if (!_service) return _fail(ACErrorAccountTypeInvalid, QStringLiteral("There is no such web service."));
+    if (!_service) return _fail(ACErrorAccountTypeInvalid, localizedText("There is no such web service."));
     if (!problem.isEmpty()) return _fail(ACErrorApplicationKeyRefused, problem);
     if (_options.typesCode) return _askForRequestToken();
     _listener = std::make_unique<CallbackListener>([this](const OAuthParameters &query) {
@@ -58,8 +59,8 @@ void SignIn::_listen() {
     });
     if (!_listener->problem().isEmpty())
         return _fail(ACErrorSignInNotPossible,
-                     QStringLiteral("Korvane cannot wait for the browser here (%1). Sign in with a typed code instead.")
-                         .arg(_listener->problem()));
+                     localizedText("Korvane cannot wait for the browser here (%1). Sign in with a typed code instead.",
+                                   _listener->problem()));
     _callback = _listener->address();
     _askForRequestToken();
 }
@@ -76,9 +77,8 @@ void SignIn::_requestTokenArrived(const SignInAnswer &answer) {
     if (!values) return _fail(*error);
     // Without it the call-back could be somebody else's (OAuth 1.0 before its revision A).
     if (values->value(confirmation) != QLatin1String("true"))
-        return _fail(
-            ACErrorSignInNotUnderstood,
-            QStringLiteral("%1 does not confirm the way back to Korvane. Try again later.").arg(_service->name));
+        return _fail(ACErrorSignInNotUnderstood,
+                     localizedText("%1 does not confirm the way back to Korvane. Try again later.", _service->name));
     _credential.token = values->value(tokenKey);
     _credential.tokenSecret = values->value(tokenSecretKey);
     _sendPersonToPage();
@@ -109,7 +109,7 @@ bool SignIn::_takeCallback(const OAuthParameters &query, bool &isRefused) {
     if (isRefused)
         _later([this] {
             _fail(ACErrorSignInRefused,
-                  QStringLiteral("Korvane was not allowed to use the %1 account.").arg(_service->name));
+                  localizedText("Korvane was not allowed to use the %1 account.", _service->name));
         });
     else
         _later([this, verifier = verifiers[0]] { _askForAccessToken(verifier); });
@@ -142,7 +142,7 @@ void SignIn::_accessTokenArrived(const SignInAnswer &answer) {
 
 void SignIn::_codeWasWrong(const NSError &error) {
     if (!_options.typesCode || ++_codesTried == mostCodes)
-        return _fail(ACErrorSignInCodeWrong, error.localizedDescription() + QStringLiteral(" Sign in again."));
+        return _fail(ACErrorSignInCodeWrong, error.localizedDescription() + u' ' + localizedText("Sign in again."));
     _awaitsPerson = true;
     _handlers.codeWasWrong(error);
 }
@@ -164,13 +164,13 @@ void SignIn::_succeed(const QString &username) {
 }
 
 void SignIn::cancel() {
-    _fail(ACErrorSignInCancelled, QStringLiteral("The sign-in was cancelled."));
+    _fail(ACErrorSignInCancelled, localizedText("The sign-in was cancelled."));
 }
 
 void SignIn::_timeIsUp() {
-    _fail(ACErrorSignInTimedOut,
-          _awaitsPerson ? QStringLiteral("Nobody answered in time. Sign in again.")
-                        : QStringLiteral("%1 took too long to answer. Try again later.").arg(_service->name));
+    _fail(ACErrorSignInTimedOut, _awaitsPerson
+                                     ? localizedText("Nobody answered in time. Sign in again.")
+                                     : localizedText("%1 took too long to answer. Try again later.", _service->name));
 }
 
 void SignIn::_fail(qint64 code, const QString &text) {

@@ -2,6 +2,8 @@
 #include "Platform/Accounts/SignInAnswer.h"
 
 #include "Platform/Accounts/ACError.h"
+#include "Platform/Accounts/PlainLine.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/NSJSONSerialization.h"
 #include "Platform/Social/OAuthSigner.h"
 
@@ -16,17 +18,13 @@ namespace {
 constexpr qint64 tolerableSeconds = 240; // services take time stamps that are some minutes off
 
 QString durationText(qint64 seconds) {
-    const auto counted = [](qint64 number, const char *unit) {
-        return QStringLiteral("%1 %2%3").arg(number).arg(QLatin1String(unit), QLatin1String(number == 1 ? "" : "s"));
-    };
-    if (seconds >= 2 * 86400) return counted((seconds + 43200) / 86400, "day");
-    if (seconds >= 3300) return counted((seconds + 1800) / 3600, "hour");
-    return counted((seconds + 30) / 60, "minute");
+    if (seconds >= 2 * 86400) return localizedCount("%n day(s)", (seconds + 43200) / 86400);
+    if (seconds >= 3300) return localizedCount("%n hour(s)", (seconds + 1800) / 3600);
+    return localizedCount("%n minute(s)", (seconds + 30) / 60);
 }
 
 bool isUsable(const QString &text) {
-    return !text.isEmpty() && text.size() <= 1024 &&
-           std::none_of(text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; });
+    return isPlainLine(text) && text.size() <= 1024;
 }
 
 } // namespace
@@ -45,12 +43,11 @@ std::optional<QMap<QString, QString>> SignInAnswer::values(const QStringList &na
     if (auto failure = _failure()) return fail(*std::move(failure));
     QMap<QString, QString> found;
     for (const auto &[name, value] : OAuthSigner::parametersOfQuery(QString::fromUtf8(_body->bytes().trimmed()))) {
-        if (found.contains(name)) return fail(_notUnderstood(QStringLiteral("it holds something twice")));
+        if (found.contains(name)) return fail(_notUnderstood(localizedText("it holds something twice")));
         found.insert(name, value);
     }
     for (const QString &name : names)
-        if (!isUsable(found.value(name)))
-            return fail(_notUnderstood(QStringLiteral("it holds no usable \"%1\"").arg(name)));
+        if (!isUsable(found.value(name))) return fail(_notUnderstood(localizedText("it holds no usable \"%1\"", name)));
     return found;
 }
 
@@ -62,7 +59,7 @@ std::optional<QString> SignInAnswer::userName(std::optional<NSError> *error) con
     const QVariantMap answer = NSJSONSerialization::JSONObjectWithData(_body->bytes()).value_or(QVariant()).toMap();
     const QString name = answer.value(QStringLiteral("user")).toMap().value(QStringLiteral("username")).toString();
     if (isUsable(name)) return name;
-    setError(error, _notUnderstood(QStringLiteral("it names no user")));
+    setError(error, _notUnderstood(localizedText("it names no user")));
     return std::nullopt;
 }
 
@@ -71,13 +68,13 @@ std::optional<NSError> SignInAnswer::_failure() const {
     if (!_body) return _unreachable();
     const int status = _response.statusCode;
     if (status >= 500 || status == 429)
-        return _error(
-            ACErrorSignInNotPossible,
-            QStringLiteral("%1 is out of order just now (status %2). Try again later.").arg(_service).arg(status));
-    if (_body->length() > mostBytes) return _notUnderstood(QStringLiteral("it is too long"));
+        return _error(ACErrorSignInNotPossible,
+                      localizedText("%1 is out of order just now (status %2). Try again later.", _service,
+                                    QString::number(status)));
+    if (_body->length() > mostBytes) return _notUnderstood(localizedText("it is too long"));
     if (status == 200 && _oauthProblem().isEmpty()) return std::nullopt;
     if (status == 200 || status == 400 || status == 401 || status == 403) return _refusal();
-    return _notUnderstood(QStringLiteral("status %1").arg(status));
+    return _notUnderstood(localizedText("status %1", QString::number(status)));
 }
 
 NSError SignInAnswer::_unreachable() const {
@@ -86,13 +83,13 @@ NSError SignInAnswer::_unreachable() const {
         return NSError::errorWithDescription(cause.domain(), cause.code(), text);
     };
     if (cause.code() == NSURLErrorNotConnectedToInternet)
-        return told(QStringLiteral("There is no network connection. Connect, then sign in again."));
+        return told(localizedText("There is no network connection. Connect, then sign in again."));
     if (cause.code() <= NSURLErrorSecureConnectionFailed && cause.code() >= NSURLErrorClientCertificateRequired)
-        return told(QStringLiteral("There is no safe connection to %1 (%2). Check that date and time of this computer "
-                                   "are right, then sign in again.")
-                        .arg(_service, cause.localizedDescription()));
-    return told(QStringLiteral("%1 cannot be reached (%2). Check the network connection, then sign in again.")
-                    .arg(_service, cause.localizedDescription()));
+        return told(localizedText("There is no safe connection to %1 (%2). Check that date and time of this computer "
+                                  "are right, then sign in again.",
+                                  _service, cause.localizedDescription()));
+    return told(localizedText("%1 cannot be reached (%2). Check the network connection, then sign in again.", _service,
+                              cause.localizedDescription()));
 }
 
 NSError SignInAnswer::_refusal() const {
@@ -105,42 +102,46 @@ NSError SignInAnswer::_refusal() const {
     if (isOneOf("timestamp_refused")) return _clockWrong(_secondsAhead());
     if (isOneOf("consumer_key_.*|signature_invalid"))
         return _error(ACErrorApplicationKeyRefused,
-                      QStringLiteral("%1 does not take the application's key, or the secret does not belong to it. "
-                                     "Check both and sign in again.")
-                          .arg(_service));
+                      localizedText("%1 does not take the application's key, or the secret does not belong to it. "
+                                    "Check both and sign in again.",
+                                    _service));
     if (isOneOf("user_refused|permission_denied"))
-        return _error(ACErrorSignInRefused,
-                      QStringLiteral("Korvane was not allowed to use the %1 account.").arg(_service));
+        return _error(ACErrorSignInRefused, localizedText("Korvane was not allowed to use the %1 account.", _service));
     if (isOneOf("verifier_.*|permission_unknown"))
-        return _error(ACErrorSignInCodeWrong, QStringLiteral("The code is not the one that %1 gave.").arg(_service));
+        return _error(ACErrorSignInCodeWrong, localizedText("The code is not the one that %1 gave.", _service));
     if (isOneOf("token_.*"))
         return _error(ACErrorSignInExpired,
-                      QStringLiteral("This sign-in has expired or was used already. Sign in again."));
+                      localizedText("This sign-in has expired or was used already. Sign in again."));
     // Not every service says that it is the time stamp.
     if (const auto ahead = _secondsAhead(); ahead && std::abs(*ahead) > tolerableSeconds) return _clockWrong(ahead);
     return _error(
         ACErrorSignInNotPossible,
-        QStringLiteral("%1 refused the sign-in (%2). Try again later.")
-            .arg(_service, problem.isEmpty() ? QStringLiteral("status %1").arg(_response.statusCode) : problem));
+        localizedText("%1 refused the sign-in (%2). Try again later.", _service,
+                      problem.isEmpty() ? localizedText("status %1", QString::number(_response.statusCode)) : problem));
 }
 
 NSError SignInAnswer::_clockWrong(std::optional<qint64> secondsAhead) const {
-    const QString howMuch =
-        secondsAhead && std::abs(*secondsAhead) >= 60
-            ? QStringLiteral("%1 %2").arg(durationText(std::abs(*secondsAhead)),
-                                          *secondsAhead > 0 ? QStringLiteral("fast") : QStringLiteral("slow"))
-            : QStringLiteral("wrong");
-    return _error(
-        ACErrorClockWrong,
-        QStringLiteral("%1 refused the sign-in because this computer's clock is %2. Set date and time right, then "
-                       "sign in again.")
-            .arg(_service, howMuch));
+    const qint64 seconds = secondsAhead.value_or(0);
+    const QString duration = durationText(std::abs(seconds));
+    if (seconds >= 60)
+        return _error(ACErrorClockWrong,
+                      localizedText("%1 refused the sign-in because this computer's clock is %2 fast. Set date and "
+                                    "time right, then sign in again.",
+                                    _service, duration));
+    if (seconds <= -60)
+        return _error(ACErrorClockWrong,
+                      localizedText("%1 refused the sign-in because this computer's clock is %2 slow. Set date and "
+                                    "time right, then sign in again.",
+                                    _service, duration));
+    return _error(ACErrorClockWrong, localizedText("%1 refused the sign-in because this computer's clock is wrong. Set "
+                                                   "date and time right, then sign in again.",
+                                                   _service));
 }
 
 NSError SignInAnswer::_notUnderstood(const QString &reason) const {
     return _error(ACErrorSignInNotUnderstood,
-                  QStringLiteral("%1 answered something that Korvane does not understand (%2). Try again later.")
-                      .arg(_service, reason));
+                  localizedText("%1 answered something that Korvane does not understand (%2). Try again later.",
+                                _service, reason));
 }
 
 NSError SignInAnswer::_error(qint64 code, const QString &text) const {

@@ -17,13 +17,13 @@ NSURL url(const QString &text) {
 std::optional<SignInService> SignInService::serviceOf(const ACAccountType &type) {
     if (type.identifier() == ACAccountTypeIdentifierFlickr) {
         const QString base = KorvaneSettings::flickrSignInHost() + QStringLiteral("/services/oauth/");
-        return SignInService{QStringLiteral("Flickr"), url(base + QStringLiteral("request_token")),
+        return SignInService{type.serviceName(), url(base + QStringLiteral("request_token")),
                              url(base + QStringLiteral("access_token")), std::nullopt,
                              base + QStringLiteral("authorize?perms=write")};
     }
     if (type.identifier() != ACAccountTypeIdentifierVimeo) return std::nullopt;
     const QString base = KorvaneSettings::vimeoSignInHost();
-    return SignInService{QStringLiteral("Vimeo"), url(base + QStringLiteral("/oauth/request_token")),
+    return SignInService{type.serviceName(), url(base + QStringLiteral("/oauth/request_token")),
                          url(base + QStringLiteral("/oauth/access_token")),
                          url(base + QStringLiteral("/api/rest/v2?format=json")),
                          base + QStringLiteral("/oauth/authorize?permission=write")};

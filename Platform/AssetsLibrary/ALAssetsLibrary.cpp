@@ -6,6 +6,7 @@
 #include "Platform/AVFoundation/MediaInfo.h"
 #include "Platform/AssetsLibrary/AssetLocation.h"
 #include "Platform/Foundation/Dispatch.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/ImageIO/PictureProgram.h"
 #include "Platform/MobileCoreServices/UTType.h"
 
@@ -20,7 +21,7 @@
 namespace korvane {
 namespace {
 
-constexpr std::chrono::seconds longestProbe(20);
+constexpr std::chrono::seconds longestProbe(60); // on a busy machine; it takes a tenth of one else
 
 QString nameOf(const QByteArray &path) {
     return QFile::decodeName(path.mid(path.lastIndexOf('/') + 1));
@@ -55,12 +56,12 @@ std::shared_ptr<ALAsset> findAsset(const NSURL &url, std::optional<NSError> &err
 
 NSError noVideo(const QString &what, const QString &reason) {
     return avError(AVErrorContentIsUnavailable,
-                   QStringLiteral("The video “%1” cannot be opened (%2). Choose it again.").arg(what, reason));
+                   localizedText("The video “%1” cannot be opened (%2). Choose it again.", what, reason));
 }
 
 AVAsset videoInLibrary(const NSURL &url) {
     const auto location = AssetLocation::ofURL(url);
-    if (!location) return {url.absoluteString(), {}, noVideo(url.absoluteString(), QStringLiteral("no such asset"))};
+    if (!location) return {url.absoluteString(), {}, noVideo(url.absoluteString(), localizedText("no such asset"))};
     auto file = std::make_shared<FileDescriptor>(location->open());
     struct stat status;
     if (!*file || ::fstat(file->get(), &status) != 0)

@@ -1,6 +1,7 @@
 // A child program, run to its end.
 #include "Platform/Foundation/ChildProcess.h"
 
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/ProgramPath.h"
 #include "Platform/Foundation/RunningChild.h"
 
@@ -15,13 +16,13 @@ QString ChildProcess::Result::description() const {
     const QString text = line.isEmpty() ? QString() : QStringLiteral(": ") + line;
     switch (ending) {
     case Exited:
-        return QStringLiteral("exit status %1").arg(status) + text;
+        return localizedText("exit status %1", QString::number(status)) + text;
     case Signalled:
-        return QStringLiteral("stopped by signal %1").arg(status) + text;
+        return localizedText("stopped by signal %1", QString::number(status)) + text;
     case TimedOut:
-        return QStringLiteral("took too long") + text;
+        return localizedText("took too long") + text;
     case Cancelled:
-        return QStringLiteral("was cancelled");
+        return localizedText("was cancelled");
     }
     return {};
 }

@@ -27,14 +27,14 @@ Table loadTable(const QString &name) {
 
 } // namespace
 
-QString NSBundle::localizedString(const QString &key, const QString &value, const QString &table) {
+QString NSBundle::localizedString(const QString &key, const QString &value, const QString &table, int count) {
     static std::mutex mutex;
     static std::map<QString, Table> tables;
     const std::lock_guard lock(mutex);
     auto found = tables.find(table);
     if (found == tables.end()) found = tables.emplace(table, loadTable(table)).first;
     for (const auto &translator : found->second) {
-        QString text = translator->translate(table.toUtf8().constData(), key.toUtf8().constData());
+        QString text = translator->translate(table.toUtf8().constData(), key.toUtf8().constData(), nullptr, count);
         if (!text.isNull()) return text;
     }
     return value;

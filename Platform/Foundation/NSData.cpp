@@ -1,6 +1,8 @@
 // Immutable bytes, in memory or as part of a file.
 #include "Platform/Foundation/NSData.h"
 
+#include "Platform/Foundation/LocalizedText.h"
+
 #include <QFile>
 
 #include <sys/stat.h>
@@ -45,7 +47,7 @@ std::optional<NSData> NSData::dataWithContentsOfFile(const QByteArray &path, std
     if (!S_ISREG(status.st_mode)) {
         setError(error,
                  NSError::errorWithDescription(NSPOSIXErrorDomain, EINVAL,
-                                               QFile::decodeName(path) + QStringLiteral(": not a regular file")));
+                                               localizedText("%1: not a regular file", QFile::decodeName(path))));
         return std::nullopt;
     }
     return dataWithFile(std::make_shared<FileDescriptor>(std::move(file)), 0, status.st_size);

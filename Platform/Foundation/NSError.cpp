@@ -1,6 +1,8 @@
 // An error: a domain, a code within it, and optional details.
 #include "Platform/Foundation/NSError.h"
 
+#include "Platform/Foundation/LocalizedText.h"
+
 #include <cstring>
 
 namespace korvane {
@@ -23,7 +25,7 @@ NSError NSError::errorWithErrno(int code, const QString &what) {
 QString NSError::localizedDescription() const {
     QString text = _userInfo.value(NSLocalizedDescriptionKey).toString();
     if (!text.isEmpty()) return text;
-    return QStringLiteral("The operation could not be completed (%1, code %2).").arg(_domain).arg(_code);
+    return localizedText("The operation could not be completed (%1, code %2).", _domain, QString::number(_code));
 }
 
 QString NSError::description() const {

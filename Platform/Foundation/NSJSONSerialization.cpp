@@ -1,6 +1,8 @@
 // Property-list values as JSON text and back.
 #include "Platform/Foundation/NSJSONSerialization.h"
 
+#include "Platform/Foundation/LocalizedText.h"
+
 #include <nlohmann/json.hpp>
 
 #include <cmath>
@@ -126,13 +128,13 @@ std::optional<QVariant> NSJSONSerialization::JSONObjectWithData(const QByteArray
     };
     try {
         auto value = fromJSON(json::parse(text.begin(), text.end()), 0);
-        if (!value) return fail(QStringLiteral("it is nested too deeply"));
+        if (!value) return fail(localizedText("it is nested too deeply"));
         return value;
     } catch (const json::parse_error &error) {
         // The exception's own text quotes what was read, which may be a secret.
-        return fail(QStringLiteral("it is not JSON at byte %1").arg(error.byte));
+        return fail(localizedText("it is not JSON at byte %1", QString::number(error.byte)));
     } catch (const json::exception &) {
-        return fail(QStringLiteral("it holds a number that is out of range"));
+        return fail(localizedText("it holds a number that is out of range"));
     }
 }
 

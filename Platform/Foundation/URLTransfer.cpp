@@ -1,6 +1,7 @@
 // One request on its way through curl.
 #include "Platform/Foundation/URLTransfer.h"
 
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/SystemConfiguration/NetworkRoute.h"
 #include "Platform/SystemConfiguration/SCNetworkReachability.h"
 
@@ -130,16 +131,16 @@ std::optional<NSError> URLTransfer::run() {
 std::optional<NSError> URLTransfer::_objection() const {
     if (!_request.allowsCellularAccess && !_request.URL.isLoopback() && isDefaultRouteCellular())
         return failure(NSURLErrorNotConnectedToInternet,
-                       QStringLiteral("There is only the cellular network, which this upload may not use."));
+                       localizedText("There is only the cellular network, which this upload may not use."));
     const auto announced = _request.valueForHTTPHeaderField("Content-Length");
     if (!announced || announced->toLongLong() == _bodyLength) return std::nullopt;
-    return failure(NSURLErrorUnknown, QStringLiteral("The file became shorter while it was being sent."));
+    return failure(NSURLErrorUnknown, localizedText("The file became shorter while it was being sent."));
 }
 
 std::optional<NSError> URLTransfer::_drive() {
     for (;;) {
         if (_request.uploadContext && _request.uploadContext->isCancelled())
-            return failure(NSURLErrorCancelled, QStringLiteral("The upload was stopped."));
+            return failure(NSURLErrorCancelled, localizedText("The upload was stopped."));
         int running = 0;
         curl().multi_perform(_handle.multi, &running);
         int waiting = 0;
@@ -147,7 +148,7 @@ std::optional<NSError> URLTransfer::_drive() {
             return _result(message->data.result);
         _noteProgress();
         if (_hasStalled())
-            return failure(NSURLErrorTimedOut, QStringLiteral("The web service did not respond in time."));
+            return failure(NSURLErrorTimedOut, localizedText("The web service did not respond in time."));
         curl().multi_poll(_handle.multi, nullptr, 0, longestWaitMilliseconds, nullptr);
     }
 }
@@ -158,7 +159,7 @@ std::optional<NSError> URLTransfer::_result(CURLcode code) const {
         // curl is content with an early answer; an answer that claims success for half a body is none.
         if (_bodyRead < _bodyLength && _response.statusCode < 400)
             return failure(NSURLErrorNetworkConnectionLost,
-                           QStringLiteral("The web service answered before it had everything."));
+                           localizedText("The web service answered before it had everything."));
         return std::nullopt;
     }
     long osError = 0;
@@ -199,7 +200,7 @@ size_t URLTransfer::_readBody(char *buffer, size_t capacity) {
     const bool ends = _pieceRead + count == piece.length();
     // A file that changed must not arrive as a mixture: its last bytes are held back.
     if (count <= 0 || (ends && !piece.isIntact())) {
-        _localError = failure(NSURLErrorUnknown, QStringLiteral("The file changed while it was being sent."));
+        _localError = failure(NSURLErrorUnknown, localizedText("The file changed while it was being sent."));
         return CURL_READFUNC_ABORT;
     }
     _pieceRead += count;
@@ -239,7 +240,7 @@ size_t URLTransfer::_onWrite(char *bytes, size_t size, size_t count, void *self)
     auto *transfer = static_cast<URLTransfer *>(self);
     const size_t length = size * count;
     if (transfer->_body.size() + qint64(length) > largestAnswer) {
-        transfer->_localError = failure(NSURLErrorUnknown, QStringLiteral("The web service's answer is too large."));
+        transfer->_localError = failure(NSURLErrorUnknown, localizedText("The web service's answer is too large."));
         return 0;
     }
     transfer->_body.append(bytes, qsizetype(length));
@@ -252,7 +253,7 @@ int URLTransfer::_onRequest(void *self, char *, char *, int, int) {
     if (const auto &context = transfer->_request.uploadContext) context->requestGoesOut();
     if (++transfer->_requests == 1 || transfer->_bodyLength > 0) return CURL_PREREQFUNC_OK;
     transfer->_localError =
-        failure(NSURLErrorNetworkConnectionLost, QStringLiteral("The web service closed the connection."));
+        failure(NSURLErrorNetworkConnectionLost, localizedText("The web service closed the connection."));
     return CURL_PREREQFUNC_ABORT;
 }
 

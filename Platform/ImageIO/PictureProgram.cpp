@@ -3,6 +3,7 @@
 
 #include "Platform/Foundation/ChildProcess.h"
 #include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/LocalizedText.h"
 
 #include <QFile>
 
@@ -82,7 +83,7 @@ NSError errorOf(const ChildProcess::Result &result) {
     return NSError::errorWithDescription(
         PictureErrorDomain, PictureErrorUnusable,
         explained ? QString::fromUtf8(text)
-                  : QStringLiteral("the picture cannot be decoded (%1)").arg(result.description()));
+                  : localizedText("the picture cannot be decoded (%1)", result.description()));
 }
 
 // How long a run may take, and who may end it.
@@ -96,7 +97,7 @@ struct Terms {
 std::optional<NSError> runOn(const NSData &picture, const QByteArrayList &arguments, int output,
                              const Terms &terms = {}) {
     const FileDescriptor input = fileFor(picture);
-    if (!input) return NSError::errorWithErrno(errno, QStringLiteral("the picture's file"));
+    if (!input) return NSError::errorWithErrno(errno, localizedText("the picture's file"));
     ChildProcess program("korvane-picture", arguments);
     program.setStandardInput(input.get());
     program.setStandardOutput(output);

@@ -3,6 +3,7 @@
 
 #include "Platform/Foundation/FileDescriptor.h"
 #include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/NSData.h"
 #include "Platform/Foundation/NSJSONSerialization.h"
 #include "Platform/Preferences/LogOnce.h"
@@ -80,7 +81,7 @@ LockedJSONFile::Contents LockedJSONFile::_load(QVariantMap &values, QString &pro
         knownContents().keep(_path, data->identity(), values);
         return Contents::Read;
     }
-    if (value) problem = QStringLiteral("it does not hold a JSON object");
+    if (value) problem = localizedText("it does not hold a JSON object");
     return Contents::Damaged;
 }
 
@@ -134,10 +135,10 @@ bool LockedJSONFile::update(const std::function<bool(QVariantMap &values)> &chan
 bool LockedJSONFile::_write(const std::optional<QByteArray> &text, std::optional<NSError> *error) const {
     const auto fail = [&](const QString &what) {
         setError(error, NSError::errorWithDescription(NSCocoaErrorDomain, 512,
-                                                      QStringLiteral("%1 could not be written: %2").arg(_path, what)));
+                                                      localizedText("%1 could not be written: %2", _path, what)));
         return false;
     };
-    if (!text) return fail(QStringLiteral("a value has a type that JSON has not"));
+    if (!text) return fail(localizedText("a value has a type that JSON has not"));
     QSaveFile file(_path);
     if (!file.open(QIODevice::WriteOnly)) return fail(file.errorString());
     file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);

@@ -9,13 +9,14 @@
 
 namespace korvane {
 
-void logOnce(const QString &message) {
+void logOnce(const QString &message, const QString &subject) {
     static std::mutex mutex;
     static QSet<QString> said;
     {
         const std::lock_guard lock(mutex);
-        if (said.contains(message)) return;
-        said.insert(message);
+        const QString &key = subject.isEmpty() ? message : subject;
+        if (said.contains(key)) return;
+        said.insert(key);
     }
     NSLog("%@", message);
 }

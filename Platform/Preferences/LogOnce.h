@@ -5,7 +5,8 @@
 
 namespace korvane {
 
-// Writes the message to the platform log unless this process wrote the same one before. Thread: any.
-void logOnce(const QString &message);
+// Writes the message to the platform log unless this process wrote the same one before, or one of the same subject if
+// there is a subject. Thread: any.
+void logOnce(const QString &message, const QString &subject = {});
 
 } // namespace korvane

@@ -2,6 +2,7 @@
 #include "Platform/Social/DataFile.h"
 
 #include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/LocalizedText.h"
 
 #include <QFile>
 
@@ -67,19 +68,19 @@ std::optional<DataFile> DataFile::create(const QString &folder, std::optional<NS
     makePrivateFolder(folder);
     FileDescriptor file = unnamedFile(QFile::encodeName(folder));
     if (file) return DataFile(std::move(file));
-    setError(error, NSError::errorWithErrno(errno, QStringLiteral("Cannot write to %1").arg(folder)));
+    setError(error, NSError::errorWithErrno(errno, localizedText("Cannot write to %1", folder)));
     return std::nullopt;
 }
 
 std::optional<qint64> DataFile::append(const NSData &data, std::optional<NSError> *error) {
     const qint64 offset = (_size + pageSize - 1) / pageSize * pageSize;
     if (!copyByHand(data, copyRange(data, _file.get(), offset), _file.get(), offset)) {
-        setError(error, NSError::errorWithErrno(errno, QStringLiteral("Cannot copy the data to be shared")));
+        setError(error, NSError::errorWithErrno(errno, localizedText("Cannot copy the data to be shared")));
         return std::nullopt;
     }
     if (!data.isIntact()) {
         setError(error, NSError::errorWithDescription(NSCocoaErrorDomain, 256,
-                                                      QStringLiteral("A file changed while it was being shared.")));
+                                                      localizedText("A file changed while it was being shared.")));
         return std::nullopt;
     }
     _size = offset + data.length();
@@ -91,7 +92,7 @@ std::optional<qint64> DataFile::append(const NSData &data, std::optional<NSError
 FileDescriptor DataFile::finish(std::optional<NSError> *error) {
     const QByteArray self = "/proc/self/fd/" + QByteArray::number(_file.get());
     FileDescriptor readable(::open(self.constData(), O_RDONLY | O_CLOEXEC));
-    if (!readable) setError(error, NSError::errorWithErrno(errno, QStringLiteral("Cannot open the data to be shared")));
+    if (!readable) setError(error, NSError::errorWithErrno(errno, localizedText("Cannot open the data to be shared")));
     _file.reset();
     return readable;
 }

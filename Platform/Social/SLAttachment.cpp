@@ -2,6 +2,7 @@
 #include "Platform/Social/SLAttachment.h"
 
 #include "Platform/AssetsLibrary/ALAssetsLibrary.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/NSByteCountFormatter.h"
 #include "Platform/ImageIO/CGImageSource.h"
 #include "Platform/ImageIO/PictureProgram.h"
@@ -34,16 +35,16 @@ std::optional<PhotoFile> openPhoto(const QByteArray &path, std::optional<NSError
     const auto data = NSData::dataWithContentsOfFile(path, error);
     if (!data) return std::nullopt;
     if (data->length() > largestPhoto) {
-        setError(error, unusable(path, QStringLiteral("the file has %1, Flickr takes photos of up to 200 MB")
-                                           .arg(NSByteCountFormatter::stringFromByteCount(
-                                               float(data->length()), NSByteCountFormatterCountStyleFile))));
+        setError(error, unusable(path, localizedText("the file has %1, Flickr takes photos of up to 200 MB",
+                                                     NSByteCountFormatter::stringFromByteCount(
+                                                         float(data->length()), NSByteCountFormatterCountStyleFile))));
         return std::nullopt;
     }
     const auto source = CGImageSource::createWithData(*data);
     const QString type = source ? source->type() : QString();
     if (!type.isEmpty()) return PhotoFile{*data, type};
-    setError(error, unusable(path, source ? QStringLiteral("the file is not a picture")
-                                          : QStringLiteral("the file is empty")));
+    setError(error,
+             unusable(path, source ? localizedText("the file is not a picture") : localizedText("the file is empty")));
     return std::nullopt;
 }
 
@@ -92,9 +93,9 @@ std::optional<SLAttachment> SLAttachment::videoAttachment(const QByteArray &path
     if (!data) return std::nullopt;
     std::optional<NSError> reason;
     if (data->length() == 0)
-        reason = unusable(path, QStringLiteral("the file is empty"));
+        reason = unusable(path, localizedText("the file is empty"));
     else if (UTTypeConformsTo(typeIdentifierForData(data->subdata(0, typeProbe)), kUTTypeImage))
-        reason = unusable(path, QStringLiteral("the file is a picture; share it to Flickr"));
+        reason = unusable(path, localizedText("the file is a picture; share it to Flickr"));
     const auto asset = ALAssetsLibrary::assetURLForFile(path);
     const NSURL url = asset.value_or(absoluteURL(path));
     if (!reason) ALAssetsLibrary::_probeVideoURL(url, path, &reason);

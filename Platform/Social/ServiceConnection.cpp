@@ -1,6 +1,7 @@
 // A connection to the upload service, which means the same settings as this program.
 #include "Platform/Social/ServiceConnection.h"
 
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Social/RemoteServiceError.h"
 #include "Platform/Social/ServiceSettings.h"
 #include "Platform/Social/SessionBus.h"
@@ -39,7 +40,7 @@ ServiceConnection::Outcome ServiceConnection::open(int milliseconds, std::option
     _isOpen = true;
     const auto bus = QDBusConnection::connectToBus(*address, _connectionName);
     if (!bus.isConnected())
-        fail(error, QStringLiteral("The session bus cannot be reached: %1").arg(bus.lastError().message()));
+        fail(error, localizedText("The session bus cannot be reached: %1", bus.lastError().message()));
     const Outcome outcome = bus.isConnected() ? _agreeOnSettings(milliseconds, error) : Failed;
     if (outcome != Answered) close();
     return outcome;
@@ -73,7 +74,7 @@ ServiceConnection::Outcome ServiceConnection::call(const QString &path, const QS
         *answer = reply.arguments();
         return Answered;
     }
-    fail(error, QStringLiteral("The upload service (korvane-uploadd) cannot be reached: %1").arg(reply.errorMessage()));
+    fail(error, localizedText("The upload service (korvane-uploadd) cannot be reached: %1", reply.errorMessage()));
     const auto type = QDBusError(reply).type();
     return type == QDBusError::NoReply || type == QDBusError::Disconnected ? Lost : Failed;
 }
@@ -82,7 +83,7 @@ ServiceConnection::Outcome ServiceConnection::call(const QString &path, const QS
 QDBusMessage ServiceConnection::_replyUnlessInterrupted(const QDBusMessage &message, int milliseconds) const {
     const QDBusPendingCall call = bus().asyncCall(message, milliseconds);
     for (auto pause = shortestPause; !call.isFinished(); pause = std::min(2 * pause, longestPause)) {
-        if (_isInterrupted) return QDBusMessage::createError(QDBusError::NoReply, QStringLiteral("It was broken off."));
+        if (_isInterrupted) return QDBusMessage::createError(QDBusError::NoReply, localizedText("It was broken off."));
         std::this_thread::sleep_for(pause);
     }
     return call.reply();

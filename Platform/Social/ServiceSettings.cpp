@@ -3,6 +3,7 @@
 
 #include "Platform/AssetsLibrary/ALAssetsLibrary.h"
 #include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Preferences/KorvaneSettings.h"
 
 #include <QDBusArgument>
@@ -37,18 +38,18 @@ ServiceSettings ServiceSettings::fromDictionary(const QVariantMap &properties) {
 
 std::optional<QString> ServiceSettings::difference(const ServiceSettings &service) const {
     const auto sentence = [](const QString &what, const QString &theirs, const QString &ours) {
-        return QStringLiteral("The upload service that is running uses %1 %2, this program %3. "
-                              "End the service (it starts again by itself) or use the same settings.")
-            .arg(what, theirs, ours);
+        return localizedText("The upload service that is running uses %1 %2, this program %3. "
+                             "End the service (it starts again by itself) or use the same settings.",
+                             what, theirs, ours);
     };
     if (spoolFolder != service.spoolFolder)
-        return sentence(QStringLiteral("the spool folder"), service.spoolFolder, spoolFolder);
-    for (const auto &[ours, theirs, what] :
-         {std::tuple{&hosts, &service.hosts, QStringLiteral("the %1 host")},
-          std::tuple{&photoRoots, &service.photoRoots, QStringLiteral("the %1 folder")}})
+        return sentence(localizedText("the spool folder"), service.spoolFolder, spoolFolder);
+    for (const auto &[ours, theirs] : {std::pair{&hosts, &service.hosts}, std::pair{&photoRoots, &service.photoRoots}})
         for (auto it = ours->cbegin(); it != ours->cend(); ++it)
             if (theirs->value(it.key()) != *it)
-                return sentence(what.arg(it.key()), theirs->value(it.key()).toString(), it->toString());
+                return sentence(ours == &hosts ? localizedText("the %1 host", it.key())
+                                               : localizedText("the %1 folder", it.key()),
+                                theirs->value(it.key()).toString(), it->toString());
     return std::nullopt;
 }
 

@@ -3,6 +3,7 @@
 
 #include "Platform/Foundation/FileDescriptor.h"
 #include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/ProgramPath.h"
 #include "Platform/Social/RemoteServiceError.h"
 
@@ -72,9 +73,9 @@ std::optional<QString> SessionBus::addressStartingService(std::optional<NSError>
     }
     setError(error, NSError::errorWithDescription(
                         RemoteServiceErrorDomain, RemoteServiceErrorUnreachable,
-                        QStringLiteral("There is no session bus, and the upload service %1 could not be started. "
-                                       "Its log says why: %2")
-                            .arg(program, stateFolder() + QStringLiteral("/korvane-uploadd.log"))));
+                        localizedText("There is no session bus, and the upload service %1 could not be started. "
+                                      "Its log says why: %2",
+                                      program, stateFolder() + QStringLiteral("/korvane-uploadd.log"))));
     return std::nullopt;
 }
 

@@ -1,6 +1,7 @@
 // How records cross the bus: property-list values, large data as ranges of one file.
 #include "Platform/Social/WireRecord.h"
 
+#include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Social/DataFile.h"
 #include "Platform/Social/RemoteServiceError.h"
 
@@ -30,7 +31,7 @@ public:
             _size += it.key().size() + 16;
         }
         if (_size > WireRecord::messageLimit) {
-            setError(error, unusable(QStringLiteral("Too much to share at once; share fewer items.")));
+            setError(error, unusable(localizedText("Too much to share at once; share fewer items.")));
             return std::nullopt;
         }
         return result;
@@ -56,8 +57,8 @@ private:
         case QMetaType::Double:
             return value;
         default:
-            setError(error, unusable(QStringLiteral("\"%1\" holds a value of type %2, which cannot be shared.")
-                                         .arg(_key, QLatin1String(value.typeName()))));
+            setError(error, unusable(localizedText("\"%1\" holds a value of type %2, which cannot be shared.", _key,
+                                                   QLatin1String(value.typeName()))));
             return std::nullopt;
         }
     }
@@ -66,7 +67,7 @@ private:
         for (const QString &text : texts) {
             _size += text.toUtf8().size();
             if (!text.contains(QChar::Null)) continue;
-            setError(error, unusable(QStringLiteral("\"%1\" holds a NUL character; remove it.").arg(_key)));
+            setError(error, unusable(localizedText("\"%1\" holds a NUL character; remove it.", _key)));
             return false;
         }
         return true;
@@ -143,7 +144,7 @@ std::optional<QVariantMap> WireRecord::decode(const QVariantMap &record,
         const auto range = qdbus_cast<DataRange>(argument);
         if (available < 0 || range.length > quint64(available) || range.offset > quint64(available) - range.length) {
             const QString text =
-                QStringLiteral("The data of \"%1\" lies outside of the file that came with it.").arg(it.key());
+                localizedText("The data of \"%1\" lies outside of the file that came with it.", it.key());
             setError(error,
                      NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorUnusableData, text));
             return std::nullopt;

@@ -55,7 +55,7 @@ TEST_F(ExportProgram, FailsTheExportWithAClearErrorAndLeavesNoFile) {
         {"ffmpeg", "echo \"Unknown encoder 'libx264'\" >&2; exit 1", AVErrorEncoderNotFound, "libx264"},
         {"ffprobe", "exec sleep 1000", AVErrorExportFailed, "took too long"},
         {"ffprobe", "kill -9 $$", AVErrorExportFailed, "stopped by signal 9"},
-        {"ffprobe", "exec cat /dev/zero", AVErrorExportFailed, "broke off"},
+        {"ffprobe", "exec cat /dev/zero", AVErrorExportFailed, "could not be looked at"},
         {"ffprobe", "echo '[1, 2]'", AVErrorExportFailed, "not understood"},
         {"ffprobe", "echo '{\"format\": 7, \"streams\": {\"a\": [-1]}}'", AVErrorFileFormatNotRecognized,
          "is not a video"},

@@ -171,10 +171,8 @@ TEST_F(SignInTest, TellsWhatFailedAndWhatToDo) {
         {"request_token", answer(401, "oauth_problem=consumer_key_unknown"), ACErrorApplicationKeyRefused, "key"},
         {"request_token", answer(302, good), ACErrorSignInNotUnderstood, "302"},
         {"request_token", answer(200, ""), ACErrorSignInNotUnderstood, "\"oauth_token\""},
-        {"request_token", answer(200, "<html><p>hush</html>"), ACErrorSignInNotUnderstood, "\"oauth_token\""},
         {"request_token", answer(200, "oauth_callback_confirmed=true&oauth_token=a"), ACErrorSignInNotUnderstood,
          "\"oauth_token_secret\""},
-        {"request_token", answer(200, "oauth_token=a&oauth_token_secret=hush"), ACErrorSignInNotUnderstood, "confirm"},
         {"request_token", answer(200, QByteArray(good).replace("true", "false")), ACErrorSignInNotUnderstood,
          "confirm"},
         {"request_token", answer(200, good + "&oauth_token=b"), ACErrorSignInNotUnderstood, "twice"},
@@ -315,11 +313,8 @@ TEST_F(SignInTest, KeepsTheApplicationsKeysApartFromAccounts) {
     EXPECT_FALSE(says(home.contents(QStringLiteral("config/korvane/application-keys.json")), "hush"));
     EXPECT_TRUE(store.accountsWithAccountType(flickr).empty());
 
-    for (const ApplicationKeys &wrong : {ApplicationKeys{},
-                                         {QStringLiteral("a"), {}},
-                                         {QStringLiteral("a b"), QStringLiteral("c")},
-                                         {QStringLiteral("a"), QStringLiteral("ü")},
-                                         {QString(300, u'a'), QStringLiteral("c")}}) {
+    for (const ApplicationKeys &wrong :
+         {ApplicationKeys{QStringLiteral("a"), QStringLiteral("ü")}, {QString(300, u'a'), QStringLiteral("c")}}) {
         EXPECT_FALSE(wrong.store(flickr, &error));
         EXPECT_EQ(error->code(), ACErrorCredentialInvalid);
     }

@@ -67,6 +67,10 @@ check_start("" "${prefix}" "${prefix}/share/systemd/user" "${prefix}/etc/xdg/aut
 check_desktop("" "${prefix}")
 file(GLOB desktopFiles "${prefix}/share/applications/*.desktop")
 validate(desktop-file-validate ${desktopFiles})
+find_program(lists update-desktop-database)
+if(lists)
+  check_file("${prefix}/share/applications/mimeinfo.cache" "x-scheme-handler/prefs=korvane-sheet-settings.desktop;")
+endif()
 validate(appstreamcli validate --no-net "${prefix}/share/metainfo/com.zorvex.korvane.metainfo.xml")
 
 foreach(program korvane korvane-sheet korvane-uploadd korvane-picture korvane-standin)
@@ -78,8 +82,11 @@ foreach(page korvane korvane-sheet korvane-uploadd)
   check_file("${prefix}/share/man/man1/${page}.1" "korvane ")
 endforeach()
 check_file("${prefix}/share/bash-completion/completions/korvane" "complete -F _korvane korvane")
-check_file("${prefix}/share/zsh/site-functions/_korvane" "#compdef korvane")
+check_file("${prefix}/share/zsh/site-functions/_korvane" "#compdef korvane\n")
 check_file("${prefix}/share/fish/vendor_completions.d/korvane.fish" "complete -c korvane")
+check_file("${prefix}/share/bash-completion/completions/korvane-sheet" "complete -F _korvane_sheet korvane-sheet")
+check_file("${prefix}/share/zsh/site-functions/_korvane-sheet" "#compdef korvane-sheet\n")
+check_file("${prefix}/share/fish/vendor_completions.d/korvane-sheet.fish" "complete -c korvane-sheet")
 
 # An embedding program brings no library of ours besides those that the package finds.
 check_file("${prefix}/${include}/korvane/Korvane/FlickrPost.h")

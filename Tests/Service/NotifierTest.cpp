@@ -1,7 +1,10 @@
 // Notifications, and what happens when somebody taps one.
 #include "Service/Notifier.h"
+#include "Service/UploadsWindow.h"
 #include "Tests/Support/TestBus.h"
 #include "Tests/Support/Testing.h"
+
+#include <csignal>
 
 using namespace korvane;
 using namespace korvane::test;
@@ -74,6 +77,43 @@ TEST(Notifier, TellsOnceOfManyAndShowsTheUploadsWhenItIsTapped) {
     without.uploadFinished(job(UploadState::Done, "d"));
     ASSERT_TRUE(waitFor([&] { return desktop.shown.size() == 3; }));
     EXPECT_TRUE(desktop.shown[2].actions.isEmpty()) << "there is no window to show";
+}
+
+TEST(UploadsWindow, OpensAsAFreshProgramAndInAUnitOfItsOwnWhereTheServiceIsOne) {
+    TemporaryHome home;
+    const auto script = [&](const char *name, const QByteArray &text) {
+        const QByteArray path = home.file(name, "#!/bin/sh\n" + text + '\n');
+        QFile::setPermissions(QFile::decodeName(path), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        return QFile::decodeName(path);
+    };
+    const QString said = home.path(QStringLiteral("said"));
+    const QString window = script("bin/korvane-sheet", "grep -E '^Sig(Blk|Ign)' /proc/self/status >$HOME/new; echo $* "
+                                                       ">>$HOME/new; mv $HOME/new $HOME/said");
+    home.setEnvironment("PATH", QFile::encodeName(home.path(QStringLiteral("bin:"))) + qgetenv("PATH"));
+    const auto oldHandler = std::signal(SIGPIPE, SIG_IGN);
+    sigset_t ours, before;
+    sigemptyset(&ours);
+    sigaddset(&ours, SIGTERM);
+    ::pthread_sigmask(SIG_BLOCK, &ours, &before);
+    const auto opened = [&](const QByteArray &unit) {
+        home.setEnvironment("SYSTEMD_EXEC_PID", unit);
+        UploadsWindow::open(window);
+        EXPECT_TRUE(waitFor([&] { return QFile::exists(said); }));
+        QFile file(said);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray text = file.readAll();
+        file.remove();
+        return text;
+    };
+    const QByteArray alone = "SigBlk:\t0000000000000000\nSigIgn:\t0000000000000000\n--uploads\n";
+    const QByteArray unit = QByteArray::number(::getpid());
+    script("bin/systemd-run", "exit 1");
+    EXPECT_EQ(opened("1"), alone);
+    EXPECT_EQ(opened(unit), alone) << "systemd is out of reach";
+    script("bin/systemd-run", "echo $* >$HOME/new; mv $HOME/new $HOME/said");
+    EXPECT_EQ(opened(unit), "--user --quiet --collect -- " + QFile::encodeName(window) + " --uploads\n");
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    std::signal(SIGPIPE, oldHandler);
 }
 
 #include "NotifierTest.moc"
