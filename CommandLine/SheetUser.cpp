@@ -4,6 +4,7 @@
 #include "CommandLine/Arguments.h"
 #include "CommandLine/Output.h"
 #include "FrontEnd/ExitStatus.h"
+#include "FrontEnd/FlickrSheet.h"
 #include "Platform/Accounts/ACAccountStore.h"
 #include "Platform/Social/RemoteServiceError.h"
 
@@ -29,8 +30,7 @@ bool opens(SLComposeServiceViewController &sheet, const std::shared_ptr<ACAccoun
 } // namespace
 
 std::shared_ptr<FlickrComposeViewController> SheetUser::opensFlickrSheet(std::vector<SLAttachment> attachments) {
-    FlickrComposeViewController::forgetUnknownAudience();
-    const auto sheet = FlickrComposeViewController::initWithNibName();
+    const auto sheet = makeFlickrSheet();
     sheet->setAttachments(std::move(attachments));
     return opens(*sheet, sheet->flickrAccount(), ACAccountTypeIdentifierFlickr) ? sheet : nullptr;
 }

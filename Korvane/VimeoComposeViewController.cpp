@@ -94,6 +94,10 @@ bool VimeoComposeViewController::validateText(const QString &text) {
     return !text.isEmpty();
 }
 
+std::optional<qint64> VimeoComposeViewController::bytesRemaining() const {
+    return qint64(VimeoLongestTitle) - qint64(bytesOf(textView()->text()));
+}
+
 bool VimeoComposeViewController::textViewShouldChangeTextInRange(const std::shared_ptr<UITextView> &textView,
                                                                  NSRange range, const QString &replacement) {
     const quint64 current = bytesOf(textView->text());

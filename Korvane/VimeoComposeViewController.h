@@ -44,6 +44,9 @@ public:
     void viewDidAppear(bool animated) override;
     // A video needs a title.
     bool validateText(const QString &text) override;
+    std::optional<qint64> bytesRemaining() const override;
+    // For the sizes that the exports will have.
+    bool configurationItemsNeedAttachments() const override { return true; }
     // A change that would make the title longer than VimeoLongestTitle is refused as a whole.
     bool textViewShouldChangeTextInRange(const std::shared_ptr<UITextView> &textView, NSRange range,
                                          const QString &replacement) override;

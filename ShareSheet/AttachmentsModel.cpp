@@ -1,65 +1,46 @@
 // What is shared, from the files that were given to the attachments of the sheet.
 #include "ShareSheet/AttachmentsModel.h"
 
-#include "Platform/Foundation/Dispatch.h"
+#include "ShareSheet/Background.h"
 #include "ShareSheet/ThumbnailProvider.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
-#include <atomic>
 
 namespace korvane {
 
-// Shared with the queue; the model is reached from the main thread only, and not after its end.
-struct AttachmentsModel::Work {
-    AttachmentsModel *model; // null after its end; main thread
-    std::atomic_bool isWanted = true;
-    Kind kind;
-    std::vector<SharedFile> files;
+namespace {
 
-    static void run(const std::shared_ptr<Work> &work) {
-        for (const SharedFile &file : work->files) {
-            if (!work->isWanted) return;
-            std::optional<NSError> error;
-            std::optional<SLAttachment> attachment;
-            const QString atSight = file.problemAtSight();
-            if (atSight.isEmpty())
-                attachment = work->kind == Kind::Video ? SLAttachment::videoAttachment(file.path, &error)
-                                                       : SLAttachment::photoAttachment(file.path, false, &error);
-            const QString problem = error ? error->localizedDescription() : atSight;
-            dispatchMain([work, attachment, problem] {
-                if (work->model) work->model->_arrived(attachment, problem);
-            });
-        }
-    }
-};
+constexpr int mostProblems = 5; // that are named
+
+} // namespace
 
 AttachmentsModel::AttachmentsModel(Kind kind, const QByteArrayList &arguments, QObject *parent)
     : QAbstractListModel(parent), _kind(kind) {
     for (const QByteArray &argument : arguments) {
         auto file = SharedFile::fromArgument(argument);
-        if (isVideo() && !_entries.empty())
-            file.problem =
-                QCoreApplication::translate("AttachmentsModel", "only one video at a time can be shared to Vimeo");
+        if (isVideo() && !_entries.empty()) file.problem = tr("only one video at a time can be shared to Vimeo");
         _entries.push_back({std::move(file), std::nullopt});
     }
 }
 
-AttachmentsModel::~AttachmentsModel() {
-    if (!_work) return;
-    _work->model = nullptr;
-    _work->isWanted = false;
+void AttachmentsModel::start() {
+    _isStarted = true;
+    _prepareNext();
+    if (count() > 0) Q_EMIT dataChanged(index(0), index(count() - 1), {ThumbnailRole});
 }
 
-void AttachmentsModel::start() {
-    _work = std::make_shared<Work>();
-    _work->model = this;
-    _work->kind = _kind;
-    for (const Entry &entry : _entries)
-        _work->files.push_back(entry.file);
-    dispatchGlobal([work = _work] { Work::run(work); });
-    if (count() > 0) Q_EMIT dataChanged(index(0), index(count() - 1), {ThumbnailRole});
+void AttachmentsModel::_prepareNext() {
+    if (!isPreparing()) return;
+    inBackground(this, [this, file = _entries[_prepared].file, isVideo = isVideo()]() -> std::function<void()> {
+        std::optional<NSError> error;
+        std::optional<SLAttachment> attachment;
+        QString problem = file.problemAtSight();
+        if (problem.isEmpty())
+            attachment = isVideo ? SLAttachment::videoAttachment(file.path, &error)
+                                 : SLAttachment::photoAttachment(file.path, false, &error);
+        if (error) problem = error->localizedDescription();
+        return [this, attachment, problem] { _arrived(attachment, problem); };
+    });
 }
 
 void AttachmentsModel::_arrived(std::optional<SLAttachment> attachment, const QString &problem) {
@@ -72,6 +53,7 @@ void AttachmentsModel::_arrived(std::optional<SLAttachment> attachment, const QS
     if (entry.file.problem.startsWith(prefix)) entry.file.problem.remove(0, prefix.size());
     Q_EMIT dataChanged(index(row), index(row), {ProblemRole});
     Q_EMIT changed();
+    _prepareNext();
 }
 
 std::vector<SLAttachment> AttachmentsModel::attachments() const {
@@ -87,10 +69,11 @@ int AttachmentsModel::usableCount() const {
 
 QString AttachmentsModel::problems() const {
     QStringList lines;
+    const int bad = count() - usableCount();
     for (const Entry &entry : _entries)
-        if (!entry.file.problem.isEmpty())
-            lines.append(
-                QCoreApplication::translate("AttachmentsModel", "%1: %2").arg(entry.file.name, entry.file.problem));
+        if (!entry.file.problem.isEmpty() && lines.size() < mostProblems)
+            lines.append(tr("%1: %2").arg(entry.file.name, entry.file.problem));
+    if (bad > mostProblems) lines.append(tr("and %n more file(s)", nullptr, bad - mostProblems));
     return lines.join(u'\n');
 }
 
@@ -104,12 +87,13 @@ void AttachmentsModel::leaveProblemsOut() {
 }
 
 QVariant AttachmentsModel::data(const QModelIndex &index, int role) const {
-    const Entry &entry = _entries.at(size_t(index.row()));
+    if (!index.isValid() || index.row() >= count()) return {};
+    const Entry &entry = _entries[size_t(index.row())];
     switch (role) {
     case NameRole:
         return entry.file.name;
     case ThumbnailRole:
-        if (!_work || !entry.file.problem.isEmpty()) return QString();
+        if (!_isStarted || !entry.file.problem.isEmpty()) return QString();
         return ThumbnailProvider::address(entry.file.path, isVideo());
     case ProblemRole:
         return entry.file.problem;

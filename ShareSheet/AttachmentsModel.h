@@ -6,7 +6,6 @@
 
 #include <QAbstractListModel>
 
-#include <memory>
 #include <vector>
 
 namespace korvane {
@@ -18,19 +17,18 @@ class AttachmentsModel : public QAbstractListModel {
     Q_PROPERTY(int usableCount READ usableCount NOTIFY changed) // those of which nothing bad is known
     Q_PROPERTY(bool isPreparing READ isPreparing NOTIFY changed)
     Q_PROPERTY(bool isVideo READ isVideo CONSTANT)
-    Q_PROPERTY(QString problems READ problems NOTIFY changed) // a line for each file that cannot be used
+    Q_PROPERTY(QString problems READ problems NOTIFY changed) // a line for each of the first files that cannot be used
 public:
     enum class Kind { Photos, Video };
     enum Role { NameRole = Qt::UserRole + 1, ThumbnailRole, ProblemRole };
 
     // Of several videos the first is taken.
     AttachmentsModel(Kind kind, const QByteArrayList &arguments, QObject *parent = nullptr);
-    ~AttachmentsModel() override;
 
     // Begins to make the attachments. Once.
     void start();
     // Whether all that was given can be handed over. Files that cannot be used hold it back until they are left out.
-    bool isReady() const { return !isPreparing() && problems().isEmpty() && count() > 0; }
+    bool isReady() const { return !isPreparing() && usableCount() == count() && count() > 0; }
     std::vector<SLAttachment> attachments() const;
 
     int count() const { return int(_entries.size()); }
@@ -52,14 +50,14 @@ private:
         SharedFile file;
         std::optional<SLAttachment> attachment;
     };
-    struct Work;
 
+    void _prepareNext();
     void _arrived(std::optional<SLAttachment> attachment, const QString &problem);
 
     const Kind _kind;
     std::vector<Entry> _entries;
     size_t _prepared = 0; // so many, from the first, are made or known to be unusable
-    std::shared_ptr<Work> _work;
+    bool _isStarted = false;
 };
 
 } // namespace korvane

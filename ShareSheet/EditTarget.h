@@ -15,6 +15,11 @@ public:
     virtual void userBeginsEditing(int row) = 0;
     virtual void userEndsEditing(int row) = 0;
     virtual void userPressesReturn(int row) = 0;
+    // What an input method has in the field by now, which is not in the text yet; empty once it is, or is dropped.
+    virtual void userComposes(int row, const QString &composition) {
+        Q_UNUSED(row)
+        Q_UNUSED(composition)
+    }
 };
 
 } // namespace korvane

@@ -24,6 +24,7 @@ void EditableText::setInput(QQuickItem *input) {
     _input = input;
     if (_input) {
         connect(_input, SIGNAL(textChanged()), this, SLOT(_inputTextChanged()));
+        connect(_input, SIGNAL(preeditTextChanged()), this, SLOT(_inputCompositionChanged()));
         connect(_input, &QQuickItem::activeFocusChanged, this, &EditableText::_inputFocusChanged);
         _show(_text, 0);
     }
@@ -58,10 +59,30 @@ void EditableText::_inputTextChanged() {
     const auto change = TextChange::between(before, after, _input->property("cursorPosition").toLongLong());
     if (!change) return;
     _isOffering = true;
-    target->userReplaces(_row, change->range, change->replacement);
+    const bool isTaken = target->userReplaces(_row, change->range, change->replacement);
     _isOffering = false;
-    // Where the cursor was before the change, if that is the text again.
-    _show(target->editedText(_row), change->range.location + change->range.length);
+    const qint64 cursorBefore = change->range.location + change->range.length;
+    if (!isTaken) _takeBack(before, cursorBefore);
+    _show(target->editedText(_row), cursorBefore);
+}
+
+// Unlike with another text the field can still undo what was done before. Its last step may have begun earlier than
+// what was refused: the part of it that was taken comes in again.
+void EditableText::_takeBack(const QString &text, qint64 cursor) {
+    _isShowing = true;
+    QMetaObject::invokeMethod(_input, "undo");
+    if (const auto lost = TextChange::between(_input->property("text").toString(), text, cursor)) {
+        const int start = int(lost->range.location);
+        QMetaObject::invokeMethod(_input, "remove", Q_ARG(int, start), Q_ARG(int, start + int(lost->range.length)));
+        QMetaObject::invokeMethod(_input, "insert", Q_ARG(int, start), Q_ARG(QString, lost->replacement));
+    }
+    _input->setProperty("cursorPosition", int(cursor));
+    _isShowing = false;
+}
+
+void EditableText::_inputCompositionChanged() {
+    const auto target = editTarget(_target);
+    if (target && _input) target->userComposes(_row, _input->property("preeditText").toString());
 }
 
 void EditableText::_show(const QString &text, qint64 cursor) {

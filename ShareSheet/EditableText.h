@@ -44,10 +44,12 @@ Q_SIGNALS:
 private Q_SLOTS:
     void _inputTextChanged();
     void _inputFocusChanged();
+    void _inputCompositionChanged();
 
 private:
     void _followFocus();
     void _show(const QString &text, qint64 cursor);
+    void _takeBack(const QString &text, qint64 cursor);
 
     QPointer<QQuickItem> _input;
     QPointer<QObject> _target;

@@ -6,7 +6,7 @@
 namespace korvane {
 namespace {
 
-constexpr int longestWait = 500; // milliseconds
+constexpr int lookInterval = 500; // milliseconds
 
 // The first frame that comes may have been begun before the change.
 class FrameWait : public QObject {
@@ -14,7 +14,8 @@ public:
     FrameWait(QQuickWindow &window, std::function<void()> work)
         : QObject(&window), _window(window), _work(std::move(work)) {
         connect(&window, &QQuickWindow::frameSwapped, this, &FrameWait::_frameShown, Qt::QueuedConnection);
-        QTimer::singleShot(longestWait, this, &FrameWait::_end);
+        connect(&_timer, &QTimer::timeout, this, &FrameWait::_lookWhetherSeen);
+        _timer.start(lookInterval);
         window.update();
     }
 
@@ -22,6 +23,9 @@ private:
     void _frameShown() {
         if (++_frames < 2) return _window.update();
         _end();
+    }
+    void _lookWhetherSeen() {
+        if (!_window.isExposed()) _end();
     }
     void _end() {
         if (!_work) return;
@@ -32,6 +36,7 @@ private:
 
     QQuickWindow &_window;
     std::function<void()> _work;
+    QTimer _timer;
     int _frames = 0;
 };
 

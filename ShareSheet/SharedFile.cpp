@@ -4,6 +4,7 @@
 #include "Platform/Foundation/NSURL.h"
 
 #include <QCoreApplication>
+#include <QSysInfo>
 #include <QUrl>
 
 #include <cerrno>
@@ -20,14 +21,18 @@ bool isAddress(const QByteArray &argument) {
     return colon > 1 && argument.left(colon).indexOf('/') < 0;
 }
 
+bool isThisHost(const QString &host) {
+    return host.isEmpty() || host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
+}
+
 // Some file managers leave spaces and letters of other scripts as they are.
 QByteArray pathOfAddress(const QByteArray &address) {
     const auto exact = NSURL::URLWithString(QString::fromUtf8(address));
-    if (exact && exact->isFileURL() && (exact->host().isEmpty() || exact->isLoopback()))
+    if (exact && exact->isFileURL() && (isThisHost(exact->host()) || exact->isLoopback()))
         return exact->fileSystemRepresentation();
     if (exact) return {};
     const QUrl url(QString::fromUtf8(address));
-    return url.isLocalFile() && url.host().isEmpty() ? url.toLocalFile().toUtf8() : QByteArray();
+    return url.scheme() == QStringLiteral("file") && isThisHost(url.host()) ? url.path().toUtf8() : QByteArray();
 }
 
 } // namespace

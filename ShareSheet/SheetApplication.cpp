@@ -2,9 +2,10 @@
 #include "ShareSheet/SheetApplication.h"
 
 #include "FrontEnd/FileLimit.h"
+#include "FrontEnd/FlickrSheet.h"
 #include "FrontEnd/SystemLog.h"
-#include "Korvane/FlickrComposeViewController.h"
 #include "Korvane/VimeoComposeViewController.h"
+#include "Platform/Accounts/ACAccountStore.h"
 #include "ShareSheet/EditableText.h"
 #include "ShareSheet/FrameWait.h"
 #include "ShareSheet/ThumbnailMaker.h"
@@ -45,6 +46,7 @@ bool SheetApplication::open(const SheetRequest &request) {
     case SheetRequest::Settings:
         return _openSettings(request.settingsOf == SheetRequest::Vimeo);
     case SheetRequest::Help:
+    case SheetRequest::Version:
         break;
     }
     return false;
@@ -56,13 +58,22 @@ bool SheetApplication::_openSheet(const SheetRequest &request) {
     const bool isVideo = request.page == SheetRequest::Vimeo;
     _attachments = std::make_unique<AttachmentsModel>(
         isVideo ? AttachmentsModel::Kind::Video : AttachmentsModel::Kind::Photos, request.files);
+    std::function<void()> findAccount;
     if (isVideo) {
-        _controller = VimeoComposeViewController::initWithNibName();
+        const auto vimeo = VimeoComposeViewController::initWithNibName();
+        findAccount = [vimeo] {
+            vimeo->setVimeoAccount(vimeo->accountStore()->accountInUse(ACAccountTypeIdentifierVimeo));
+        };
+        _controller = vimeo;
     } else {
-        FlickrComposeViewController::forgetUnknownAudience();
-        _controller = FlickrComposeViewController::initWithNibName();
+        const auto flickr = makeFlickrSheet();
+        findAccount = [flickr] {
+            flickr->setFlickrAccount(flickr->accountStore()->accountInUse(ACAccountTypeIdentifierFlickr));
+        };
+        _controller = flickr;
     }
-    _sheet = std::make_unique<SheetModel>(_controller, *_attachments, isVideo ? qsizetype(VimeoLongestTitle) : 0);
+    _sheet = std::make_unique<SheetModel>(_controller, *_attachments);
+    connect(_sheet.get(), &SheetModel::appearsAgain, this, findAccount); // the sheet itself looks for it only once
     connect(_sheet.get(), &SheetModel::finished, this, &SheetApplication::_end);
     connect(_sheet.get(), &SheetModel::settingsRequested, this, &SheetApplication::openPreferences);
     if (!_openWindow(QStringLiteral("SheetPage"), {{QStringLiteral("sheet"), QVariant::fromValue(_sheet.get())}}))
@@ -118,11 +129,25 @@ void SheetApplication::openPreferences(const NSURL &address) {
                               Q_ARG(QVariant, properties));
 }
 
+ExitStatus SheetApplication::_statusOf(SheetModel::Outcome outcome) const {
+    switch (outcome) {
+    case SheetModel::Outcome::Shared:
+        return ExitDone;
+    case SheetModel::Outcome::NothingUsable:
+        return ExitUsage;
+    case SheetModel::Outcome::LacksAccount:
+        return ExitNoAccount;
+    case SheetModel::Outcome::GivenUp:
+        break;
+    }
+    return _sheet->refusal() ? exitStatusOf(*_sheet->refusal()) : ExitUploadFailed;
+}
+
 // The sheet is kept until nobody waits for its answers any more; the window has gone by then.
-void SheetApplication::_end(int status) {
+void SheetApplication::_end(SheetModel::Outcome outcome) {
     if (window()) window()->hide();
     const auto timer = new QTimer(this);
-    connect(timer, &QTimer::timeout, this, [this, timer, status] {
+    connect(timer, &QTimer::timeout, this, [this, timer, status = _statusOf(outcome)] {
         if (_controller->isWaitingForAnswers()) return;
         timer->stop();
         Q_EMIT finished(status);

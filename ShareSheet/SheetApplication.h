@@ -1,6 +1,7 @@
 // The window program: what it is asked to show, and the window that shows it.
 #pragma once
 
+#include "FrontEnd/ExitStatus.h"
 #include "ShareSheet/Settings.h"
 #include "ShareSheet/SheetModel.h"
 #include "ShareSheet/SheetRequest.h"
@@ -44,7 +45,8 @@ private:
     void _endWithWindow();                        // of a page that has no say in it
     // Shows a page of that name (the file's, without its ending) with these properties.
     bool _openWindow(const QString &page, const QVariantMap &properties);
-    void _end(int status);
+    ExitStatus _statusOf(SheetModel::Outcome outcome) const;
+    void _end(SheetModel::Outcome outcome);
 
     QTranslator _texts;
     std::shared_ptr<SLComposeServiceViewController> _controller;

@@ -1,14 +1,17 @@
 // A share sheet, as the window shows it.
 #include "ShareSheet/SheetModel.h"
 
-#include "FrontEnd/ExitStatus.h"
 #include "Platform/UIKit/UITableViewController.h"
 #include "ShareSheet/EditableText.h"
 #include "ShareSheet/FrameWait.h"
 
-#include <QCoreApplication>
-
 namespace korvane {
+
+namespace {
+
+constexpr int fewBytes = 30;
+
+} // namespace
 
 class SheetModel::Observer : public SLComposeServiceViewControllerObserver, public UIViewObserver {
 public:
@@ -41,11 +44,9 @@ private:
     SheetModel &_model;
 };
 
-SheetModel::SheetModel(std::shared_ptr<SLComposeServiceViewController> sheet, AttachmentsModel &attachments,
-                       qsizetype longestText)
-    : _sheet(std::move(sheet)), _attachments(attachments), _longestText(longestText),
-      _observer(std::make_shared<Observer>(*this)),
-      _keyboard(std::make_shared<UIKeyboard>(&EditableText::commitComposition)), _status(ExitUploadFailed) {
+SheetModel::SheetModel(std::shared_ptr<SLComposeServiceViewController> sheet, AttachmentsModel &attachments)
+    : _sheet(std::move(sheet)), _attachments(attachments), _observer(std::make_shared<Observer>(*this)),
+      _keyboard(std::make_shared<UIKeyboard>(&EditableText::commitComposition)) {
     _sheet->addObserver(_observer);
     _sheet->textView()->addObserver(_observer);
     UIKeyboard::setActiveKeyboard(_keyboard);
@@ -67,6 +68,7 @@ void SheetModel::begin(QQuickWindow &window) {
 
 void SheetModel::appearAgain() {
     _lacksAccount = false;
+    Q_EMIT appearsAgain();
     _sheet->appear();
 }
 
@@ -74,17 +76,21 @@ QString SheetModel::title() const {
     return _sheet->title().value_or(QString());
 }
 
-int SheetModel::room() const {
-    return _longestText > 0 ? int(_longestText - text().toUtf8().size()) : -1;
+bool SheetModel::isRoomShort() const {
+    return room() >= 0 && (room() < fewBytes || _wasRefused);
 }
 
+// Where the text is a composition and nothing else, that will be the text once Post is pressed.
 bool SheetModel::canPost() const {
-    return !_isHandingOver && !_isFinished && _attachments.isReady() && _sheet->validateText(text());
+    return _canHandOver(_composition.isEmpty() ? text() : text() + _composition);
 }
 
-// What the details of a video offer depends on the video.
+bool SheetModel::_canHandOver(const QString &text) const {
+    return !_isHandingOver && !_isFinished && _attachments.isReady() && _sheet->validateText(text);
+}
+
 bool SheetModel::itemsAreEnabled() const {
-    return !isVideo() || _attachments.isReady();
+    return !_sheet->configurationItemsNeedAttachments() || _attachments.isReady();
 }
 
 QVariantList SheetModel::items() const {
@@ -120,9 +126,7 @@ void SheetModel::popOption() {
 // The window shows first that it hands over: the hand-over itself lets nothing be drawn.
 void SheetModel::post() {
     popOption();
-    if (!canPost() || !_window) return;
-    if (_lacksAccount) appearAgain();
-    if (_lacksAccount) return;
+    if (!_canHandOver(text()) || !_window) return;
     _setFailure({});
     _isHandingOver = true;
     Q_EMIT isHandingOverChanged();
@@ -133,26 +137,32 @@ void SheetModel::post() {
 }
 
 void SheetModel::_handOver() {
-    _sheet->userTapsPost();
     const auto &request = *_sheet->extensionContext();
-    if (request.state() == NSExtensionContext::State::Completed) return _finish(ExitDone);
-    const QString reason = request.error() ? request.error()->localizedDescription()
-                                           : QCoreApplication::translate("SheetModel", "No reason was given.");
-    _status = request.error() ? exitStatusOf(*request.error()) : ExitUploadFailed;
+    _sheet->userTapsPost();
+    if (request.state() == NSExtensionContext::State::Open) { // it lacks something; or did, and sees now that it has it
+        appearAgain();
+        if (hasAlert()) return _endHandOver();
+        _sheet->userTapsPost();
+    }
+    if (request.state() == NSExtensionContext::State::Completed) return _finish(Outcome::Shared);
+    _refusal = request.error();
     _sheet->extensionContext()->reopen();
+    _endHandOver();
+    const QString reason = _refusal ? _refusal->localizedDescription() : tr("No reason was given.");
+    _setFailure(tr("Nothing was shared. %1\nWhat you entered is still here: press Post to try again.").arg(reason));
+}
+
+void SheetModel::_endHandOver() {
     _isHandingOver = false;
     Q_EMIT isHandingOverChanged();
     Q_EMIT canPostChanged();
-    _setFailure(QCoreApplication::translate(
-                    "SheetModel", "Nothing was shared. %1\nWhat you entered is still here: press Post to try again.")
-                    .arg(reason));
 }
 
 void SheetModel::cancel() {
     if (_isHandingOver || _isFinished) return;
     _sheet->didSelectCancel();
-    if (_attachments.count() > 0 && !_attachments.isPreparing() && _attachments.usableCount() == 0) _status = ExitUsage;
-    _finish(_lacksAccount ? ExitNoAccount : _status);
+    const bool isUseless = _attachments.count() > 0 && !_attachments.isPreparing() && _attachments.usableCount() == 0;
+    _finish(_lacksAccount ? Outcome::LacksAccount : isUseless ? Outcome::NothingUsable : Outcome::GivenUp);
 }
 
 void SheetModel::openSettings() {
@@ -172,11 +182,11 @@ void SheetModel::_setFailure(const QString &failure) {
     Q_EMIT failureChanged();
 }
 
-void SheetModel::_finish(int status) {
+void SheetModel::_finish(Outcome outcome) {
     if (std::exchange(_isFinished, true)) return;
     Q_EMIT canPostChanged();
     QMetaObject::invokeMethod(
-        this, [this, status] { Q_EMIT finished(status); }, Qt::QueuedConnection);
+        this, [this, outcome] { Q_EMIT finished(outcome); }, Qt::QueuedConnection);
 }
 
 QString SheetModel::editedText(int) const {
@@ -184,7 +194,13 @@ QString SheetModel::editedText(int) const {
 }
 
 bool SheetModel::userReplaces(int, NSRange range, const QString &replacement) {
-    return _sheet->textView()->userReplacesText(range, replacement);
+    const bool isTaken = _sheet->textView()->userReplacesText(range, replacement);
+    if (std::exchange(_wasRefused, !isTaken) == isTaken) Q_EMIT textChanged();
+    return isTaken;
+}
+
+void SheetModel::userComposes(int, const QString &composition) {
+    if (std::exchange(_composition, composition) != composition) Q_EMIT canPostChanged();
 }
 
 void SheetModel::userBeginsEditing(int) {

@@ -20,7 +20,10 @@ class SheetModel : public QObject, public EditTarget {
     Q_PROPERTY(bool isVideo READ isVideo CONSTANT)
     Q_PROPERTY(korvane::AttachmentsModel *attachments READ attachments CONSTANT)
     Q_PROPERTY(QString text READ text NOTIFY textChanged)
+    Q_PROPERTY(bool isTextOptional READ isTextOptional CONSTANT)
     Q_PROPERTY(int room READ room NOTIFY textChanged) // bytes in UTF-8 that the text may grow by; -1 without a limit
+    Q_PROPERTY(bool isRoomShort READ isRoomShort NOTIFY textChanged)
+    Q_PROPERTY(bool wasTooLong READ wasTooLong NOTIFY textChanged)    // what the person entered last, and was not taken
     Q_PROPERTY(bool isEditing READ isEditing NOTIFY isEditingChanged) // the text has the keyboard
     Q_PROPERTY(bool canPost READ canPost NOTIFY canPostChanged)
     Q_PROPERTY(bool isHandingOver READ isHandingOver NOTIFY isHandingOverChanged)
@@ -33,9 +36,10 @@ class SheetModel : public QObject, public EditTarget {
     Q_PROPERTY(QString alertMessage READ alertMessage NOTIFY alertChanged)
     Q_PROPERTY(QString failure READ failure NOTIFY failureChanged) // why nothing was shared, and what to do
 public:
-    // longestText: bytes in UTF-8; 0 without a limit.
-    SheetModel(std::shared_ptr<SLComposeServiceViewController> sheet, AttachmentsModel &attachments,
-               qsizetype longestText);
+    enum class Outcome { Shared, GivenUp, NothingUsable, LacksAccount };
+    Q_ENUM(Outcome)
+
+    SheetModel(std::shared_ptr<SLComposeServiceViewController> sheet, AttachmentsModel &attachments);
     ~SheetModel() override;
 
     // Once the window has drawn: what is asked for may take a moment.
@@ -47,7 +51,10 @@ public:
     bool isVideo() const { return _attachments.isVideo(); }
     AttachmentsModel *attachments() const { return &_attachments; }
     QString text() const { return _sheet->textView()->text(); }
-    int room() const;
+    bool isTextOptional() const { return _sheet->validateText({}); }
+    int room() const { return int(_sheet->bytesRemaining().value_or(-1)); }
+    bool isRoomShort() const;
+    bool wasTooLong() const { return _wasRefused && room() >= 0; }
     bool isEditing() const { return _sheet->textView()->isFirstResponder(); }
     bool canPost() const;
     bool isHandingOver() const { return _isHandingOver; }
@@ -59,6 +66,7 @@ public:
     QString alertTitle() const { return hasAlert() ? _sheet->settingsAlert()->title : QString(); }
     QString alertMessage() const { return hasAlert() ? _sheet->settingsAlert()->message : QString(); }
     const QString &failure() const { return _failure; }
+    const std::optional<NSError> &refusal() const { return _refusal; } // of the last hand-over; null if unknown
 
     Q_INVOKABLE void commitText(); // what is still being composed; before the keyboard goes elsewhere
     Q_INVOKABLE void tapItem(int item);
@@ -73,6 +81,7 @@ public:
     void userBeginsEditing(int row) override;
     void userEndsEditing(int row) override;
     void userPressesReturn(int) override {}
+    void userComposes(int row, const QString &composition) override;
 
 Q_SIGNALS:
     void textChanged();
@@ -84,19 +93,22 @@ Q_SIGNALS:
     void alertChanged();
     void failureChanged();
     void settingsRequested(const korvane::NSURL &address);
-    // The sheet is done with; status is the program's. From the event loop.
-    void finished(int status);
+    // The sheet is about to appear again: what it looked up when it was made may have changed.
+    void appearsAgain();
+    // The sheet is done with. From the event loop.
+    void finished(korvane::SheetModel::Outcome outcome);
 
 private:
     class Observer;
 
+    bool _canHandOver(const QString &text) const;
     void _handOver();
     void _setFailure(const QString &failure);
-    void _finish(int status);
+    void _endHandOver();
+    void _finish(Outcome outcome);
 
     std::shared_ptr<SLComposeServiceViewController> _sheet;
     AttachmentsModel &_attachments;
-    const qsizetype _longestText;
     std::shared_ptr<Observer> _observer;
     std::shared_ptr<UIKeyboard> _keyboard;
     QPointer<QQuickWindow> _window;
@@ -105,7 +117,9 @@ private:
     bool _isHandingOver = false;
     bool _isFinished = false;
     bool _lacksAccount = false;
-    int _status;
+    bool _wasRefused = false; // the last change of the text
+    QString _composition;     // on its way into the text
+    std::optional<NSError> _refusal;
     QString _failure;
     QString _tappedTitle; // of the row that led to the option screen, which may have no title of its own
 };

@@ -20,15 +20,23 @@ std::optional<SheetRequest> SheetRequest::parse(const QByteArrayList &arguments,
         return std::nullopt;
     };
     if (word == "--help" || word == "-h") return SheetRequest{};
-    if (word == "--uploads") return SheetRequest{Uploads, {}, {}};
+    if (word == "--version") return SheetRequest{Version, {}, {}};
+    if (word == "--uploads") {
+        if (arguments.size() > 1) return fail(QStringLiteral("--uploads takes nothing more"));
+        return SheetRequest{Uploads, {}, {}};
+    }
     if (word == "--settings") {
         const auto service = serviceNamed(arguments.value(1));
-        if (arguments.size() > 1 && !service) return fail(QStringLiteral("--settings takes flickr or vimeo"));
-        return SheetRequest{Settings, {}, service.value_or(Flickr)};
+        if (arguments.size() > 2 || (arguments.size() == 2 && !service))
+            return fail(QStringLiteral("--settings takes flickr or vimeo, and nothing more"));
+        return SheetRequest{Settings, {}, service};
     }
     if (word.startsWith("prefs:")) {
-        const auto service = serviceNamed(word.mid(word.indexOf('=') + 1));
-        return SheetRequest{Settings, {}, service.value_or(Flickr)};
+        if (arguments.size() > 1) return fail(QStringLiteral("give one address of settings alone"));
+        const QByteArray root = word.mid(word.indexOf('=') + 1);
+        const auto service = serviceNamed(root);
+        if (!service) problem = QStringLiteral("%1 has no settings of its own here").arg(QString::fromUtf8(root));
+        return SheetRequest{Settings, {}, service};
     }
     const auto service = serviceNamed(word);
     if (!service) return fail(QStringLiteral("give flickr or vimeo, and the files to share"));
@@ -43,6 +51,7 @@ const char *SheetRequest::helpText() {
            "       korvane-sheet vimeo FILE            share a video to Vimeo\n"
            "       korvane-sheet --settings [flickr|vimeo]\n"
            "       korvane-sheet --uploads\n"
+           "       korvane-sheet --version\n"
            "\n"
            "A FILE is a path or a file:// address.\n"
            "\n"

@@ -3,6 +3,7 @@
 #include "ShareSheet/SheetApplication.h"
 
 #include <QGuiApplication>
+#include <QLocale>
 
 #include <cstdio>
 
@@ -14,15 +15,19 @@ int main(int argc, char *argv[]) {
         arguments.append(argv[i]);
     QString problem;
     const auto request = SheetRequest::parse(arguments, problem);
-    if (!request) {
-        std::fprintf(stderr, "korvane-sheet: %s (see korvane-sheet --help)\n", qPrintable(problem));
-        return ExitUsage;
-    }
+    if (!problem.isEmpty()) std::fprintf(stderr, "korvane-sheet: %s (see korvane-sheet --help)\n", qPrintable(problem));
+    if (!request) return ExitUsage;
     if (request->page == SheetRequest::Help) {
         std::fputs(SheetRequest::helpText(), stdout);
         return ExitDone;
     }
-    QGuiApplication application(argc, argv);
+    if (request->page == SheetRequest::Version) {
+        std::puts("korvane-sheet " KORVANE_VERSION);
+        return ExitDone;
+    }
+    int count = 1; // all other arguments are ours, also where they look like Qt's
+    QGuiApplication application(count, argv);
+    QGuiApplication::setLayoutDirection(QLocale().textDirection());
     QCoreApplication::setApplicationName(QStringLiteral("korvane-sheet"));
     QGuiApplication::setDesktopFileName(QStringLiteral("korvane-sheet"));
     QGuiApplication::setQuitOnLastWindowClosed(false); // the end has a status

@@ -72,6 +72,11 @@ public:
         return true;
     }
 
+    // Bytes in UTF-8 that the text may still grow by; null where it has no limit.
+    virtual std::optional<qint64> bytesRemaining() const { return std::nullopt; }
+    // Whether what the option rows lead to depends on what is attached.
+    virtual bool configurationItemsNeedAttachments() const { return false; }
+
     // One option screen at a time is shown over the sheet.
     void pushConfigurationViewController(const std::shared_ptr<UIViewController> &controller);
     void popConfigurationViewController();

@@ -40,12 +40,25 @@ T.ApplicationWindow {
 
     Component.onCompleted: pages.push(firstPage, firstPageProperties, T.StackView.Immediate)
 
+    // A page that has no way of its own back is closed.
+    function goBack() {
+        if (pages.currentItem && pages.currentItem.goBack !== undefined)
+            pages.currentItem.goBack();
+        else
+            closePage();
+    }
+
     T.StackView {
         id: pages
 
         anchors.fill: parent
         focus: true
         onCurrentItemChanged: if (currentItem) currentItem.forceActiveFocus()
+
+        Shortcut { // in here, so that a question over the page comes first
+            sequences: ["Back", "Alt+Left"]
+            onActivated: window.goBack()
+        }
 
         pushEnter: Transition {
             NumberAnimation {
@@ -74,6 +87,16 @@ T.ApplicationWindow {
                 duration: Theme.slideDuration
                 easing.type: Easing.InCubic
             }
+        }
+    }
+    EdgePull {
+        height: parent.height
+        z: 1
+        visible: pages.depth > 1
+        isMirrored: pages.mirrored
+        onPulledAway: {
+            pulled = 0;
+            window.closePage();
         }
     }
 }

@@ -9,7 +9,6 @@ FocusScope {
     readonly property bool isShown: sheet.option !== null
     readonly property bool isMirrored: LayoutMirroring.enabled
     property real away: isShown ? 0 : 1    // how far it has left, in its own widths
-    property real pulled: 0                // how far a finger has pulled it
     property var table: null               // kept while it leaves
     property string heading
 
@@ -26,7 +25,7 @@ FocusScope {
 
     visible: away < 1
     enabled: isShown
-    onAwayChanged: if (away === 1) pulled = 0
+    onAwayChanged: if (away === 1) edge.pulled = 0
     Accessible.role: Accessible.Pane
     Accessible.name: heading
 
@@ -34,13 +33,6 @@ FocusScope {
         NumberAnimation {
             duration: Theme.slideDuration
             easing.type: Easing.OutCubic
-        }
-    }
-    Behavior on pulled {
-        enabled: !pull.active
-
-        NumberAnimation {
-            duration: Theme.slideDuration
         }
     }
     Connections {
@@ -56,7 +48,7 @@ FocusScope {
 
         width: parent.width
         height: parent.height
-        x: Math.max(layer.away, layer.pulled) * width * (layer.isMirrored ? -1 : 1)
+        x: Math.max(layer.away, edge.pulled) * width * (layer.isMirrored ? -1 : 1)
         focus: true
 
         Rectangle {
@@ -94,29 +86,16 @@ FocusScope {
             color: Theme.secondaryText
             wrapMode: Text.Wrap
             horizontalAlignment: Text.AlignHCenter
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
-        Item {
-            x: layer.isMirrored ? parent.width - width : 0
+        EdgePull {
+            id: edge
+
             y: header.height
-            width: 22
             height: parent.height - y
-
-            DragHandler {
-                id: pull
-
-                readonly property real way: Math.max(0, activeTranslation.x * (layer.isMirrored ? -1 : 1)) / layer.width
-
-                target: null
-                yAxis.enabled: false
-                grabPermissions: PointerHandler.CanTakeOverFromAnything
-                onWayChanged: if (active) layer.pulled = Math.min(1, way)
-                onActiveChanged: if (!active) {
-                    if (layer.pulled > 0.3)
-                        layer.sheet.popOption();
-                    else
-                        layer.pulled = 0;
-                }
-            }
+            isMirrored: layer.isMirrored
+            onPulledAway: layer.sheet.popOption()
         }
     }
 }

@@ -23,6 +23,14 @@ FocusScope {
         boundsBehavior: Flickable.StopAtBounds
         clip: true
 
+        Connections { // what went wrong stands at the top
+            target: body.sheet
+
+            function onFailureChanged() {
+                if (body.sheet.failure.length > 0)
+                    scroller.contentY = 0;
+            }
+        }
         Column {
             id: contents
 
@@ -57,8 +65,8 @@ FocusScope {
 
                     width: parent.width
                     focus: true
-                    placeholderText: body.sheet.isVideo ? qsTr("Title of the video") : qsTr("Title (optional)")
-                    Accessible.description: room.visible ? room.Accessible.name : ""
+                    placeholderText: body.sheet.isTextOptional ? qsTr("Title (optional)") : qsTr("Title")
+                    Accessible.description: body.sheet.isRoomShort ? room.Accessible.name : ""
                     onCursorRectangleChanged: if (activeFocus) {
                         const place = mapToItem(contents, cursorRectangle.x, cursorRectangle.y);
                         scroller.show(Qt.rect(0, contents.y + place.y, 1, cursorRectangle.height + Theme.spacing));
@@ -75,7 +83,7 @@ FocusScope {
                     width: parent.width
                     height: room.implicitHeight + Theme.spacing
                     color: Theme.surface
-                    visible: room.visible
+                    visible: body.sheet.isRoomShort
 
                     Text {
                         id: room
@@ -83,13 +91,14 @@ FocusScope {
                         anchors.right: parent.right
                         anchors.rightMargin: Theme.margin
                         anchors.verticalCenter: parent.verticalCenter
-                        visible: body.sheet.room >= 0
-                        text: body.sheet.room
-                        color: body.sheet.room === 0 ? Theme.problem : Theme.secondaryText
+                        readonly property bool isProblem: body.sheet.wasTooLong || body.sheet.room === 0
+
+                        text: body.sheet.wasTooLong ? qsTr("That does not fit") : body.sheet.room === 0 ? qsTr("Full") : qsTr("Almost full")
+                        color: isProblem ? Theme.problem : Theme.secondaryText
                         font.pixelSize: Theme.smallFontPixelSize
-                        font.bold: body.sheet.room === 0
+                        font.bold: isProblem
                         Accessible.role: Accessible.StaticText
-                        Accessible.name: qsTr("Room for %n more letter(s)", "", body.sheet.room)
+                        Accessible.name: text + ", " + qsTr("room for %n more byte(s)", "", body.sheet.room)
                     }
                 }
             }

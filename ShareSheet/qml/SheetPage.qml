@@ -14,6 +14,8 @@ FocusScope {
 
     // What Escape and the Back key do.
     function goBack() {
+        if (sheet.isHandingOver)
+            return;
         if (sheet.hasAlert)
             sheet.dismissAlert();
         else if (options.isShown)
@@ -31,8 +33,8 @@ FocusScope {
     onIsBodyUsedChanged: if (isBodyUsed) body.forceActiveFocus()
 
     Shortcut {
-        sequences: ["Escape", "Back", "Alt+Left"]
-        enabled: page.activeFocus && !page.sheet.isHandingOver
+        sequence: "Escape"
+        enabled: page.activeFocus
         onActivated: page.goBack()
     }
     Shortcut {

@@ -19,8 +19,17 @@ FocusScope {
 
     signal stepped(int step) // to the next row with 1, to the one before with -1
 
+    function becomeCurrent() {
+        if (activeFocus)
+            ListView.view.currentIndex = index;
+    }
+
     implicitHeight: contents.implicitHeight
-    onActiveFocusChanged: if (activeFocus) ListView.view.currentIndex = index
+    // A row may have the keyboard as soon as it is made; the list takes no current row before it is done with that.
+    onActiveFocusChanged: {
+        becomeCurrent();
+        Qt.callLater(becomeCurrent);
+    }
     Keys.onTabPressed: stepped(1)
     Keys.onBacktabPressed: stepped(-1)
 
@@ -34,7 +43,7 @@ FocusScope {
     Component {
         id: choice
 
-        ListRow {
+        ChoiceRow {
             text: tableRow.text
             isChecked: tableRow.isChecked
             isSelectable: tableRow.isSelectable
@@ -55,7 +64,7 @@ FocusScope {
             focus: true
             leftPadding: Theme.margin
             rightPadding: Theme.margin
-            placeholderText: qsTr("New tag")
+            placeholderText: qsTr("Add…")
             Accessible.name: tableRow.ListView.view.table.headerOf(parseInt(tableRow.section))
             onAccepted: edit.pressReturn()
 

@@ -1,4 +1,4 @@
-// The program korvane, run to its end.
+// A program, korvane if nothing else is said, run to its end.
 #pragma once
 
 #include "Tests/Support/Testing.h"
@@ -13,12 +13,13 @@ struct Ending {
     QByteArray errors;
 };
 
-inline Ending run(const QByteArrayList &arguments, const QByteArray &input = {}) {
+inline Ending run(const QByteArrayList &arguments, const QByteArray &input = {},
+                  const QString &path = QStringLiteral(KORVANE_PROGRAM)) {
     QStringList texts;
     for (const QByteArray &argument : arguments)
         texts.append(QString::fromUtf8(argument));
     QProcess program;
-    program.start(QStringLiteral(KORVANE_PROGRAM), texts);
+    program.start(path, texts);
     program.write(input);
     program.closeWriteChannel();
     EXPECT_TRUE(program.waitForFinished(60'000));

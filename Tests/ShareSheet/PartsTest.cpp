@@ -1,4 +1,5 @@
-// Parts of the window: arguments, changes of text, thumbnails.
+// Parts of the window: arguments, changes of text, waiting for a frame, thumbnails.
+#include "ShareSheet/FrameWait.h"
 #include "ShareSheet/SharedFile.h"
 #include "ShareSheet/SheetRequest.h"
 #include "ShareSheet/TextChange.h"
@@ -6,6 +7,7 @@
 #include "Tests/Support/Testing.h"
 
 #include <QProcess>
+#include <QSysInfo>
 
 #include <atomic>
 #include <random>
@@ -15,6 +17,7 @@ using namespace korvane;
 using namespace korvane::test;
 
 TEST(Arguments, AreReadAsFileManagersPassThem) {
+    const QByteArray thisHost = QSysInfo::machineHostName().toUtf8();
     struct {
         QByteArray argument;
         QByteArray path;
@@ -27,6 +30,8 @@ TEST(Arguments, AreReadAsFileManagersPassThem) {
                     {"file:///a/%FF.jpg", "/a/\xFF.jpg"},
                     {"file://localhost/a.jpg", "/a.jpg"},
                     {"/run/user/1000/gvfs/sftp:host=far/a.jpg", "/run/user/1000/gvfs/sftp:host=far/a.jpg"},
+                    {"file://" + thisHost + "/a%20b.jpg", "/a b.jpg"},
+                    {"file://" + thisHost + "/a b.jpg", "/a b.jpg"},
                     {"file://far/a.jpg", ""},
                     {"sftp://far/a.jpg", ""},
                     {"https://example.org/a.jpg", ""}};
@@ -38,8 +43,19 @@ TEST(Arguments, AreReadAsFileManagersPassThem) {
     QString problem;
     EXPECT_EQ(SheetRequest::parse({"vimeo", "--", "-f.mp4"}, problem)->files, QByteArrayList{"-f.mp4"});
     EXPECT_EQ(SheetRequest::parse({"prefs:root=VIMEO"}, problem)->settingsOf, SheetRequest::Vimeo);
-    for (const QByteArrayList &bad : {QByteArrayList{}, {"flickr"}, {"smoke", "a.jpg"}, {"--settings", "x"}})
-        EXPECT_FALSE(SheetRequest::parse(bad, problem));
+    EXPECT_TRUE(problem.isEmpty());
+    const auto settings = SheetRequest::parse({"prefs:root=OTHER"}, problem);
+    EXPECT_TRUE(settings && settings->page == SheetRequest::Settings && !settings->settingsOf);
+    EXPECT_TRUE(problem.contains(QStringLiteral("OTHER"))) << "those at large, and not without a word";
+    const QByteArrayList wrong[]{{},
+                                 {"flickr"},
+                                 {"smoke", "a.jpg"},
+                                 {"--settings", "x"},
+                                 {"--settings", "flickr", "x"},
+                                 {"--uploads", "x"},
+                                 {"prefs:root=FLICKR", "x"}};
+    for (const QByteArrayList &bad : wrong)
+        EXPECT_FALSE(SheetRequest::parse(bad, problem)) << bad.join(' ').constData();
 }
 
 TEST(TextChanges, AreTheSmallestOnesAtTheCursor) {
@@ -77,6 +93,30 @@ TEST(TextChanges, AreTheSmallestOnesAtTheCursor) {
         ASSERT_TRUE(!change ||
                     (change->replacement.isValidUtf16() && texts[0].first(change->range.location).isValidUtf16()));
     }
+}
+
+TEST(FrameWait, EndsWithAFrameOrWhereThereIsNothingToSee) {
+    bool isDone = false;
+    const auto done = [&] { return isDone; };
+    QQuickWindow hidden;
+    afterNextFrame(hidden, [&] { isDone = true; });
+    EXPECT_TRUE(waitFor(done));
+
+    struct SlowWindow : QQuickWindow {
+        bool isSlow = false;
+        bool event(QEvent *event) override {
+            return (isSlow && event->type() == QEvent::UpdateRequest) || QQuickWindow::event(event);
+        }
+    } window;
+    window.show();
+    ASSERT_TRUE(waitFor([&] { return window.isExposed(); }));
+    isDone = false;
+    window.isSlow = true;
+    afterNextFrame(window, [&] { isDone = true; });
+    EXPECT_FALSE(waitFor(done, 700)) << "before it is seen";
+    window.isSlow = false;
+    window.update();
+    EXPECT_TRUE(waitFor(done));
 }
 
 TEST(Thumbnails, AreMadeTwoAtATimeAndNotForThoseWhoHaveGone) {

@@ -3,7 +3,7 @@
 
 #include "Tests/Support/WaitFor.h"
 
-#include <QAccessible>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QPointingDevice>
@@ -19,10 +19,26 @@ QPointingDevice *finger() {
     return device;
 }
 
+QRectF placeOf(const QQuickItem &item) {
+    return item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
+}
+
+// Whether some of it is within the window, and not cut off by what it scrolls in.
 bool hasPlace(QQuickItem *item) {
-    const QQuickItem *root = item->window() ? item->window()->contentItem() : nullptr;
-    const QRectF place = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
-    return root && place.intersects(QRectF(0, 0, root->width(), root->height())) && place.isValid();
+    if (!item->window()) return false;
+    QRectF place = placeOf(*item) & placeOf(*item->window()->contentItem());
+    for (const QQuickItem *around = item->parentItem(); around; around = around->parentItem())
+        if (around->clip()) place &= placeOf(*around);
+    return !place.isEmpty();
+}
+
+constexpr int twoFrames = 35; // milliseconds
+
+void collectPlaces(const QQuickItem &item, std::vector<QPointF> &places) {
+    if (!item.isVisible()) return;
+    places.push_back(item.mapToScene({}));
+    for (const QQuickItem *child : item.childItems())
+        collectPlaces(*child, places);
 }
 
 } // namespace
@@ -72,6 +88,11 @@ bool WindowUser::isEnabled(const QString &name) const {
     return item && item->isEnabled();
 }
 
+QAccessible::Role WindowUser::roleOf(const QString &name) const {
+    QQuickItem *item = find(name);
+    return item ? QAccessible::queryAccessibleInterface(item)->role() : QAccessible::NoRole;
+}
+
 QPoint WindowUser::_middleOf(const QString &name) const {
     for (int tries = 0; tries < 10; ++tries) {
         waitsUntilStill();
@@ -80,7 +101,6 @@ QPoint WindowUser::_middleOf(const QString &name) const {
         const QPoint place = item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
         if (place.y() < _window.height()) return place;
         swipes({_window.width() / 2.0, _window.height() - 60.0}, {_window.width() / 2.0, _window.height() - 160.0});
-        QTest::qWait(300); // it rolls on
     }
     return {};
 }
@@ -102,7 +122,7 @@ void WindowUser::swipes(QPointF from, QPointF to) const {
     QTest::touchEvent(&_window, finger()).press(1, from.toPoint(), &_window);
     for (int step = 1; step <= 8; ++step) {
         QTest::touchEvent(&_window, finger()).move(1, (from + (to - from) * step / 8).toPoint(), &_window);
-        QTest::qWait(5);
+        QCoreApplication::processEvents();
     }
     QTest::touchEvent(&_window, finger()).release(1, to.toPoint(), &_window);
     QCoreApplication::processEvents();
@@ -133,13 +153,15 @@ QString WindowUser::nameOfFocused() const {
 }
 
 void WindowUser::waitsUntilStill() const {
-    QTest::qWait(20);
+    std::vector<QPointF> places;
+    QElapsedTimer stillSince;
     waitFor(
         [&] {
-            return !_search(_window.contentItem(), [](QQuickItem *item) {
-                const double away = item->property("away").isValid() ? item->property("away").toDouble() : 0;
-                return away > 0 && away < 1;
-            });
+            std::vector<QPointF> now;
+            collectPlaces(*_window.contentItem(), now);
+            if (now != places || !stillSince.isValid()) stillSince.start();
+            places = std::move(now);
+            return stillSince.elapsed() > twoFrames;
         },
         3000);
 }

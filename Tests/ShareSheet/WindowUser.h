@@ -1,6 +1,7 @@
 // What a person does in front of the window.
 #pragma once
 
+#include <QAccessible>
 #include <QQuickItem>
 #include <QQuickWindow>
 
@@ -20,6 +21,7 @@ public:
     bool reads(const QString &text) const;
     bool isChecked(const QString &name) const;
     bool isEnabled(const QString &name) const;
+    QAccessible::Role roleOf(const QString &name) const;
 
     void clicks(const QString &name) const;
     void taps(const QString &name) const;
@@ -31,7 +33,7 @@ public:
     // What has the keyboard; null if nothing has.
     QQuickItem *focused() const { return _window.activeFocusItem(); }
     QString nameOfFocused() const;
-    void waitsUntilStill() const; // until no page is on its way
+    void waitsUntilStill() const; // until nothing in the window moves
 
     static QString nameOf(QQuickItem *item);
 

@@ -1,0 +1,41 @@
+// The program korvane-sheet, from outside.
+#include "Tests/CommandLine/ProgramRun.h"
+
+#include <QFile>
+
+using namespace korvane::test;
+
+namespace {
+
+const QString sheetProgram = QStringLiteral(KORVANE_SHEET_PROGRAM);
+
+Ending runSheet(const QByteArrayList &arguments) {
+    return run(arguments, {}, sheetProgram);
+}
+
+} // namespace
+
+TEST(SheetProgram, SaysWhatItIsAndWhatItWants) {
+    const Ending help = runSheet({"--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_TRUE(help.output.startsWith("Usage: korvane-sheet flickr FILE...")) << help.output.constData();
+    EXPECT_EQ(runSheet({"--version"}).output, "korvane-sheet " KORVANE_VERSION "\n");
+    for (const QByteArrayList &arguments : {QByteArrayList{}, {"smoke", "a.jpg"}, {"flickr"}, {"--uploads", "x"}}) {
+        const Ending bad = runSheet(arguments);
+        EXPECT_EQ(bad.status, 2) << arguments.join(' ').constData();
+        EXPECT_TRUE(bad.errors.startsWith("korvane-sheet: ") && bad.errors.contains("--help"));
+        EXPECT_TRUE(bad.output.isEmpty());
+    }
+}
+
+TEST(SheetProgram, IsWhatComposeOpens) {
+    TemporaryHome home;
+    QProcess program;
+    program.start(QStringLiteral(KORVANE_PROGRAM), {QStringLiteral("compose"), QStringLiteral("flickr"),
+                                                    QString::fromUtf8(home.file("sea.jpg", jpegOfSize(9000)))});
+    ASSERT_TRUE(program.waitForStarted());
+    const QString executable = QStringLiteral("/proc/%1/exe").arg(program.processId());
+    EXPECT_TRUE(waitFor([&] { return QFile::symLinkTarget(executable) == sheetProgram; }));
+    program.terminate();
+    EXPECT_TRUE(program.waitForFinished());
+}
