@@ -7,7 +7,6 @@
 #include <QHash>
 #include <QTimer>
 
-#include <map>
 #include <memory>
 #include <optional>
 
@@ -23,6 +22,7 @@ class Uploads : public QObject {
     Q_PROPERTY(QString filter READ filter WRITE setFilter NOTIFY filterChanged)
     Q_PROPERTY(qint64 total READ total NOTIFY countsChanged)
     Q_PROPERTY(qint64 pending READ pending NOTIFY countsChanged)
+    Q_PROPERTY(qint64 waiting READ waiting NOTIFY countsChanged)
     Q_PROPERTY(qint64 failed READ failed NOTIFY countsChanged)
     Q_PROPERTY(qint64 done READ done NOTIFY countsChanged)
 
@@ -42,13 +42,14 @@ public:
     void setFilter(const QString &filter);
 
     // How many there are.
-    qint64 total() const { return pending() + failed() + done(); }
-    qint64 pending() const;
-    qint64 failed() const { return _countOf("failed"); }
-    qint64 done() const { return _countOf("done"); }
+    qint64 total() const { return _counts.total(); }
+    qint64 pending() const { return _counts.pending(); }
+    qint64 waiting() const { return _counts.waiting; } // of those
+    qint64 failed() const { return _counts.failed; }
+    qint64 done() const { return _counts.done; }
 
     Q_INVOKABLE void retry(const QString &id);
-    Q_INVOKABLE void retryAllFailed();
+    Q_INVOKABLE void retryAll();
     Q_INVOKABLE void remove(const QString &id);
     Q_INVOKABLE void clearDone();
     Q_INVOKABLE void setPaused(bool paused);
@@ -78,14 +79,14 @@ private:
     void _act(std::function<bool(UploadsClient &client, std::optional<NSError> *error)> action);
     void _setState(State state);
     void _setProblem(const QString &problem);
-    void _setCounts(const std::map<QString, qint64> &counts, bool paused);
-    qint64 _countOf(const char *state) const;
+    void _setCounts(const UploadCounts &counts, bool paused);
 
     UploadsModel _model;
     State _state = State::Connecting;
     QString _problem;
     QString _filter = QStringLiteral("all");
-    std::map<QString, qint64> _counts; // by state
+    UploadCounts _counts;
+    bool _countsAreOld = false; // there was news since
     bool _isPaused = false;
     quint64 _loading = 0;            // the number of the load that counts
     QHash<QString, Upload> _changes; // not shown yet
