@@ -5,62 +5,47 @@ import Korvane.Sheet
 Column {
     id: panel
 
-    required property var signIn // a SignInModel object
-    required property bool canStart
-    required property string serviceName
+    required property var access // a ServiceAccess object
+    readonly property var signIn: access.signIn
     readonly property bool isAtRest: signIn.step === "none" || signIn.step === "done"
-
-    signal startAsked(bool typesCode)
-
-    // The page holds a panel for each service.
-    function named(text) {
-        return qsTr("%1: %2").arg(serviceName).arg(text);
-    }
 
     spacing: Theme.spacing
     bottomPadding: Theme.spacing
 
     Notice {
-        x: Theme.margin
-        width: parent.width - 2 * Theme.margin
-        visible: text.length > 0
         text: panel.signIn.problem
     }
     Notice {
-        x: Theme.margin
-        width: parent.width - 2 * Theme.margin
         isProblem: false
         visible: panel.signIn.step === "done"
         text: qsTr("The account “%1” is ready.").arg(panel.signIn.username)
     }
-    Flow {
-        x: Theme.margin - 8
-        width: parent.width - 2 * x
+    ButtonFlow {
         visible: panel.isAtRest
 
         ActionButton {
             text: qsTr("Add an account…")
-            Accessible.name: panel.named(text)
-            enabled: panel.canStart
-            onClicked: panel.startAsked(false)
+            Accessible.name: panel.access.named(text)
+            enabled: panel.access.keys.areStored
+            onClicked: panel.access.addAccount(false)
         }
         ActionButton {
             text: qsTr("Add with a code…")
-            Accessible.name: panel.named(text)
-            enabled: panel.canStart
+            Accessible.name: panel.access.named(text)
+            enabled: panel.access.keys.areStored
             Accessible.description: qsTr("For a browser on another device: it shows a code that you type here.")
-            onClicked: panel.startAsked(true)
+            onClicked: panel.access.addAccount(true)
         }
     }
     Note {
         width: parent.width
-        visible: !panel.canStart && panel.isAtRest
+        visible: !panel.access.keys.areStored && panel.isAtRest
         text: qsTr("To sign in, Korvane first needs the keys of your own application, below.")
     }
     Note {
         width: parent.width
         visible: !panel.isAtRest
-        text: panel.signIn.step === "asking" ? qsTr("Asking %1…").arg(panel.serviceName)
+        text: panel.signIn.step === "asking" ? qsTr("Asking %1…").arg(panel.access.name)
             : panel.signIn.step === "storing" ? qsTr("Storing the account…")
             : panel.signIn.typesCode ? qsTr("Open this address, also on another device, allow Korvane to upload, and type the code that is shown:")
                                      : qsTr("Allow Korvane to upload in the browser that has opened. If none has, open this address on this device:")
@@ -68,6 +53,8 @@ Column {
     TextEdit {
         x: Theme.margin
         width: parent.width - 2 * Theme.margin
+        height: Math.max(Theme.touchHeight, contentHeight)
+        verticalAlignment: TextEdit.AlignVCenter
         visible: panel.signIn.step === "person"
         text: panel.signIn.pageAddress
         textFormat: TextEdit.PlainText
@@ -98,9 +85,7 @@ Column {
         }
         onAccepted: panel.signIn.enterCode(text)
     }
-    Flow {
-        x: Theme.margin - 8
-        width: parent.width - 2 * x
+    ButtonFlow {
         visible: !panel.isAtRest && panel.signIn.step !== "storing"
 
         ActionButton {

@@ -27,8 +27,6 @@ Column {
     bottomPadding: Theme.spacing
 
     Notice {
-        x: Theme.margin
-        width: parent.width - 2 * Theme.margin
         visible: !head.isConnected
         isProblem: head.uploads.connection === "lost" || head.uploads.connection === "silent"
         text: head.connectionTexts[head.uploads.connection] ?? ""
@@ -36,16 +34,11 @@ Column {
         onActionClicked: head.uploads.reconnect()
     }
     Notice {
-        x: Theme.margin
-        width: parent.width - 2 * Theme.margin
-        visible: text.length > 0
         text: head.uploads.problem
         actionText: head.isConnected ? qsTr("Dismiss") : ""
         onActionClicked: head.uploads.forgetProblem()
     }
     Notice {
-        x: Theme.margin
-        width: parent.width - 2 * Theme.margin
         visible: head.isConnected && head.uploads.paused
         isProblem: false
         text: qsTr("Uploads are paused.")
@@ -70,16 +63,13 @@ Column {
             }
         }
     }
-    Flow {
-        x: Theme.margin
-        width: parent.width - 2 * Theme.margin
-        spacing: Theme.spacing
-        visible: head.isConnected && (head.uploads.failed > 0 || head.uploads.done > 0)
+    ButtonFlow {
+        visible: head.isConnected && head.uploads.failed + head.uploads.waiting + head.uploads.done > 0
 
         ActionButton {
-            text: qsTr("Retry all that failed")
-            visible: head.uploads.failed > 0
-            onClicked: head.uploads.retryAllFailed()
+            text: qsTr("Retry all")
+            visible: head.uploads.failed + head.uploads.waiting > 0
+            onClicked: head.uploads.retryAll()
         }
         ActionButton {
             text: qsTr("Clear what is shared")

@@ -51,7 +51,12 @@ T.Page {
         delegate: UploadRow {
             width: ListView.view.width
             onRetryAsked: page.uploads.retry(uploadID)
-            onRemovalAsked: removalQuestion.length > 0 ? question.ask(uploadID, removalQuestion) : page.uploads.remove(uploadID)
+            onRemovalAsked: {
+                if (removalQuestion.length === 0)
+                    return page.uploads.remove(uploadID);
+                question.uploadID = uploadID;
+                question.message = removalQuestion;
+            }
         }
         // What is new shows at the top, unless the person reads further down.
         onCountChanged: {
@@ -64,20 +69,20 @@ T.Page {
     ScrollMark {
         view: list
     }
-    Question {
+    Dialog {
         id: question
 
         property string uploadID
 
-        function ask(id, words) {
-            uploadID = id;
-            text = words;
-            open();
-        }
-
+        visible: message.length > 0
+        isDangerous: true
         acceptText: qsTr("Remove")
         rejectText: qsTr("Keep")
-        onAccepted: page.uploads.remove(uploadID)
-        onClosed: list.forceActiveFocus()
+        onRejected: message = ""
+        onAccepted: {
+            message = "";
+            page.uploads.remove(uploadID);
+        }
+        onVisibleChanged: if (!visible) list.forceActiveFocus()
     }
 }

@@ -29,6 +29,8 @@ bool hasPlace(QQuickItem *item) {
 
 QString WindowUser::nameOf(QQuickItem *item) {
     QAccessibleInterface *interface = item ? QAccessible::queryAccessibleInterface(item) : nullptr;
+    // Of a field that hides its text only the group around it tells.
+    if (interface && interface->state().passwordEdit) interface = interface->parent();
     return interface && interface->role() != QAccessible::NoRole ? interface->text(QAccessible::Name) : QString();
 }
 
