@@ -22,10 +22,18 @@ constexpr quint32 pageRows = 200;
 constexpr quint32 mostRunning = 100;
 constexpr qint64 newestID = std::numeric_limits<qint64>::max();
 
-QStringList statesOf(const QString &filter) {
-    if (filter == QLatin1String("pending"))
+QStringList statesOf(Uploads::Filter filter) {
+    switch (filter) {
+    case Uploads::Filter::Pending:
         return {QStringLiteral("queued"), QStringLiteral("running"), QStringLiteral("waiting")};
-    return filter == QLatin1String("all") ? QStringList() : QStringList{filter};
+    case Uploads::Filter::Failed:
+        return {QStringLiteral("failed")};
+    case Uploads::Filter::Done:
+        return {QStringLiteral("done")};
+    case Uploads::Filter::All:
+        break;
+    }
+    return {};
 }
 
 } // namespace
@@ -70,24 +78,9 @@ Uploads::Uploads(QObject *parent) : QObject(parent) {
     reconnect();
 }
 
-QString Uploads::connection() const {
-    if (_link.isSilent()) return QStringLiteral("silent");
-    switch (_state) {
-    case State::Connecting:
-        return QStringLiteral("connecting");
-    case State::Connected:
-        return QStringLiteral("connected");
-    case State::Ended:
-        return QStringLiteral("ended");
-    case State::Lost:
-        break;
-    }
-    return QStringLiteral("lost");
-}
-
 void Uploads::reconnect() {
     _retryTimer.stop();
-    if (_state == State::Ended) _setState(State::Connecting);
+    if (_state == Connection::Ended) _setState(Connection::Connecting);
     _link.ask([this](UploadsClient &client) -> UploadsLink::Answer {
         std::optional<NSError> error;
         const bool connected = client.connectToBus(&error) && client.subscribe(&error);
@@ -115,14 +108,14 @@ void Uploads::_loaded(const Snapshot &snapshot) {
     if (!snapshot.paused) return _lost(*snapshot.error);
     if (_failures > 0) _setProblem({});
     _failures = 0;
-    _setState(State::Connected);
+    _setState(Connection::Connected);
     _model.replace(*snapshot.page, *snapshot.running, snapshot.isLast);
     _setCounts(*snapshot.counts, *snapshot.paused);
 }
 
 // Here and below: asking would start a service that has ended.
 void Uploads::_fetchMore() {
-    if (_state != State::Connected) return _model.fetchFailed();
+    if (_state != Connection::Connected) return _model.fetchFailed();
     const qint64 before = _model.oldest();
     const quint32 count = pageRows;
     const quint64 loading = _loading;
@@ -151,7 +144,7 @@ void Uploads::_applyChanges() {
 }
 
 void Uploads::_lookAtCounts() {
-    if (_state != State::Connected) return;
+    if (_state != Connection::Connected) return;
     _link.ask([this](UploadsClient &client) -> UploadsLink::Answer {
         std::optional<NSError> error;
         const auto counts = client.counts(&error);
@@ -165,7 +158,7 @@ void Uploads::_lookAtCounts() {
 // What is nowhere to be read has none, and its row shows a sign instead.
 void Uploads::_askForThumbnails() {
     const QStringList ids = std::exchange(_thumbnailsWanted, {});
-    if (_state != State::Connected) return _model.forgetThumbnails(ids);
+    if (_state != Connection::Connected) return _model.forgetThumbnails(ids);
     _link.ask([this, ids](UploadsClient &client) -> UploadsLink::Answer {
         std::optional<NSError> error;
         const auto uploads = client.get(ids, &error);
@@ -187,23 +180,23 @@ void Uploads::_serviceEnded() {
     if (pending() > 0 || _countsAreOld)
         _retryTimer.start(retryDelay);
     else
-        _setState(State::Ended);
+        _setState(Connection::Ended);
 }
 
 void Uploads::_lost(const NSError &error) {
     _setProblem(error.localizedDescription());
-    _setState(State::Lost);
+    _setState(Connection::Lost);
     _failures = std::min(_failures * 2 + 1, longestRetryDelays);
     _retryTimer.start(retryDelay * _failures);
 }
 
-void Uploads::setFilter(const QString &filter) {
+void Uploads::setFilter(Filter filter) {
     if (filter == _filter) return;
     _filter = filter;
     _model.setStates(statesOf(filter));
     Q_EMIT filterChanged();
-    if (_state == State::Connected) _load();
-    if (_state == State::Ended) reconnect(); // the person wants to see them
+    if (_state == Connection::Connected) _load();
+    if (_state == Connection::Ended) reconnect(); // the person wants to see them
 }
 
 void Uploads::_act(std::function<bool(UploadsClient &client, std::optional<NSError> *error)> action) {
@@ -248,7 +241,7 @@ void Uploads::_setCounts(const UploadCounts &counts, bool paused) {
     Q_EMIT countsChanged();
 }
 
-void Uploads::_setState(State state) {
+void Uploads::_setState(Connection state) {
     _state = state;
     Q_EMIT connectionChanged();
 }

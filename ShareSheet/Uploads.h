@@ -16,10 +16,10 @@ namespace korvane {
 class Uploads : public QObject {
     Q_OBJECT
     Q_PROPERTY(korvane::UploadsModel *model READ model CONSTANT)
-    Q_PROPERTY(QString connection READ connection NOTIFY connectionChanged)
+    Q_PROPERTY(Connection connection READ connection NOTIFY connectionChanged)
     Q_PROPERTY(QString problem READ problem NOTIFY problemChanged)
     Q_PROPERTY(bool paused READ isPaused NOTIFY countsChanged)
-    Q_PROPERTY(QString filter READ filter WRITE setFilter NOTIFY filterChanged)
+    Q_PROPERTY(Filter filter READ filter WRITE setFilter NOTIFY filterChanged)
     Q_PROPERTY(qint64 total READ total NOTIFY countsChanged)
     Q_PROPERTY(qint64 pending READ pending NOTIFY countsChanged)
     Q_PROPERTY(qint64 waiting READ waiting NOTIFY countsChanged)
@@ -27,19 +27,34 @@ class Uploads : public QObject {
     Q_PROPERTY(qint64 done READ done NOTIFY countsChanged)
 
 public:
+    // To the upload service.
+    enum class Connection {
+        Connecting,
+        Connected,
+        Silent, // it does not answer for now
+        Ended,  // nothing is left to do
+        Lost    // it is tried again
+    };
+    Q_ENUM(Connection)
+    // What is shown.
+    enum class Filter {
+        All,
+        Pending, // queued, running, waiting
+        Failed,
+        Done
+    };
+    Q_ENUM(Filter)
+
     explicit Uploads(QObject *parent = nullptr);
 
     UploadsModel *model() { return &_model; }
-    // "connecting", "connected", "silent" (it does not answer for now), "ended" (nothing is left to do) or "lost" (it
-    // is tried again).
-    QString connection() const;
+    Connection connection() const { return _link.isSilent() ? Connection::Silent : _state; }
     // What went wrong last, for people; empty if nothing did.
     QString problem() const { return _problem; }
     bool isPaused() const { return _isPaused; }
 
-    // "all", "pending" (queued, running, waiting), "failed" or "done".
-    QString filter() const { return _filter; }
-    void setFilter(const QString &filter);
+    Filter filter() const { return _filter; }
+    void setFilter(Filter filter);
 
     // How many there are.
     qint64 total() const { return _counts.total(); }
@@ -64,7 +79,6 @@ Q_SIGNALS:
 
 private:
     struct Snapshot;
-    enum class State { Connecting, Connected, Ended, Lost };
 
     void _load();
     void _loaded(const Snapshot &snapshot);
@@ -77,14 +91,14 @@ private:
     void _lost(const NSError &error);
     // Does something to uploads; the outcome comes back as changes.
     void _act(std::function<bool(UploadsClient &client, std::optional<NSError> *error)> action);
-    void _setState(State state);
+    void _setState(Connection state);
     void _setProblem(const QString &problem);
     void _setCounts(const UploadCounts &counts, bool paused);
 
     UploadsModel _model;
-    State _state = State::Connecting;
+    Connection _state = Connection::Connecting; // but for silence
     QString _problem;
-    QString _filter = QStringLiteral("all");
+    Filter _filter = Filter::All;
     UploadCounts _counts;
     bool _countsAreOld = false; // there was news since
     bool _isPaused = false;

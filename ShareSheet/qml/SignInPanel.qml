@@ -1,13 +1,14 @@
 // Adds an account: the person says yes in the browser, and perhaps types a code here.
 import QtQuick
 import Korvane.Sheet
+import Korvane.Models
 
 Column {
     id: panel
 
     required property var access // a ServiceAccess object
     readonly property var signIn: access.signIn
-    readonly property bool isAtRest: signIn.step === "none" || signIn.step === "done"
+    readonly property bool isAtRest: signIn.step === SignInModel.None || signIn.step === SignInModel.Done
 
     spacing: Theme.spacing
     bottomPadding: Theme.spacing
@@ -17,7 +18,7 @@ Column {
     }
     Notice {
         isProblem: false
-        visible: panel.signIn.step === "done"
+        visible: panel.signIn.step === SignInModel.Done
         text: qsTr("The account “%1” is ready.").arg(panel.signIn.username)
     }
     ButtonFlow {
@@ -45,8 +46,8 @@ Column {
     Note {
         width: parent.width
         visible: !panel.isAtRest
-        text: panel.signIn.step === "asking" ? qsTr("Asking %1…").arg(panel.access.name)
-            : panel.signIn.step === "storing" ? qsTr("Storing the account…")
+        text: panel.signIn.step === SignInModel.Asking ? qsTr("Asking %1…").arg(panel.access.name)
+            : panel.signIn.step === SignInModel.Storing ? qsTr("Storing the account…")
             : panel.signIn.typesCode ? qsTr("Open this address, also on another device, allow Korvane to upload, and type the code that is shown:")
                                      : qsTr("Allow Korvane to upload in the browser that has opened. If none has, open this address on this device:")
     }
@@ -55,7 +56,7 @@ Column {
         width: parent.width - 2 * Theme.margin
         height: Math.max(Theme.touchHeight, contentHeight)
         verticalAlignment: TextEdit.AlignVCenter
-        visible: panel.signIn.step === "person"
+        visible: panel.signIn.step === SignInModel.Person
         text: panel.signIn.pageAddress
         textFormat: TextEdit.PlainText
         color: Theme.text
@@ -76,7 +77,7 @@ Column {
 
         x: Theme.margin
         width: parent.width - 2 * Theme.margin
-        visible: panel.signIn.step === "person" && panel.signIn.typesCode
+        visible: panel.signIn.step === SignInModel.Person && panel.signIn.typesCode
         placeholderText: qsTr("Code")
         inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
         onVisibleChanged: if (visible) {
@@ -86,7 +87,7 @@ Column {
         onAccepted: panel.signIn.enterCode(text)
     }
     ButtonFlow {
-        visible: !panel.isAtRest && panel.signIn.step !== "storing"
+        visible: !panel.isAtRest && panel.signIn.step !== SignInModel.Storing
 
         ActionButton {
             text: qsTr("Use this code")
@@ -96,7 +97,7 @@ Column {
         }
         ActionButton {
             text: qsTr("Open the page again")
-            visible: panel.signIn.step === "person"
+            visible: panel.signIn.step === SignInModel.Person
             onClicked: panel.signIn.openPage()
         }
         ActionButton {

@@ -2,13 +2,14 @@
 import QtQuick
 import QtQuick.Templates as T
 import Korvane.Sheet
+import Korvane.Models
 
 T.Page {
     id: page
 
     required property var uploads // an Uploads object
 
-    readonly property bool isEmpty: uploads.connection === "connected" && list.count === 0
+    readonly property bool isEmpty: uploads.connection === Uploads.Connected && list.count === 0
 
     title: qsTr("Uploads")
     background: Rectangle {
@@ -23,7 +24,7 @@ T.Page {
         title: page.title
         leadingText: qsTr("Close")
         trailingText: page.uploads.paused ? qsTr("Resume") : qsTr("Pause")
-        trailingEnabled: page.uploads.connection === "connected"
+        trailingEnabled: page.uploads.connection === Uploads.Connected
         onLeadingClicked: page.T.ApplicationWindow.window.closePage()
         onTrailingClicked: page.uploads.setPaused(!page.uploads.paused)
     }

@@ -172,7 +172,7 @@ TEST_F(SettingsPage, SignsInThroughTheBrowserOnceTheKeysAreThere) {
     ASSERT_TRUE(goTo("Flickr: Add an account…"));
     user->presses(Qt::Key_Return);
     ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
-    EXPECT_EQ(flickrAccess().signIn()->step(), text("person"));
+    EXPECT_EQ(flickrAccess().signIn()->step(), SignInModel::Step::Person);
     EXPECT_TRUE(user->reads(opened)) << "for a browser that does not open by itself";
     EXPECT_EQ(decideAndReturn(opened, "allow").status, 200);
     ASSERT_TRUE(waitToRead("“standin” is ready"));
@@ -191,7 +191,8 @@ TEST_F(SettingsPage, SignsInWithATypedCodeAndSaysWhatWentWrong) {
     fillIn("Code", text("wrong"));
     user->presses(Qt::Key_Return);
     ASSERT_TRUE(waitFor([&] {
-        return flickrAccess().signIn()->step() == text("person") && !flickrAccess().signIn()->problem().isEmpty();
+        return flickrAccess().signIn()->step() == SignInModel::Step::Person &&
+               !flickrAccess().signIn()->problem().isEmpty();
     }));
     fillIn("Code", code);
     user->presses(Qt::Key_Return);
@@ -204,14 +205,14 @@ TEST_F(SettingsPage, SignsInWithATypedCodeAndSaysWhatWentWrong) {
     ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
     decideAndReturn(opened, "refuse");
     ASSERT_TRUE(waitFor([&] { return !flickrAccess().signIn()->problem().isEmpty(); })) << "it was refused";
-    EXPECT_EQ(flickrAccess().signIn()->step(), text("none"));
+    EXPECT_EQ(flickrAccess().signIn()->step(), SignInModel::Step::None);
 
     ASSERT_TRUE(goTo("Flickr: Add an account…"));
     user->presses(Qt::Key_Return);
-    ASSERT_TRUE(waitFor([&] { return flickrAccess().signIn()->step() == text("person"); }));
+    ASSERT_TRUE(waitFor([&] { return flickrAccess().signIn()->step() == SignInModel::Step::Person; }));
     ASSERT_TRUE(goTo("Cancel the sign-in"));
     user->presses(Qt::Key_Space);
-    EXPECT_EQ(flickrAccess().signIn()->step(), text("none"));
+    EXPECT_EQ(flickrAccess().signIn()->step(), SignInModel::Step::None);
     EXPECT_TRUE(flickrAccess().signIn()->problem().isEmpty()) << "who gives up knows it";
     ASSERT_TRUE(goTo("Flickr: Add an account…"));
     user->presses(Qt::Key_Return);

@@ -19,7 +19,7 @@ protected:
         return made;
     }
     bool waitUntilConnected() {
-        return waitFor([&] { return page().connection() == QLatin1String("connected"); });
+        return waitFor([&] { return page().connection() == Uploads::Connection::Connected; });
     }
     QString rowText(int row, UploadsModel::Role role) { return page().model()->index(row).data(role).toString(); }
     bool waitForRow(int row, UploadsModel::Role role, const char *words) {
