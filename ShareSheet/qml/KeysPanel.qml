@@ -76,7 +76,7 @@ Column {
     Note {
         width: parent.width
         visible: panel.keys.areInFile && !panel.showsFields
-        text: qsTr("No keyring can be used here: the secrets of keys and accounts are in a file that only you can read.")
+        text: qsTr("The secret is in a file that only you can read, since no keyring could be used.")
     }
     Notice {
         text: panel.keys.problem

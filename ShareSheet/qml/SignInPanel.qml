@@ -11,6 +11,7 @@ Column {
     readonly property bool isAtRest: signIn.step === SignInModel.None || signIn.step === SignInModel.Done
 
     spacing: Theme.spacing
+    topPadding: isAtRest ? 0 : Theme.spacing
     bottomPadding: Theme.spacing
 
     Notice {

@@ -196,8 +196,10 @@ TEST_F(UploadsPage, LeavesAServiceAloneThatHasEndedWhileItIsScrolled) {
     EXPECT_FALSE(waitFor([&] { return servicePid() != 0; }, 500)) << "neither for more rows nor for their pictures";
     EXPECT_LT(page().model()->rowCount(), 400);
     QMetaObject::invokeMethod(list(), "positionViewAtBeginning");
-    user->clicks(text("Ask again"));
-    ASSERT_TRUE(waitUntilConnected());
+    user->clicks(text("Failed (1)"));
+    ASSERT_TRUE(waitForRow(0, UploadsModel::TitleRole, "photo 1")) << "which is asked for";
+    user->clicks(text("All (400)"));
+    ASSERT_TRUE(waitToRead("photo 400"));
     QMetaObject::invokeMethod(list(), "positionViewAtEnd");
     EXPECT_TRUE(waitFor([&] { return page().model()->rowCount() > before; })) << "now more comes";
 }

@@ -126,6 +126,10 @@ int main(int argc, char **argv) {
     photographer.take("settings", {"--settings", "flickr"}, settingsWith([](ServiceAccess &) {}));
     if (!keys.store(service.flickr.account->accountType())) qFatal("the keys are not stored");
     photographer.take("settings-keys", {"--settings", "flickr"}, settingsWith([](ServiceAccess &) {}));
+    photographer.take("settings-uploads", {"--settings"}, [](SheetApplication &window) {
+        settingsWith([](ServiceAccess &) {})(window);
+        QTest::keyClick(window.window(), Qt::Key_Backtab);
+    });
     photographer.take("settings-sign-in", {"--settings", "flickr"},
                       settingsWith([](ServiceAccess &access) { signIn(access, false); }));
     photographer.take("settings-code", {"--settings", "flickr"},
