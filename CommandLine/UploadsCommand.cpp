@@ -143,12 +143,12 @@ std::optional<std::vector<Upload>> UploadsCommand::_retriable(std::optional<NSEr
     }
     std::vector<Upload> found;
     const auto collect = [&](const Upload &upload) {
-        if (upload.mayHaveArrived)
+        if (upload.isRetriedWithAll())
+            found.push_back(upload);
+        else if (upload.mayHaveArrived)
             Output::note(QStringLiteral("Upload %1 is left out, since its video may have arrived: look there, then "
                                         "retry it by its number or remove it.")
                              .arg(upload.id));
-        else if (upload.hasFailed() || upload.isWaiting())
-            found.push_back(upload);
     };
     if (!_client.forEach(collect, error)) return std::nullopt;
     return found;
@@ -159,7 +159,7 @@ int UploadsCommand::_retry() {
     const auto uploads = _retriable(&error);
     if (!uploads) return error ? _fail(error) : ExitUsage;
     for (const Upload &upload : *uploads)
-        if (!upload.hasFailed() && !upload.isWaiting())
+        if (!upload.canBeRetried())
             Output::note(QStringLiteral("Upload %1 is %2: nothing to try again.").arg(upload.id, upload.state));
     const auto count = _client.retry(idsOf(*uploads), &error);
     if (!count) return _fail(error);

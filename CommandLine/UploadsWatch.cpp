@@ -145,10 +145,10 @@ void UploadsWatch::_tick() {
     if (_status || !std::exchange(_dirty, false)) return;
     _lookForEnd();
     ProgressTally tally;
-    tally.queued = _counts[QStringLiteral("queued")];
-    tally.waiting = _counts[QStringLiteral("waiting")];
-    tally.done = _counts[QStringLiteral("done")];
-    tally.failed = _counts[QStringLiteral("failed")];
+    tally.queued = _counts.queued;
+    tally.waiting = _counts.waiting;
+    tally.done = _counts.done;
+    tally.failed = _counts.failed;
     tally.waitingReason = _waitingReason;
     for (const auto &[number, upload] : _uploads) {
         if (upload.isRunning()) tally.running.push_back({_label(upload), upload.bytesSent, upload.bytesTotal});
@@ -168,16 +168,14 @@ void UploadsWatch::_lookForEnd() {
         else
             return _reconnect();
     }
-    if (_counts[QStringLiteral("queued")] + _counts[QStringLiteral("running")] + _counts[QStringLiteral("waiting")] ==
-        0)
-        _end(_someFailed ? ExitUploadFailed : ExitDone);
+    if (_counts.pending() == 0) _end(_someFailed ? ExitUploadFailed : ExitDone);
 }
 
 void UploadsWatch::_countFollowed() {
-    _counts.clear();
+    _counts = {};
     for (const auto &[number, upload] : _uploads)
-        ++_counts[upload.state];
-    _someFailed = _someRemoved || _counts[QStringLiteral("failed")] > 0;
+        _counts.add(upload.state);
+    _someFailed = _someRemoved || _counts.failed > 0;
 }
 
 void UploadsWatch::_end(int status) {

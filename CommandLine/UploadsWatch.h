@@ -55,7 +55,7 @@ private:
     bool _followsAll = true;
     QHash<QString, QString> _labels;
     std::map<qint64, Upload> _uploads; // the followed ones; of all uploads those that run
-    std::map<QString, qint64> _counts; // by state
+    UploadCounts _counts;
     QString _waitingReason;
     QEventLoop _loop;
     QTimer _timer;

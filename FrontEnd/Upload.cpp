@@ -28,4 +28,11 @@ Upload Upload::fromDictionary(const QVariantMap &dictionary) {
     return upload;
 }
 
+void UploadCounts::add(const QString &state, qint64 count) {
+    const std::pair<const char *, qint64 *> fields[]{
+        {"queued", &queued}, {"running", &running}, {"waiting", &waiting}, {"done", &done}, {"failed", &failed}};
+    for (const auto &[name, field] : fields)
+        if (state == QLatin1String(name)) *field += count;
+}
+
 } // namespace korvane

@@ -35,6 +35,22 @@ struct Upload {
     bool isDone() const { return state == QLatin1String("done"); }
     bool hasFailed() const { return state == QLatin1String("failed"); }
     bool isFinished() const { return isDone() || hasFailed(); }
+    bool canBeRetried() const { return hasFailed() || isWaiting(); }
+    // A video that may have arrived is left to a retry of its own, since somebody has to look first.
+    bool isRetriedWithAll() const { return canBeRetried() && !mayHaveArrived; }
+};
+
+// How many uploads there are, by state.
+struct UploadCounts {
+    qint64 queued = 0;
+    qint64 running = 0;
+    qint64 waiting = 0;
+    qint64 done = 0;
+    qint64 failed = 0;
+
+    void add(const QString &state, qint64 count = 1); // other states are left out
+    qint64 pending() const { return queued + running + waiting; }
+    qint64 total() const { return pending() + done + failed; }
 };
 
 // Where an upload's photo or video can be read.

@@ -148,13 +148,13 @@ std::optional<bool> UploadsClient::isPaused(std::optional<NSError> *error) {
     return paused->toBool();
 }
 
-std::optional<std::map<QString, qint64>> UploadsClient::counts(std::optional<NSError> *error) {
+std::optional<UploadCounts> UploadsClient::counts(std::optional<NSError> *error) {
     const auto value = _property(QStringLiteral("Counts"), error);
     if (!value) return std::nullopt;
-    std::map<QString, qint64> counts;
+    UploadCounts counts;
     const auto dictionary = qdbus_cast<QVariantMap>(*value);
     for (auto it = dictionary.cbegin(); it != dictionary.cend(); ++it)
-        counts[it.key()] = it->toLongLong();
+        counts.add(it.key(), it->toLongLong());
     return counts;
 }
 

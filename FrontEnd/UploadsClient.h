@@ -8,7 +8,6 @@
 #include <QStringList>
 
 #include <functional>
-#include <map>
 #include <optional>
 #include <vector>
 
@@ -48,8 +47,7 @@ public:
     std::optional<quint32> clear(std::optional<NSError> *error);
     bool setPaused(bool paused, std::optional<NSError> *error);
     std::optional<bool> isPaused(std::optional<NSError> *error);
-    // Number of uploads by state.
-    std::optional<std::map<QString, qint64>> counts(std::optional<NSError> *error);
+    std::optional<UploadCounts> counts(std::optional<NSError> *error);
 
     // From now on the signals below come. False with the error placed.
     bool subscribe(std::optional<NSError> *error);

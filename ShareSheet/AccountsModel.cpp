@@ -6,10 +6,9 @@
 
 namespace korvane {
 
-AccountsModel::AccountsModel(ACAccountType type, QObject *parent) : QAbstractListModel(parent), _type(std::move(type)) {
-    makePrivateFolder(configFolder());
-    _watcher.addPath(configFolder()); // files are replaced, so it is the folder that is watched
-    connect(&_watcher, &QFileSystemWatcher::directoryChanged, this, &AccountsModel::reload);
+AccountsModel::AccountsModel(ACAccountType type, QObject *parent)
+    : QAbstractListModel(parent), _type(std::move(type)), _watch(configFolder() + QStringLiteral("/accounts.json")) {
+    connect(&_watch, &FileWatch::changed, this, &AccountsModel::reload);
     reload();
 }
 
@@ -39,8 +38,10 @@ QVariant AccountsModel::data(const QModelIndex &index, int role) const {
 
 void AccountsModel::reload() {
     std::vector<Row> rows;
-    for (const auto &account : ACAccountStore().accountsWithAccountType(_type))
+    std::optional<NSError> error;
+    for (const auto &account : ACAccountStore().accountsWithAccountType(_type, &error))
         rows.push_back({account->identifier(), account->username()});
+    _setProblem(_problem, error ? error->localizedDescription() : QString());
     if (rows == _rows) return;
     beginResetModel();
     _rows = std::move(rows);
@@ -57,19 +58,22 @@ void AccountsModel::remove(const QString &accountID) {
 }
 
 void AccountsModel::_change(std::function<bool(std::optional<NSError> *error)> work) {
-    _setProblem({});
+    _setProblem({}, _listProblem);
     inBackground(this, [this, work = std::move(work)]() -> std::function<void()> {
         std::optional<NSError> error;
         const bool done = work(&error);
         return [this, done, error] {
-            if (!done) _setProblem(error->localizedDescription());
+            if (!done) _setProblem(error->localizedDescription(), _listProblem);
             reload();
         };
     });
 }
 
-void AccountsModel::_setProblem(const QString &problem) {
-    if (std::exchange(_problem, problem) != problem) Q_EMIT problemChanged();
+void AccountsModel::_setProblem(const QString &problem, const QString &listProblem) {
+    const QString before = AccountsModel::problem();
+    _problem = problem;
+    _listProblem = listProblem;
+    if (AccountsModel::problem() != before) Q_EMIT problemChanged();
 }
 
 } // namespace korvane

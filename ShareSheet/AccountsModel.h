@@ -2,9 +2,9 @@
 #pragma once
 
 #include "Platform/Accounts/ACAccountStore.h"
+#include "ShareSheet/FileWatch.h"
 
 #include <QAbstractListModel>
-#include <QFileSystemWatcher>
 
 #include <functional>
 
@@ -24,7 +24,8 @@ public:
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
-    QString problem() const { return _problem; } // what went wrong last, for people
+    // Why the list cannot be read, or what went wrong last, for people.
+    QString problem() const { return _listProblem.isEmpty() ? _problem : _listProblem; }
 
     // Posts go out with it from now on.
     Q_INVOKABLE void use(const QString &accountID);
@@ -43,12 +44,13 @@ private:
         friend bool operator==(const Row &, const Row &) = default;
     };
     void _change(std::function<bool(std::optional<NSError> *error)> work);
-    void _setProblem(const QString &problem);
+    void _setProblem(const QString &problem, const QString &listProblem);
 
     const ACAccountType _type;
     std::vector<Row> _rows; // in the list's order: the last is in use
     QString _problem;
-    QFileSystemWatcher _watcher;
+    QString _listProblem;
+    FileWatch _watch;
 };
 
 } // namespace korvane

@@ -2,16 +2,21 @@
 #pragma once
 
 #include "Platform/Accounts/ApplicationKeys.h"
+#include "ShareSheet/FileWatch.h"
 
 #include <QObject>
 
+#include <functional>
+
 namespace korvane {
 
-// The secret is never shown again. The keyring is waited for elsewhere. Thread: main.
+// Follows what other programs do to them. The secret is never shown again. The keyring is waited for elsewhere. Thread:
+// main.
 class KeysModel : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString consumerKey READ consumerKey NOTIFY changed)
     Q_PROPERTY(bool areStored READ areStored NOTIFY changed)
+    Q_PROPERTY(bool areInFile READ areInFile NOTIFY changed)
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)
     Q_PROPERTY(QString problem READ problem NOTIFY changed)
     Q_PROPERTY(QString registrationAddress READ registrationAddress CONSTANT)
@@ -21,7 +26,8 @@ public:
 
     QString consumerKey() const { return _keys ? _keys->consumerKey : QString(); }
     bool areStored() const { return _keys.has_value(); }
-    bool isBusy() const { return _isBusy; } // looks, or stores
+    bool areInFile() const { return _areInFile; } // for want of a keyring
+    bool isBusy() const { return _isBusy; }       // looks, or stores
     QString problem() const { return _problem; }
     QString registrationAddress() const { return ApplicationKeys::registrationAddress(_type); }
     const std::optional<ApplicationKeys> &keys() const { return _keys; }
@@ -36,13 +42,16 @@ Q_SIGNALS:
 
 private:
     void _look();
-    void _set(const std::optional<ApplicationKeys> &keys, const std::optional<NSError> &error);
+    // Does something to the keys; `then` runs afterwards if it could be done.
+    void _change(std::function<bool(std::optional<NSError> *error)> work, std::function<void()> then);
     void _begin();
 
     const ACAccountType _type;
     std::optional<ApplicationKeys> _keys;
+    bool _areInFile = false;
     bool _isBusy = false;
     QString _problem;
+    FileWatch _watch;
 };
 
 } // namespace korvane

@@ -26,6 +26,9 @@ public:
     KeysModel *keys() { return &_keys; }
     SignInModel *signIn() { return &_signIn; }
 
+    // What a control is called where each service has one of its kind.
+    Q_INVOKABLE QString named(const QString &text) const { return tr("%1: %2").arg(_name, text); }
+
     // Needs the application's keys. typesCode: the page shows a code to type, for a browser on another machine.
     Q_INVOKABLE void addAccount(bool typesCode) {
         if (_keys.keys()) _signIn.start(*_keys.keys(), typesCode);

@@ -1,15 +1,20 @@
 // The settings page: accounts and preferences.
 #pragma once
 
+#include "ShareSheet/FileWatch.h"
 #include "ShareSheet/ServiceAccess.h"
+
+#include <QList>
 
 namespace korvane {
 
-// What is set is written at once. Thread: main.
+// What is set is written at once, and what other programs set is followed. Thread: main.
 class Settings : public QObject {
     Q_OBJECT
     Q_PROPERTY(korvane::ServiceAccess *flickr READ flickr CONSTANT)
     Q_PROPERTY(korvane::ServiceAccess *vimeo READ vimeo CONSTANT)
+    Q_PROPERTY(QList<int> flickrParallelChoices READ flickrParallelChoices CONSTANT)
+    Q_PROPERTY(QList<int> vimeoParallelChoices READ vimeoParallelChoices CONSTANT)
     Q_PROPERTY(int flickrParallelUploads READ flickrParallelUploads WRITE setFlickrParallelUploads NOTIFY changed)
     Q_PROPERTY(int vimeoParallelUploads READ vimeoParallelUploads WRITE setVimeoParallelUploads NOTIFY changed)
     Q_PROPERTY(int displayImageMaxPixels READ displayImageMaxPixels WRITE setDisplayImageMaxPixels NOTIFY changed)
@@ -21,6 +26,10 @@ public:
 
     ServiceAccess *flickr() { return &_flickr; }
     ServiceAccess *vimeo() { return &_vimeo; }
+
+    // The numbers to choose from.
+    QList<int> flickrParallelChoices() const;
+    QList<int> vimeoParallelChoices() const;
 
     int flickrParallelUploads() const;
     int vimeoParallelUploads() const;
@@ -36,11 +45,12 @@ Q_SIGNALS:
     void changed();
 
 private:
-    void _set(const char *key, const QVariant &value);
+    void _told(bool isWritten);
 
     ServiceAccess _flickr;
     ServiceAccess _vimeo;
     QString _problem;
+    FileWatch _watch;
 };
 
 } // namespace korvane

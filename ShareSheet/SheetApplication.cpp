@@ -28,6 +28,8 @@ SheetApplication::SheetApplication() : _engine(std::make_unique<QQmlApplicationE
             break;
     QCoreApplication::installTranslator(&_texts);
     qmlRegisterType<EditableText>("Korvane.Models", 1, 0, "EditableText");
+    qmlRegisterUncreatableType<SignInModel>("Korvane.Models", 1, 0, "SignInModel", {});
+    qmlRegisterUncreatableType<Uploads>("Korvane.Models", 1, 0, "Uploads", {});
     _engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
     _engine->addImageProvider(ThumbnailProvider::name(), new ThumbnailProvider(&ThumbnailMaker::make));
 }

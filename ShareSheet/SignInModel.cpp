@@ -15,7 +15,7 @@ SignInModel::SignInModel(ACAccountType type, QObject *parent)
 SignInModel::~SignInModel() = default;
 
 void SignInModel::start(const ApplicationKeys &keys, bool typesCode) {
-    if (_signIn || _step == QLatin1String("storing")) return;
+    if (_signIn || _step == Step::Storing) return;
     _typesCode = typesCode;
     _pageAddress.clear();
     const SignIn::Handlers handlers{
@@ -25,13 +25,13 @@ void SignInModel::start(const ApplicationKeys &keys, bool typesCode) {
     SignIn::Options options;
     options.typesCode = typesCode;
     _signIn = std::make_shared<SignIn>(_type, keys, handlers, options);
-    _set(QStringLiteral("asking"));
+    _set(Step::Asking);
     _signIn->start();
 }
 
 void SignInModel::_pageIsReady(const NSURL &page) {
     _pageAddress = page.absoluteString();
-    _set(QStringLiteral("person"));
+    _set(Step::Person);
     openPage();
 }
 
@@ -55,22 +55,22 @@ void SignInModel::_ended(const std::optional<SignedInAccount> &account, const st
     _pageAddress.clear();
     if (!account) {
         const bool isCancelled = error->domain() == ACErrorDomain && error->code() == ACErrorSignInCancelled;
-        return _set(QStringLiteral("none"), isCancelled ? QString() : error->localizedDescription());
+        return _set(Step::None, isCancelled ? QString() : error->localizedDescription());
     }
-    _set(QStringLiteral("storing"));
+    _set(Step::Storing);
     inBackground(this, [this, found = *account]() -> std::function<void()> {
         std::optional<NSError> storeError;
         const auto stored = found.save(&storeError);
         return [this, stored, storeError] {
-            if (!stored) return _set(QStringLiteral("none"), storeError->localizedDescription());
+            if (!stored) return _set(Step::None, storeError->localizedDescription());
             _username = stored->username();
-            _set(QStringLiteral("done"));
+            _set(Step::Done);
             Q_EMIT accountAdded();
         };
     });
 }
 
-void SignInModel::_set(const QString &step, const QString &problem) {
+void SignInModel::_set(Step step, const QString &problem) {
     _step = step;
     _problem = problem;
     Q_EMIT changed();

@@ -10,18 +10,26 @@ namespace korvane {
 // One at a time; the account is stored at its end. Thread: main.
 class SignInModel : public QObject {
     Q_OBJECT
-    Q_PROPERTY(QString step READ step NOTIFY changed)
+    Q_PROPERTY(Step step READ step NOTIFY changed)
     Q_PROPERTY(bool typesCode READ typesCode NOTIFY changed)
     Q_PROPERTY(QString pageAddress READ pageAddress NOTIFY changed)
     Q_PROPERTY(QString problem READ problem NOTIFY changed)
     Q_PROPERTY(QString username READ username NOTIFY changed)
 
 public:
+    enum class Step {
+        None,
+        Asking, // the service for its page
+        Person, // has the page
+        Storing,
+        Done
+    };
+    Q_ENUM(Step)
+
     explicit SignInModel(ACAccountType type, QObject *parent = nullptr);
     ~SignInModel() override;
 
-    // "none", "asking" (the service for its page), "person" (has the page), "storing" or "done".
-    QString step() const { return _step; }
+    Step step() const { return _step; }
     bool typesCode() const { return _typesCode; }
     QString pageAddress() const { return _pageAddress; }
     QString problem() const { return _problem; }   // of the last sign-in, or of the code typed last
@@ -43,12 +51,12 @@ Q_SIGNALS:
 private:
     void _pageIsReady(const NSURL &page);
     void _ended(const std::optional<SignedInAccount> &account, const std::optional<NSError> &error);
-    void _set(const QString &step, const QString &problem = {});
+    void _set(Step step, const QString &problem = {});
 
     const ACAccountType _type;
     Opener _open;
     std::shared_ptr<SignIn> _signIn;
-    QString _step = QStringLiteral("none");
+    Step _step = Step::None;
     QString _pageAddress;
     QString _problem;
     QString _username;

@@ -18,10 +18,9 @@ struct Recipient {
 // Says once that it is finished, also where it was cancelled; who asked deletes it after that, or at the window's end.
 class Response : public QQuickImageResponse {
 public:
-    Response(const std::shared_ptr<ThumbnailQueue> &queue, const ThumbnailQueue::Order &order)
-        : _queue(queue), _recipient(std::make_shared<Recipient>()) {
+    Response(ThumbnailQueue &queue, const ThumbnailQueue::Order &order) : _recipient(std::make_shared<Recipient>()) {
         _recipient->response = this;
-        queue->ask(order, _wanted, [recipient = _recipient](const QImage &image) {
+        queue.ask(order, _wanted.get_token(), [recipient = _recipient](const QImage &image) {
             const std::lock_guard lock(recipient->mutex);
             if (recipient->response) recipient->response->_arrived(image);
         });
@@ -37,10 +36,7 @@ public:
         nothing.fill(Qt::transparent);
         return QQuickTextureFactory::textureFactoryForImage(_image.isNull() ? nothing : _image);
     }
-    void cancel() override {
-        _wanted.request_stop();
-        if (const auto queue = _queue.lock()) queue->dropCancelled();
-    }
+    void cancel() override { _wanted.request_stop(); }
 
 private:
     void _arrived(const QImage &image) {
@@ -49,7 +45,6 @@ private:
             this, [this] { Q_EMIT finished(); }, Qt::QueuedConnection);
     }
 
-    std::weak_ptr<ThumbnailQueue> _queue;
     const std::shared_ptr<Recipient> _recipient;
     std::stop_source _wanted;
     QImage _image;
@@ -69,8 +64,7 @@ QString ThumbnailProvider::address(const QByteArray &path, qint64 offset, qint64
         .arg(QString::fromLatin1(path.toHex()));
 }
 
-ThumbnailProvider::ThumbnailProvider(ThumbnailQueue::Maker maker)
-    : _queue(std::make_shared<ThumbnailQueue>(std::move(maker))) {}
+ThumbnailProvider::ThumbnailProvider(ThumbnailQueue::Maker maker) : _queue(std::move(maker)) {}
 
 QQuickImageResponse *ThumbnailProvider::requestImageResponse(const QString &id, const QSize &requestedSize) {
     ThumbnailQueue::Order order;

@@ -20,7 +20,7 @@ public:
     QQuickImageResponse *requestImageResponse(const QString &id, const QSize &requestedSize) override;
 
 private:
-    std::shared_ptr<ThumbnailQueue> _queue;
+    ThumbnailQueue _queue;
 };
 
 } // namespace korvane

@@ -1,78 +1,59 @@
 // Thumbnails in the making.
 #include "ShareSheet/ThumbnailQueue.h"
 
-#include "Platform/Foundation/Dispatch.h"
+#include "Platform/Foundation/NSData.h"
 
 #include <utility>
-#include <vector>
 
 namespace korvane {
 namespace {
 
+// Another one once the file has changed.
 QByteArray keyOf(const ThumbnailQueue::Order &order) {
-    return QByteArray::number(order.edge) + (order.isVideo ? 'v' : 'p') + QByteArray::number(order.offset) + order.path;
+    const FileIdentity file = FileIdentity::ofPath(order.path).value_or(FileIdentity());
+    QByteArray key = order.isVideo ? "v" : "p";
+    for (const qint64 number : {qint64(order.edge), order.offset, order.length, file.size, file.modifiedNanoseconds})
+        key += QByteArray::number(number) + ' ';
+    return key + order.path;
 }
 
 } // namespace
 
-ThumbnailQueue::ThumbnailQueue(Maker maker) : _state(std::make_shared<State>()) {
-    _state->maker = std::move(maker);
+ThumbnailQueue::ThumbnailQueue(Maker maker) : _maker(std::move(maker)) {
+    _pool.setMaxThreadCount(mostAtATime);
 }
 
 ThumbnailQueue::~ThumbnailQueue() {
-    const std::lock_guard lock(_state->mutex);
-    _state->isEnding = true;
+    _ending.request_stop();
+    _pool.waitForDone();
 }
 
-void ThumbnailQueue::ask(const Order &order, const std::stop_source &wanted, Answer answer) {
-    std::unique_lock lock(_state->mutex);
-    if (const QImage *known = _state->made.object(keyOf(order))) {
-        const QImage image = *known;
-        lock.unlock();
-        return answer(image);
-    }
-    _state->waiting.push_back({order, wanted, std::move(answer)});
-    lock.unlock();
-    _startMore(_state);
-}
-
-void ThumbnailQueue::dropCancelled() {
-    std::vector<Job> dropped;
-    std::unique_lock lock(_state->mutex);
-    for (auto job = _state->waiting.begin(); job != _state->waiting.end();)
-        if (job->wanted.stop_requested()) {
-            dropped.push_back(std::move(*job));
-            job = _state->waiting.erase(job);
-        } else {
-            ++job;
+void ThumbnailQueue::ask(const Order &order, const std::stop_token &wanted, const Answer &answer) {
+    const QByteArray key = keyOf(order);
+    if (const QImage known = _known(key); !known.isNull()) return answer(known);
+    _pool.start([this, order, key, wanted, answer] {
+        const QImage image = _made(order, wanted);
+        if (!image.isNull()) {
+            const std::lock_guard lock(_mutex);
+            _cache.insert(key, new QImage(image), image.sizeInBytes());
         }
-    lock.unlock();
-    for (const Job &job : dropped)
-        job.answer({});
+        answer(image);
+    });
 }
 
-void ThumbnailQueue::_startMore(const std::shared_ptr<State> &state) {
-    const std::lock_guard lock(state->mutex);
-    while (state->running < mostAtATime && !state->waiting.empty()) {
-        ++state->running;
-        dispatchGlobal([state, job = std::move(state->waiting.front())] { _run(state, job); });
-        state->waiting.pop_front();
-    }
+QImage ThumbnailQueue::_known(const QByteArray &key) {
+    const std::lock_guard lock(_mutex);
+    const QImage *known = _cache.object(key);
+    return known ? *known : QImage();
 }
 
-void ThumbnailQueue::_run(const std::shared_ptr<State> &state, const Job &job) {
-    QImage image;
-    {
-        std::unique_lock lock(state->mutex);
-        const bool isWanted = !state->isEnding && !job.wanted.stop_requested();
-        lock.unlock();
-        if (isWanted) image = state->maker(job.order, job.wanted.get_token());
-        lock.lock();
-        --state->running;
-        if (!image.isNull()) state->made.insert(keyOf(job.order), new QImage(image), image.sizeInBytes());
-    }
-    job.answer(image);
-    _startMore(state);
+// Ends early where who asked has gone, and where all ends.
+QImage ThumbnailQueue::_made(const Order &order, const std::stop_token &wanted) {
+    std::stop_source stop;
+    const auto end = [&stop] { stop.request_stop(); };
+    const std::stop_callback whenLeft(wanted, end);
+    const std::stop_callback whenEnding(_ending.get_token(), end);
+    return stop.stop_requested() ? QImage() : _maker(order, stop.get_token());
 }
 
 } // namespace korvane

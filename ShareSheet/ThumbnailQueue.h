@@ -4,10 +4,9 @@
 #include <QByteArray>
 #include <QCache>
 #include <QImage>
+#include <QThreadPool>
 
-#include <deque>
 #include <functional>
-#include <memory>
 #include <mutex>
 #include <stop_token>
 
@@ -29,35 +28,23 @@ public:
     using Maker = std::function<QImage(const Order &, std::stop_token)>;
 
     explicit ThumbnailQueue(Maker maker);
-    ~ThumbnailQueue(); // nothing is made any more
+    ~ThumbnailQueue(); // tells all who still wait that there is none; returns when nothing runs any more
 
-    // What can be told at once is told within the call. Stopping the token's source cancels.
-    void ask(const Order &order, const std::stop_source &wanted, Answer answer);
-    // Tells those whose token has been stopped.
-    void dropCancelled();
+    // What was made already, of the file as it is now, is told within the call. Stopping the token's source cancels.
+    void ask(const Order &order, const std::stop_token &wanted, const Answer &answer);
 
     static constexpr int mostAtATime = 2;
     static constexpr int largestCache = 24 * 1024 * 1024; // bytes
 
 private:
-    struct Job {
-        Order order;
-        std::stop_source wanted;
-        Answer answer;
-    };
-    struct State {
-        std::mutex mutex;
-        Maker maker;
-        std::deque<Job> waiting;
-        int running = 0;
-        bool isEnding = false;
-        QCache<QByteArray, QImage> made{largestCache};
-    };
+    QImage _known(const QByteArray &key);
+    QImage _made(const Order &order, const std::stop_token &wanted);
 
-    static void _startMore(const std::shared_ptr<State> &state);
-    static void _run(const std::shared_ptr<State> &state, const Job &job);
-
-    std::shared_ptr<State> _state;
+    const Maker _maker;
+    std::stop_source _ending;
+    std::mutex _mutex;
+    QCache<QByteArray, QImage> _cache{largestCache};
+    QThreadPool _pool; // the first to go
 };
 
 } // namespace korvane

@@ -22,10 +22,18 @@ constexpr quint32 pageRows = 200;
 constexpr quint32 mostRunning = 100;
 constexpr qint64 newestID = std::numeric_limits<qint64>::max();
 
-QStringList statesOf(const QString &filter) {
-    if (filter == QLatin1String("pending"))
+QStringList statesOf(Uploads::Filter filter) {
+    switch (filter) {
+    case Uploads::Filter::Pending:
         return {QStringLiteral("queued"), QStringLiteral("running"), QStringLiteral("waiting")};
-    return filter == QLatin1String("all") ? QStringList() : QStringList{filter};
+    case Uploads::Filter::Failed:
+        return {QStringLiteral("failed")};
+    case Uploads::Filter::Done:
+        return {QStringLiteral("done")};
+    case Uploads::Filter::All:
+        break;
+    }
+    return {};
 }
 
 } // namespace
@@ -34,22 +42,23 @@ struct Uploads::Snapshot {
     std::optional<NSError> error;
     std::optional<std::vector<Upload>> page;
     std::optional<std::vector<Upload>> running;
-    std::optional<std::map<QString, qint64>> counts;
+    std::optional<UploadCounts> counts;
     std::optional<bool> paused;
     bool isLast = false;
 };
 
 Uploads::Uploads(QObject *parent) : QObject(parent) {
-    connect(&_link, &UploadsLink::changed, this, &Uploads::_changed);
-    connect(&_link, &UploadsLink::removed, this, [this](const QString &id) {
+    const UploadsClient *client = &_link.client();
+    connect(client, &UploadsClient::changed, this, &Uploads::_changed);
+    connect(client, &UploadsClient::removed, this, [this](const QString &id) {
         _changes.remove(id);
         _model.remove(id);
         _countTimer.start();
     });
-    connect(&_link, &UploadsLink::progressed, &_model, &UploadsModel::setProgress);
-    connect(&_link, &UploadsLink::serviceStarted, this, &Uploads::_load);
-    connect(&_link, &UploadsLink::serviceEnded, this, &Uploads::_serviceEnded);
-    connect(&_link, &UploadsLink::busLost, this, [this] { _retryTimer.start(retryDelay); });
+    connect(client, &UploadsClient::progressed, &_model, &UploadsModel::setProgress);
+    connect(client, &UploadsClient::serviceStarted, this, &Uploads::_load);
+    connect(client, &UploadsClient::serviceEnded, this, &Uploads::_serviceEnded);
+    connect(client, &UploadsClient::busLost, this, [this] { _retryTimer.start(retryDelay); });
     connect(&_link, &UploadsLink::silentChanged, this, &Uploads::connectionChanged);
     connect(&_model, &UploadsModel::moreWanted, this, &Uploads::_fetchMore);
     connect(&_model, &UploadsModel::thumbnailWanted, this, [this](const QString &id) {
@@ -69,24 +78,9 @@ Uploads::Uploads(QObject *parent) : QObject(parent) {
     reconnect();
 }
 
-QString Uploads::connection() const {
-    if (_link.isSilent()) return QStringLiteral("silent");
-    switch (_state) {
-    case State::Connecting:
-        return QStringLiteral("connecting");
-    case State::Connected:
-        return QStringLiteral("connected");
-    case State::Ended:
-        return QStringLiteral("ended");
-    case State::Lost:
-        break;
-    }
-    return QStringLiteral("lost");
-}
-
 void Uploads::reconnect() {
     _retryTimer.stop();
-    if (_state == State::Ended) _setState(State::Connecting);
+    if (_state == Connection::Ended) _setState(Connection::Connecting);
     _link.ask([this](UploadsClient &client) -> UploadsLink::Answer {
         std::optional<NSError> error;
         const bool connected = client.connectToBus(&error) && client.subscribe(&error);
@@ -114,12 +108,14 @@ void Uploads::_loaded(const Snapshot &snapshot) {
     if (!snapshot.paused) return _lost(*snapshot.error);
     if (_failures > 0) _setProblem({});
     _failures = 0;
+    _setState(Connection::Connected);
     _model.replace(*snapshot.page, *snapshot.running, snapshot.isLast);
     _setCounts(*snapshot.counts, *snapshot.paused);
-    _setState(State::Connected);
 }
 
+// Here and below: asking would start a service that has ended.
 void Uploads::_fetchMore() {
+    if (_state != Connection::Connected) return _model.fetchFailed();
     const qint64 before = _model.oldest();
     const quint32 count = pageRows;
     const quint64 loading = _loading;
@@ -137,6 +133,7 @@ void Uploads::_fetchMore() {
 
 void Uploads::_changed(const Upload &upload) {
     _changes.insert(upload.id, upload);
+    _countsAreOld = true;
     if (!_changeTimer.isActive()) _changeTimer.start();
 }
 
@@ -147,7 +144,7 @@ void Uploads::_applyChanges() {
 }
 
 void Uploads::_lookAtCounts() {
-    if (_state != State::Connected) return;
+    if (_state != Connection::Connected) return;
     _link.ask([this](UploadsClient &client) -> UploadsLink::Answer {
         std::optional<NSError> error;
         const auto counts = client.counts(&error);
@@ -160,11 +157,13 @@ void Uploads::_lookAtCounts() {
 
 // What is nowhere to be read has none, and its row shows a sign instead.
 void Uploads::_askForThumbnails() {
-    _link.ask([this, ids = std::exchange(_thumbnailsWanted, {})](UploadsClient &client) -> UploadsLink::Answer {
+    const QStringList ids = std::exchange(_thumbnailsWanted, {});
+    if (_state != Connection::Connected) return _model.forgetThumbnails(ids);
+    _link.ask([this, ids](UploadsClient &client) -> UploadsLink::Answer {
         std::optional<NSError> error;
         const auto uploads = client.get(ids, &error);
         const auto sources = uploads ? client.sources(ids, &error) : std::nullopt;
-        if (!sources) return {};
+        if (!sources) return [this, ids] { _model.forgetThumbnails(ids); };
         QSet<QString> videos;
         for (const Upload &upload : *uploads)
             if (upload.service == QLatin1String("vimeo")) videos.insert(upload.id);
@@ -178,25 +177,26 @@ void Uploads::_askForThumbnails() {
 
 // With nothing left to do it has ended for good reason, and asking would only start it again.
 void Uploads::_serviceEnded() {
-    if (pending() > 0)
+    if (pending() > 0 || _countsAreOld)
         _retryTimer.start(retryDelay);
     else
-        _setState(State::Ended);
+        _setState(Connection::Ended);
 }
 
 void Uploads::_lost(const NSError &error) {
     _setProblem(error.localizedDescription());
-    _setState(State::Lost);
+    _setState(Connection::Lost);
     _failures = std::min(_failures * 2 + 1, longestRetryDelays);
     _retryTimer.start(retryDelay * _failures);
 }
 
-void Uploads::setFilter(const QString &filter) {
+void Uploads::setFilter(Filter filter) {
     if (filter == _filter) return;
     _filter = filter;
     _model.setStates(statesOf(filter));
     Q_EMIT filterChanged();
-    if (_state == State::Connected) _load();
+    if (_state == Connection::Connected) _load();
+    if (_state == Connection::Ended) reconnect(); // the person wants to see them
 }
 
 void Uploads::_act(std::function<bool(UploadsClient &client, std::optional<NSError> *error)> action) {
@@ -212,12 +212,11 @@ void Uploads::retry(const QString &id) {
     _act([id](UploadsClient &client, std::optional<NSError> *error) { return client.retry({id}, error).has_value(); });
 }
 
-// A video that may have arrived is left to its own row, since somebody has to look first.
-void Uploads::retryAllFailed() {
+void Uploads::retryAll() {
     _act([](UploadsClient &client, std::optional<NSError> *error) {
         QStringList ids;
         const auto collect = [&](const Upload &upload) {
-            if (upload.hasFailed() && !upload.mayHaveArrived) ids.append(upload.id);
+            if (upload.isRetriedWithAll()) ids.append(upload.id);
         };
         return client.forEach(collect, error) && client.retry(ids, error);
     });
@@ -235,22 +234,14 @@ void Uploads::setPaused(bool paused) {
     _act([paused](UploadsClient &client, std::optional<NSError> *error) { return client.setPaused(paused, error); });
 }
 
-qint64 Uploads::pending() const {
-    return _countOf("queued") + _countOf("running") + _countOf("waiting");
-}
-
-qint64 Uploads::_countOf(const char *state) const {
-    const auto found = _counts.find(QLatin1String(state));
-    return found == _counts.end() ? 0 : found->second;
-}
-
-void Uploads::_setCounts(const std::map<QString, qint64> &counts, bool paused) {
+void Uploads::_setCounts(const UploadCounts &counts, bool paused) {
     _counts = counts;
+    _countsAreOld = _changeTimer.isActive() || _countTimer.isActive();
     _isPaused = paused;
     Q_EMIT countsChanged();
 }
 
-void Uploads::_setState(State state) {
+void Uploads::_setState(Connection state) {
     _state = state;
     Q_EMIT connectionChanged();
 }

@@ -7,7 +7,6 @@
 #include <QHash>
 #include <QTimer>
 
-#include <map>
 #include <memory>
 #include <optional>
 
@@ -17,38 +16,55 @@ namespace korvane {
 class Uploads : public QObject {
     Q_OBJECT
     Q_PROPERTY(korvane::UploadsModel *model READ model CONSTANT)
-    Q_PROPERTY(QString connection READ connection NOTIFY connectionChanged)
+    Q_PROPERTY(Connection connection READ connection NOTIFY connectionChanged)
     Q_PROPERTY(QString problem READ problem NOTIFY problemChanged)
     Q_PROPERTY(bool paused READ isPaused NOTIFY countsChanged)
-    Q_PROPERTY(QString filter READ filter WRITE setFilter NOTIFY filterChanged)
+    Q_PROPERTY(Filter filter READ filter WRITE setFilter NOTIFY filterChanged)
     Q_PROPERTY(qint64 total READ total NOTIFY countsChanged)
     Q_PROPERTY(qint64 pending READ pending NOTIFY countsChanged)
+    Q_PROPERTY(qint64 waiting READ waiting NOTIFY countsChanged)
     Q_PROPERTY(qint64 failed READ failed NOTIFY countsChanged)
     Q_PROPERTY(qint64 done READ done NOTIFY countsChanged)
 
 public:
+    // To the upload service.
+    enum class Connection {
+        Connecting,
+        Connected,
+        Silent, // it does not answer for now
+        Ended,  // nothing is left to do
+        Lost    // it is tried again
+    };
+    Q_ENUM(Connection)
+    // What is shown.
+    enum class Filter {
+        All,
+        Pending, // queued, running, waiting
+        Failed,
+        Done
+    };
+    Q_ENUM(Filter)
+
     explicit Uploads(QObject *parent = nullptr);
 
     UploadsModel *model() { return &_model; }
-    // "connecting", "connected", "silent" (it does not answer for now), "ended" (nothing is left to do) or "lost" (it
-    // is tried again).
-    QString connection() const;
+    Connection connection() const { return _link.isSilent() ? Connection::Silent : _state; }
     // What went wrong last, for people; empty if nothing did.
     QString problem() const { return _problem; }
     bool isPaused() const { return _isPaused; }
 
-    // "all", "pending" (queued, running, waiting), "failed" or "done".
-    QString filter() const { return _filter; }
-    void setFilter(const QString &filter);
+    Filter filter() const { return _filter; }
+    void setFilter(Filter filter);
 
     // How many there are.
-    qint64 total() const { return pending() + failed() + done(); }
-    qint64 pending() const;
-    qint64 failed() const { return _countOf("failed"); }
-    qint64 done() const { return _countOf("done"); }
+    qint64 total() const { return _counts.total(); }
+    qint64 pending() const { return _counts.pending(); }
+    qint64 waiting() const { return _counts.waiting; } // of those
+    qint64 failed() const { return _counts.failed; }
+    qint64 done() const { return _counts.done; }
 
     Q_INVOKABLE void retry(const QString &id);
-    Q_INVOKABLE void retryAllFailed();
+    Q_INVOKABLE void retryAll();
     Q_INVOKABLE void remove(const QString &id);
     Q_INVOKABLE void clearDone();
     Q_INVOKABLE void setPaused(bool paused);
@@ -63,7 +79,6 @@ Q_SIGNALS:
 
 private:
     struct Snapshot;
-    enum class State { Connecting, Connected, Ended, Lost };
 
     void _load();
     void _loaded(const Snapshot &snapshot);
@@ -76,16 +91,16 @@ private:
     void _lost(const NSError &error);
     // Does something to uploads; the outcome comes back as changes.
     void _act(std::function<bool(UploadsClient &client, std::optional<NSError> *error)> action);
-    void _setState(State state);
+    void _setState(Connection state);
     void _setProblem(const QString &problem);
-    void _setCounts(const std::map<QString, qint64> &counts, bool paused);
-    qint64 _countOf(const char *state) const;
+    void _setCounts(const UploadCounts &counts, bool paused);
 
     UploadsModel _model;
-    State _state = State::Connecting;
+    Connection _state = Connection::Connecting; // but for silence
     QString _problem;
-    QString _filter = QStringLiteral("all");
-    std::map<QString, qint64> _counts; // by state
+    Filter _filter = Filter::All;
+    UploadCounts _counts;
+    bool _countsAreOld = false; // there was news since
     bool _isPaused = false;
     quint64 _loading = 0;            // the number of the load that counts
     QHash<QString, Upload> _changes; // not shown yet

@@ -12,12 +12,6 @@ UploadsLink::UploadsLink(QObject *parent) : QObject(parent), _client(new Uploads
     qRegisterMetaType<Upload>();
     _client->moveToThread(&_thread);
     connect(&_thread, &QThread::finished, _client, &QObject::deleteLater);
-    connect(_client, &UploadsClient::changed, this, &UploadsLink::changed);
-    connect(_client, &UploadsClient::removed, this, &UploadsLink::removed);
-    connect(_client, &UploadsClient::progressed, this, &UploadsLink::progressed);
-    connect(_client, &UploadsClient::serviceStarted, this, &UploadsLink::serviceStarted);
-    connect(_client, &UploadsClient::serviceEnded, this, &UploadsLink::serviceEnded);
-    connect(_client, &UploadsClient::busLost, this, &UploadsLink::busLost);
     connect(&_silenceTimer, &QTimer::timeout, this, &UploadsLink::_look);
     _silenceTimer.setInterval(silenceMilliseconds / 8);
     _thread.setObjectName(QStringLiteral("uploads"));

@@ -13,7 +13,7 @@
 namespace korvane {
 
 // The client's calls block, for as long as the service takes; so it lives on a thread of its own. What is asked is
-// answered one after another. Thread: the main one; so are signals and answers.
+// answered one after another. Thread: the main one; so are answers.
 class UploadsLink : public QObject {
     Q_OBJECT
 
@@ -21,6 +21,9 @@ public:
     explicit UploadsLink(QObject *parent = nullptr);
     // Breaks off what is asked; nothing is answered any more.
     ~UploadsLink() override;
+
+    // For its signals.
+    const UploadsClient &client() const { return *_client; }
 
     // Runs the work on the link's thread, and then what it returns on the main one.
     using Answer = std::function<void()>;
@@ -30,12 +33,6 @@ public:
     bool isSilent() const { return _isSilent; }
 
 Q_SIGNALS:
-    void changed(const korvane::Upload &upload);
-    void removed(const QString &id);
-    void progressed(const QString &id, qint64 bytesSent, qint64 bytesTotal);
-    void serviceStarted();
-    void serviceEnded();
-    void busLost();
     void silentChanged();
 
 private:

@@ -63,7 +63,7 @@ QVariant UploadsModel::data(const QModelIndex &index, int role) const {
     case ProgressRole:
         return upload.bytesTotal > 0 ? double(upload.bytesSent) / double(upload.bytesTotal) : -1.0;
     case CanRetryRole:
-        return upload.hasFailed() || upload.isWaiting();
+        return upload.canBeRetried();
     case RemovalQuestionRole:
         return UploadWords::removalQuestion(upload);
     case ThumbnailRole:
@@ -89,15 +89,20 @@ void UploadsModel::setThumbnails(const QHash<QString, QString> &addresses) {
     }
 }
 
+void UploadsModel::forgetThumbnails(const QStringList &ids) {
+    for (const QString &id : ids)
+        _thumbnails.remove(id);
+}
+
 QString UploadsModel::_paceText(const Upload &upload) const {
     const auto rate = _rates.find(upload.id.toLongLong());
-    if (rate == _rates.end() || !upload.isRunning()) return {};
+    const bool isSent = upload.bytesTotal > 0 && upload.bytesSent >= upload.bytesTotal; // and not yet answered
+    if (rate == _rates.end() || !upload.isRunning() || isSent) return {};
     const auto speed = rate->second.bytesPerSecond();
     const auto left = rate->second.secondsLeft(upload.bytesTotal);
     if (!speed) return {};
     const QString text = UploadWords::speed(*speed);
-    return left && upload.bytesSent < upload.bytesTotal ? text + QStringLiteral(" · ") + UploadWords::timeLeft(*left)
-                                                        : text;
+    return left ? text + QStringLiteral(" · ") + UploadWords::timeLeft(*left) : text;
 }
 
 bool UploadsModel::canFetchMore(const QModelIndex &parent) const {

@@ -59,6 +59,7 @@ public:
     void apply(const std::vector<Upload> &changed);
     void remove(const QString &id);
     void setThumbnails(const QHash<QString, QString> &addresses); // by id
+    void forgetThumbnails(const QStringList &ids);                // they are asked for again when the rows have news
     void setProgress(const QString &id, qint64 bytesSent, qint64 bytesTotal);
 
 Q_SIGNALS:

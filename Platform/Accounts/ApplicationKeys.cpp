@@ -74,6 +74,12 @@ bool ApplicationKeys::store(const ACAccountType &type, std::optional<NSError> *e
     return isDone;
 }
 
+std::optional<SecretPlace> ApplicationKeys::placeOfStored(const ACAccountType &type) {
+    const auto places = placesFile().read();
+    if (!places || !places->contains(type.identifier())) return std::nullopt;
+    return placeOf(places->value(type.identifier()));
+}
+
 bool ApplicationKeys::remove(const ACAccountType &type, std::optional<NSError> *error) {
     std::optional<SecretPlace> place;
     const auto take = [&](QVariantMap &values) {

@@ -12,9 +12,22 @@
 namespace korvane {
 namespace {
 
+constexpr const char *flickrParallelKey = "FlickrParallelUploads";
+constexpr const char *vimeoParallelKey = "VimeoParallelUploads";
+constexpr const char *pixelsKey = "DisplayImageMaxPixels";
+constexpr const char *cellularKey = "UploadsOverCellular";
+
+std::shared_ptr<PreferenceDomain> domain() {
+    return PreferenceDomain::domainWithName(QStringLiteral("com.zorvex.korvane"));
+}
+
 QVariant preference(const char *key) {
-    return PreferenceDomain::domainWithName(QStringLiteral("com.zorvex.korvane"))
-        ->currentValue(QString::fromLatin1(key));
+    return domain()->currentValue(QLatin1String(key));
+}
+
+bool setPreference(const char *key, const QVariant &value) {
+    domain()->setValue(QLatin1String(key), value);
+    return domain()->synchronize();
 }
 
 // What makes the text unusable as a base URL; empty if nothing does.
@@ -55,14 +68,20 @@ QString hostOr(const std::optional<NSURL> &base, const char *usual) {
     return base ? base->absoluteString() : QString::fromLatin1(usual);
 }
 
-int number(const char *key, int least, int most, int usual) {
+constexpr KorvaneSettings::Limits pixelLimits{0, std::numeric_limits<int>::max(), 0};
+
+int number(const char *key, const KorvaneSettings::Limits &limits) {
     const QVariant value = preference(key);
-    if (!value.isValid()) return usual;
+    if (!value.isValid()) return limits.usual;
     bool readable = value.typeId() != QMetaType::Bool;
     const double wanted = readable ? value.toDouble(&readable) : 0;
-    if (readable) return int(std::clamp<double>(wanted, least, most));
+    if (readable) return int(std::clamp<double>(wanted, limits.least, limits.most));
     logOnce(QStringLiteral("The preference %1 is ignored: it is not a number.").arg(QLatin1String(key)));
-    return usual;
+    return limits.usual;
+}
+
+bool setNumber(const char *key, int value, const KorvaneSettings::Limits &limits) {
+    return setPreference(key, qint64(std::clamp(value, limits.least, limits.most)));
 }
 
 } // namespace
@@ -96,22 +115,42 @@ QString KorvaneSettings::vimeoSignInHost() {
 }
 
 int KorvaneSettings::flickrParallelUploads() {
-    return number("FlickrParallelUploads", 1, 16, 3);
+    return number(flickrParallelKey, flickrParallelLimits);
 }
 
 int KorvaneSettings::vimeoParallelUploads() {
-    return number("VimeoParallelUploads", 1, 4, 1);
+    return number(vimeoParallelKey, vimeoParallelLimits);
 }
 
 int KorvaneSettings::displayImageMaxPixels() {
-    return number("DisplayImageMaxPixels", 0, std::numeric_limits<int>::max(), 0);
+    return number(pixelsKey, pixelLimits);
 }
 
 bool KorvaneSettings::uploadsOverCellular() {
-    const QVariant value = preference("UploadsOverCellular");
+    const QVariant value = preference(cellularKey);
     if (value.isValid() && value.typeId() != QMetaType::Bool)
         logOnce(QStringLiteral("The preference UploadsOverCellular is ignored: it is neither true nor false."));
     return value.typeId() != QMetaType::Bool || value.toBool();
+}
+
+bool KorvaneSettings::setFlickrParallelUploads(int count) {
+    return setNumber(flickrParallelKey, count, flickrParallelLimits);
+}
+
+bool KorvaneSettings::setVimeoParallelUploads(int count) {
+    return setNumber(vimeoParallelKey, count, vimeoParallelLimits);
+}
+
+bool KorvaneSettings::setDisplayImageMaxPixels(int pixels) {
+    return setNumber(pixelsKey, pixels, pixelLimits);
+}
+
+bool KorvaneSettings::setUploadsOverCellular(bool allowed) {
+    return setPreference(cellularKey, allowed);
+}
+
+QString KorvaneSettings::path() {
+    return domain()->path();
 }
 
 } // namespace korvane

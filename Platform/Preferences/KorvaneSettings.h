@@ -25,10 +25,27 @@ QString flickrSignInHost();
 QString vimeoRESTHost();
 QString vimeoSignInHost();
 
-int flickrParallelUploads(); // "FlickrParallelUploads", 1 to 16, else 3
-int vimeoParallelUploads();  // "VimeoParallelUploads", 1 to 4, else 1
+// Numbers beyond their limits count as the nearest within.
+struct Limits {
+    int least;
+    int most;
+    int usual; // where none is set
+};
+inline constexpr Limits flickrParallelLimits{1, 16, 3};
+inline constexpr Limits vimeoParallelLimits{1, 4, 1};
+
+int flickrParallelUploads(); // "FlickrParallelUploads"
+int vimeoParallelUploads();  // "VimeoParallelUploads"
 int displayImageMaxPixels(); // "DisplayImageMaxPixels"; 0 is full size
 bool uploadsOverCellular();  // "UploadsOverCellular", else true
+
+// Written at once. False, with a log line, where that fails; what was set then holds in this process alone.
+bool setFlickrParallelUploads(int count);
+bool setVimeoParallelUploads(int count);
+bool setDisplayImageMaxPixels(int pixels);
+bool setUploadsOverCellular(bool allowed);
+
+QString path(); // of the domain's file
 
 } // namespace KorvaneSettings
 

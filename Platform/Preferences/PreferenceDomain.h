@@ -19,6 +19,8 @@ public:
 
     explicit PreferenceDomain(QString path) : _file(std::move(path)) {}
 
+    const QString &path() const { return _file.path(); } // of its file
+
     // The value as it was when the domain was last synchronized (or first used).
     QVariant value(const QString &key);
     // The value as it is in the file now.

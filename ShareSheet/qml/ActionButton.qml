@@ -9,9 +9,10 @@ T.Button {
     property bool isMain: false
     property color ink: isMain ? Theme.accentText : Theme.accent
 
+    width: parent ? Math.min(implicitWidth, parent.width) : implicitWidth // longer words take more lines
     implicitWidth: Math.max(Theme.touchHeight, label.implicitWidth + leftPadding + rightPadding)
     implicitHeight: Math.max(Theme.touchHeight, label.implicitHeight + topPadding + bottomPadding)
-    leftPadding: Theme.margin * 0.75
+    leftPadding: Theme.spacing
     rightPadding: leftPadding
     topPadding: 4
     bottomPadding: 4
@@ -29,7 +30,7 @@ T.Button {
         color: control.ink
         font.bold: control.isMain
         font.pixelSize: control.text.length === 1 ? Theme.lineHeight * 1.3 : Theme.fontPixelSize // a sign, or words
-        horizontalAlignment: Text.AlignHCenter
+        horizontalAlignment: lineCount > 1 ? Text.AlignLeft : Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         wrapMode: Text.Wrap
     }

@@ -8,6 +8,7 @@ T.AbstractButton {
 
     property bool isChosen: false
 
+    width: parent ? Math.min(implicitWidth, parent.width) : implicitWidth
     implicitWidth: Math.max(Theme.touchHeight, label.implicitWidth + leftPadding + rightPadding)
     implicitHeight: Math.max(Theme.touchHeight, label.implicitHeight + 8)
     leftPadding: Theme.spacing
@@ -27,13 +28,14 @@ T.AbstractButton {
         color: control.isChosen ? Theme.accentText : Theme.text
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
+        wrapMode: Text.Wrap
     }
     background: Item {
         Rectangle {
             anchors.fill: parent
             anchors.topMargin: 4
             anchors.bottomMargin: 4
-            radius: height / 2
+            radius: Math.min(height, Theme.touchHeight - 8) / 2
             color: control.isChosen ? Theme.accent : control.down ? Theme.pressed : Theme.surface
             border.width: 1
             border.color: control.isChosen ? Theme.accent : Theme.separator

@@ -20,7 +20,8 @@ T.TextField {
     selectionColor: Theme.accent
     selectedTextColor: Theme.accentText
     selectByMouse: true
-    verticalAlignment: Text.AlignVCenter
+    horizontalAlignment: TextInput.AlignLeft
+    verticalAlignment: TextInput.AlignVCenter
     Accessible.role: Accessible.EditableText
     Accessible.name: placeholderText
 

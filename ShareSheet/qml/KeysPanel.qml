@@ -5,35 +5,33 @@ import Korvane.Sheet
 Column {
     id: panel
 
-    required property var keys // a KeysModel object
-    required property string serviceName
+    required property var access // a ServiceAccess object
+    readonly property var keys: access.keys
     property bool isEditing: false
     readonly property bool showsFields: !keys.isBusy && (isEditing || !keys.areStored)
 
-    // The page holds a panel for each service.
-    function named(text) {
-        return qsTr("%1: %2").arg(serviceName).arg(text);
-    }
+    signal removalAsked
 
     spacing: Theme.spacing
     bottomPadding: Theme.spacing
 
     SectionHeader {
         width: parent.width
-        text: qsTr("%1 application keys").arg(panel.serviceName)
+        text: qsTr("%1 application keys").arg(panel.access.name)
     }
     Note {
         width: parent.width
         visible: panel.showsFields
         text: qsTr("Register an application of your own with permission to upload, and copy its two keys here:") + "\n" + panel.keys.registrationAddress
     }
-    ActionButton {
-        x: Theme.margin - 8
-        width: Math.min(implicitWidth, parent.width - 2 * x)
+    ButtonFlow {
         visible: panel.showsFields
-        text: qsTr("Open that page")
-        Accessible.name: panel.named(text)
-        onClicked: Qt.openUrlExternally(panel.keys.registrationAddress)
+
+        ActionButton {
+            text: qsTr("Open that page")
+            Accessible.name: panel.access.named(text)
+            onClicked: Qt.openUrlExternally(panel.keys.registrationAddress)
+        }
     }
     Note {
         width: parent.width
@@ -47,22 +45,27 @@ Column {
         width: parent.width - 2 * Theme.margin
         visible: panel.showsFields
         placeholderText: qsTr("Consumer key")
-        Accessible.name: panel.named(placeholderText)
+        Accessible.name: panel.access.named(placeholderText)
         inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
         onAccepted: secret.forceActiveFocus()
     }
-    InputField {
-        id: secret
-
+    Item { // says what the field is for: of a field that hides its text nothing is told, not even its name
         x: Theme.margin
         width: parent.width - 2 * Theme.margin
+        height: secret.height
         visible: panel.showsFields
-        placeholderText: qsTr("Consumer secret")
-        echoMode: TextInput.Password
-        inputMethodHints: Qt.ImhSensitiveData | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
-        Accessible.passwordEdit: true
-        Accessible.description: placeholderText
-        onAccepted: panel.keys.store(key.text, text)
+        Accessible.role: Accessible.Grouping
+        Accessible.name: panel.access.named(secret.placeholderText)
+
+        InputField {
+            id: secret
+
+            width: parent.width
+            placeholderText: qsTr("Consumer secret")
+            echoMode: TextInput.Password
+            inputMethodHints: Qt.ImhSensitiveData | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
+            onAccepted: panel.keys.store(key.text, text)
+        }
     }
     Note {
         width: parent.width
@@ -70,20 +73,19 @@ Column {
         text: qsTr("Consumer key: %1").arg(panel.keys.consumerKey) + "\n" + qsTr("The consumer secret is stored.")
         textFormat: Text.PlainText
     }
+    Note {
+        width: parent.width
+        visible: panel.keys.areInFile && !panel.showsFields
+        text: qsTr("The secret is in a file that only you can read, since no keyring could be used.")
+    }
     Notice {
-        x: Theme.margin
-        width: parent.width - 2 * Theme.margin
-        visible: text.length > 0
         text: panel.keys.problem
     }
-    Flow {
-        x: Theme.margin - 8
-        width: parent.width - 2 * x
-
+    ButtonFlow {
         ActionButton {
             visible: panel.showsFields
             text: qsTr("Store the keys")
-            Accessible.name: panel.named(text)
+            Accessible.name: panel.access.named(text)
             onClicked: panel.keys.store(key.text, secret.text)
         }
         ActionButton {
@@ -94,7 +96,7 @@ Column {
         ActionButton {
             visible: panel.keys.areStored && !panel.showsFields
             text: qsTr("Other keys…")
-            Accessible.name: panel.named(text)
+            Accessible.name: panel.access.named(text)
             onClicked: {
                 key.text = panel.keys.consumerKey;
                 panel.isEditing = true;
@@ -104,8 +106,8 @@ Column {
         ActionButton {
             visible: panel.keys.areStored && !panel.showsFields
             text: qsTr("Remove the keys")
-            Accessible.name: panel.named(text)
-            onClicked: panel.keys.remove()
+            Accessible.name: panel.access.named(text)
+            onClicked: panel.removalAsked()
         }
     }
     Connections {

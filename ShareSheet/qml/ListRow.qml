@@ -26,12 +26,7 @@ T.AbstractButton {
     background: Rectangle {
         color: row.down && row.isSelectable ? Theme.pressed : Theme.surface
 
-        Rectangle {
-            anchors.bottom: parent.bottom
-            x: row.LayoutMirroring.enabled ? 0 : Theme.margin
-            width: parent.width - Theme.margin
-            height: 1
-            color: Theme.separator
+        Separator {
             visible: row.hasSeparator
         }
         FocusRing {

@@ -1,4 +1,4 @@
-// A word to the reader above the contents of a page, with what can be done about it.
+// A word to the reader among the contents of a page, with what can be done about it.
 import QtQuick
 import Korvane.Sheet
 
@@ -11,7 +11,10 @@ Rectangle {
 
     signal actionClicked
 
+    x: Theme.margin
+    width: parent.width - 2 * Theme.margin
     implicitHeight: contents.height + 2 * Theme.spacing
+    visible: text.length > 0
     radius: Theme.radius
     color: isProblem ? Theme.problemSurface : Theme.surface
     Accessible.role: Accessible.AlertMessage
@@ -32,11 +35,13 @@ Rectangle {
             color: notice.isProblem ? Theme.problem : Theme.text
             wrapMode: Text.Wrap
             horizontalAlignment: Text.AlignLeft
+            textFormat: Text.PlainText
         }
         ActionButton {
             id: action
 
-            width: Math.min(implicitWidth, parent.width)
+            anchors.left: parent.left
+            anchors.leftMargin: -Theme.spacing // its words begin where the others do
             visible: text.length > 0
             onClicked: notice.actionClicked()
         }

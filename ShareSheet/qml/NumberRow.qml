@@ -52,11 +52,6 @@ Rectangle {
             }
         }
     }
-    Rectangle {
-        anchors.bottom: parent.bottom
-        x: row.LayoutMirroring.enabled ? 0 : Theme.margin
-        width: parent.width - Theme.margin
-        height: 1
-        color: Theme.separator
+    Separator {
     }
 }

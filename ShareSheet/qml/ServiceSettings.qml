@@ -6,8 +6,9 @@ Column {
     id: section
 
     required property var access // a ServiceAccess object
-    readonly property var keys: access.keys
-    readonly property var signIn: access.signIn
+
+    // A question that the page asks over all of itself; what is done if the answer is yes.
+    signal asked(string question, var action)
 
     SectionHeader {
         width: parent.width
@@ -25,15 +26,15 @@ Column {
             serviceName: section.access.name
             onUseAsked: section.access.accounts.use(accountID)
             onRemovalAsked: {
-                question.accountID = accountID;
-                question.text = qsTr("Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it fails.").arg(section.access.name).arg(username);
-                question.open();
+                const accounts = section.access.accounts;
+                const id = accountID;
+                section.asked(qsTr("Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it fails.").arg(section.access.name).arg(username), () => accounts.remove(id));
             }
         }
     }
     Note {
         width: parent.width
-        visible: section.access.accounts.count === 0
+        visible: section.access.accounts.count === 0 && section.access.accounts.problem.length === 0
         text: qsTr("There is no account yet.")
     }
     Note {
@@ -42,30 +43,15 @@ Column {
         text: qsTr("What you share goes out with the account that is checked.")
     }
     Notice {
-        x: Theme.margin
-        width: parent.width - 2 * Theme.margin
-        visible: text.length > 0
         text: section.access.accounts.problem
     }
     SignInPanel {
         width: parent.width
-        signIn: section.signIn
-        canStart: section.keys.areStored
-        serviceName: section.access.name
-        onStartAsked: typesCode => section.access.addAccount(typesCode)
+        access: section.access
     }
     KeysPanel {
         width: parent.width
-        keys: section.keys
-        serviceName: section.access.name
-    }
-    Question {
-        id: question
-
-        property string accountID
-
-        acceptText: qsTr("Remove")
-        rejectText: qsTr("Keep")
-        onAccepted: section.access.accounts.remove(accountID)
+        access: section.access
+        onRemovalAsked: section.asked(qsTr("Remove the keys of your application at %1? Accounts that are added already stay; to add another, you need the keys again.").arg(section.access.name), () => section.access.keys.remove())
     }
 }

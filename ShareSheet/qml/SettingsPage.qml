@@ -23,7 +23,7 @@ T.Page {
         leadingText: qsTr("Close")
         onLeadingClicked: page.T.ApplicationWindow.window.closePage()
     }
-    Flickable {
+    ScrollArea {
         id: scroll
 
         anchors.top: header.bottom
@@ -31,20 +31,6 @@ T.Page {
         anchors.horizontalCenter: parent.horizontalCenter
         width: Math.min(parent.width, Theme.widestPage)
         contentHeight: contents.height + Theme.margin
-        clip: true
-        boundsBehavior: Flickable.StopAtBounds
-
-        // What gets the keyboard is brought into sight.
-        readonly property Item focused: page.T.ApplicationWindow.window ? page.T.ApplicationWindow.window.activeFocusItem : null
-        onFocusedChanged: {
-            let item = focused;
-            while (item && item !== contents)
-                item = item.parent;
-            if (!item)
-                return;
-            const top = focused.mapToItem(contents, 0, 0).y;
-            contentY = Math.max(Math.min(contentY, top - Theme.margin), top + focused.height + Theme.margin - height, 0);
-        }
 
         Column {
             id: contents
@@ -59,6 +45,10 @@ T.Page {
 
                     width: contents.width
                     access: modelData
+                    onAsked: (words, action) => {
+                        question.action = action;
+                        question.message = words;
+                    }
                 }
             }
             SectionHeader {
@@ -68,14 +58,14 @@ T.Page {
             NumberRow {
                 width: parent.width
                 text: qsTr("Photos at a time")
-                choices: [1, 2, 3, 4, 6, 8, 16]
+                choices: page.settings.flickrParallelChoices
                 value: page.settings.flickrParallelUploads
                 onPicked: number => page.settings.flickrParallelUploads = number
             }
             NumberRow {
                 width: parent.width
                 text: qsTr("Videos at a time")
-                choices: [1, 2, 3, 4]
+                choices: page.settings.vimeoParallelChoices
                 value: page.settings.vimeoParallelUploads
                 onPicked: number => page.settings.vimeoParallelUploads = number
             }
@@ -98,14 +88,26 @@ T.Page {
                 text: qsTr("JPEG, PNG and GIF files always go out as they are. Other pictures, and those sent without metadata, are newly encoded.")
             }
             Notice {
-                x: Theme.margin
-                width: parent.width - 2 * Theme.margin
-                visible: text.length > 0
                 text: page.settings.problem
             }
         }
     }
     ScrollMark {
         view: scroll
+    }
+    Dialog {
+        id: question
+
+        property var action: null
+
+        visible: message.length > 0
+        isDangerous: true
+        acceptText: qsTr("Remove")
+        rejectText: qsTr("Keep")
+        onRejected: message = ""
+        onAccepted: {
+            message = "";
+            action();
+        }
     }
 }

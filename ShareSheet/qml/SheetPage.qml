@@ -76,7 +76,7 @@ FocusScope {
         sheet: page.sheet
         enabled: isShown && page.isTop
     }
-    AlertBox {
+    Dialog {
         anchors.fill: parent
         visible: page.sheet.hasAlert
         title: page.sheet.alertTitle

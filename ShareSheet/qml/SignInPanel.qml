@@ -1,74 +1,63 @@
 // Adds an account: the person says yes in the browser, and perhaps types a code here.
 import QtQuick
 import Korvane.Sheet
+import Korvane.Models
 
 Column {
     id: panel
 
-    required property var signIn // a SignInModel object
-    required property bool canStart
-    required property string serviceName
-    readonly property bool isAtRest: signIn.step === "none" || signIn.step === "done"
-
-    signal startAsked(bool typesCode)
-
-    // The page holds a panel for each service.
-    function named(text) {
-        return qsTr("%1: %2").arg(serviceName).arg(text);
-    }
+    required property var access // a ServiceAccess object
+    readonly property var signIn: access.signIn
+    readonly property bool isAtRest: signIn.step === SignInModel.None || signIn.step === SignInModel.Done
 
     spacing: Theme.spacing
+    topPadding: isAtRest ? 0 : Theme.spacing
     bottomPadding: Theme.spacing
 
     Notice {
-        x: Theme.margin
-        width: parent.width - 2 * Theme.margin
-        visible: text.length > 0
         text: panel.signIn.problem
     }
     Notice {
-        x: Theme.margin
-        width: parent.width - 2 * Theme.margin
         isProblem: false
-        visible: panel.signIn.step === "done"
+        visible: panel.signIn.step === SignInModel.Done
         text: qsTr("The account “%1” is ready.").arg(panel.signIn.username)
     }
-    Flow {
-        x: Theme.margin - 8
-        width: parent.width - 2 * x
+    ButtonFlow {
         visible: panel.isAtRest
 
         ActionButton {
             text: qsTr("Add an account…")
-            Accessible.name: panel.named(text)
-            enabled: panel.canStart
-            onClicked: panel.startAsked(false)
+            Accessible.name: panel.access.named(text)
+            enabled: panel.access.keys.areStored
+            onClicked: panel.access.addAccount(false)
         }
         ActionButton {
             text: qsTr("Add with a code…")
-            Accessible.name: panel.named(text)
-            enabled: panel.canStart
+            Accessible.name: panel.access.named(text)
+            enabled: panel.access.keys.areStored
             Accessible.description: qsTr("For a browser on another device: it shows a code that you type here.")
-            onClicked: panel.startAsked(true)
+            onClicked: panel.access.addAccount(true)
         }
     }
     Note {
         width: parent.width
-        visible: !panel.canStart && panel.isAtRest
+        visible: !panel.access.keys.areStored && panel.isAtRest
         text: qsTr("To sign in, Korvane first needs the keys of your own application, below.")
     }
     Note {
         width: parent.width
         visible: !panel.isAtRest
-        text: panel.signIn.step === "asking" ? qsTr("Asking %1…").arg(panel.serviceName)
-            : panel.signIn.step === "storing" ? qsTr("Storing the account…")
+        text: panel.signIn.step === SignInModel.Asking ? qsTr("Asking %1…").arg(panel.access.name)
+            : panel.signIn.step === SignInModel.Storing ? qsTr("Storing the account…")
             : panel.signIn.typesCode ? qsTr("Open this address, also on another device, allow Korvane to upload, and type the code that is shown:")
                                      : qsTr("Allow Korvane to upload in the browser that has opened. If none has, open this address on this device:")
     }
     TextEdit {
         x: Theme.margin
         width: parent.width - 2 * Theme.margin
-        visible: panel.signIn.step === "person"
+        height: Math.max(Theme.touchHeight, contentHeight)
+        verticalAlignment: TextEdit.AlignVCenter
+        visible: panel.signIn.step === SignInModel.Person
         text: panel.signIn.pageAddress
         textFormat: TextEdit.PlainText
         color: Theme.text
@@ -89,7 +78,7 @@ Column {
 
         x: Theme.margin
         width: parent.width - 2 * Theme.margin
-        visible: panel.signIn.step === "person" && panel.signIn.typesCode
+        visible: panel.signIn.step === SignInModel.Person && panel.signIn.typesCode
         placeholderText: qsTr("Code")
         inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
         onVisibleChanged: if (visible) {
@@ -98,10 +87,8 @@ Column {
         }
         onAccepted: panel.signIn.enterCode(text)
     }
-    Flow {
-        x: Theme.margin - 8
-        width: parent.width - 2 * x
-        visible: !panel.isAtRest && panel.signIn.step !== "storing"
+    ButtonFlow {
+        visible: !panel.isAtRest && panel.signIn.step !== SignInModel.Storing
 
         ActionButton {
             text: qsTr("Use this code")
@@ -111,7 +98,7 @@ Column {
         }
         ActionButton {
             text: qsTr("Open the page again")
-            visible: panel.signIn.step === "person"
+            visible: panel.signIn.step === SignInModel.Person
             onClicked: panel.signIn.openPage()
         }
         ActionButton {

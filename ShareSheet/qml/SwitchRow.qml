@@ -23,12 +23,7 @@ T.AbstractButton {
     background: Rectangle {
         color: row.down ? Theme.pressed : Theme.surface
 
-        Rectangle {
-            anchors.bottom: parent.bottom
-            x: row.LayoutMirroring.enabled ? 0 : Theme.margin
-            width: parent.width - Theme.margin
-            height: 1
-            color: Theme.separator
+        Separator {
         }
         FocusRing {
             control: row

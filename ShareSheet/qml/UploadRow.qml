@@ -27,7 +27,7 @@ FocusScope {
     signal removalAsked
 
     activeFocusOnTab: ListView.isCurrentItem || activeFocus
-    implicitHeight: words.height + 2 * Theme.spacing + 1
+    implicitHeight: Math.max(words.height, mark.height) + 2 * Theme.spacing + 1
     Accessible.role: Accessible.ListItem
     Accessible.name: [title, detail, reason].filter(part => part.length > 0).join(", ")
     Accessible.focusable: true
@@ -67,6 +67,7 @@ FocusScope {
         spacing: 2
 
         Text {
+            anchors.left: parent.left
             width: parent.width - removal.width
             text: row.title
             color: Theme.text
@@ -77,6 +78,7 @@ FocusScope {
             textFormat: Text.PlainText
         }
         Text {
+            anchors.left: parent.left
             width: parent.width - removal.width
             text: row.detail
             color: row.uploadState === "failed" ? Theme.problem : Theme.secondaryText
@@ -102,10 +104,11 @@ FocusScope {
         ActionButton {
             id: retrial
 
+            anchors.left: parent.left
+            anchors.leftMargin: -Theme.spacing // its word begins where the others do
             visible: row.canRetry
             text: qsTr("Retry")
             Accessible.name: qsTr("Retry “%1”").arg(row.title)
-            leftPadding: 0
             focusPolicy: row.stop
             onClicked: row.retryAsked()
         }
@@ -123,12 +126,7 @@ FocusScope {
         Accessible.name: qsTr("Remove “%1”").arg(row.title)
         onClicked: row.removalAsked()
     }
-    Rectangle {
-        anchors.bottom: parent.bottom
-        x: row.LayoutMirroring.enabled ? 0 : Theme.margin
-        width: parent.width - Theme.margin
-        height: 1
-        color: Theme.separator
+    Separator {
     }
     FocusRing {
         control: row

@@ -1,6 +1,7 @@
 // What stands above the uploads: how the upload service is, which uploads are shown, and what can be done to many.
 import QtQuick
 import Korvane.Sheet
+import Korvane.Models
 
 Column {
     id: head
@@ -9,17 +10,17 @@ Column {
     required property bool isEmpty
 
     readonly property var connectionTexts: ({
-            "connecting": qsTr("Asking the upload service…"),
-            "silent": qsTr("The upload service does not answer just now. Uploads it has taken over are not lost."),
-            "ended": qsTr("The upload service has ended, since there is nothing left to upload."),
-            "lost": qsTr("The upload service cannot be reached. It is asked again by and by.")
+            [Uploads.Connecting]: qsTr("Asking the upload service…"),
+            [Uploads.Silent]: qsTr("The upload service does not answer just now. Uploads it has taken over are not lost."),
+            [Uploads.Ended]: qsTr("The upload service has ended, since there is nothing left to upload."),
+            [Uploads.Lost]: qsTr("The upload service cannot be reached. It is asked again by and by.")
         })
-    readonly property bool isConnected: uploads.connection === "connected"
+    readonly property bool isConnected: uploads.connection === Uploads.Connected
     readonly property var filters: [
-        {name: "all", text: qsTr("All"), count: uploads.total},
-        {name: "pending", text: qsTr("Under way"), count: uploads.pending},
-        {name: "failed", text: qsTr("Failed"), count: uploads.failed},
-        {name: "done", text: qsTr("Shared"), count: uploads.done}
+        {filter: Uploads.All, text: qsTr("All"), count: uploads.total},
+        {filter: Uploads.Pending, text: qsTr("Under way"), count: uploads.pending},
+        {filter: Uploads.Failed, text: qsTr("Failed"), count: uploads.failed},
+        {filter: Uploads.Done, text: qsTr("Shared"), count: uploads.done}
     ]
 
     spacing: Theme.spacing
@@ -27,25 +28,18 @@ Column {
     bottomPadding: Theme.spacing
 
     Notice {
-        x: Theme.margin
-        width: parent.width - 2 * Theme.margin
         visible: !head.isConnected
-        isProblem: head.uploads.connection === "lost" || head.uploads.connection === "silent"
+        isProblem: head.uploads.connection === Uploads.Lost || head.uploads.connection === Uploads.Silent
         text: head.connectionTexts[head.uploads.connection] ?? ""
-        actionText: head.uploads.connection === "lost" || head.uploads.connection === "ended" ? qsTr("Ask again") : ""
+        actionText: head.uploads.connection === Uploads.Lost || head.uploads.connection === Uploads.Ended ? qsTr("Ask again") : ""
         onActionClicked: head.uploads.reconnect()
     }
     Notice {
-        x: Theme.margin
-        width: parent.width - 2 * Theme.margin
-        visible: text.length > 0
         text: head.uploads.problem
         actionText: head.isConnected ? qsTr("Dismiss") : ""
         onActionClicked: head.uploads.forgetProblem()
     }
     Notice {
-        x: Theme.margin
-        width: parent.width - 2 * Theme.margin
         visible: head.isConnected && head.uploads.paused
         isProblem: false
         text: qsTr("Uploads are paused.")
@@ -65,21 +59,18 @@ Column {
                 required property var modelData
 
                 text: qsTr("%1 (%2)").arg(modelData.text).arg(modelData.count)
-                isChosen: head.uploads.filter === modelData.name
-                onClicked: head.uploads.filter = modelData.name
+                isChosen: head.uploads.filter === modelData.filter
+                onClicked: head.uploads.filter = modelData.filter
             }
         }
     }
-    Flow {
-        x: Theme.margin
-        width: parent.width - 2 * Theme.margin
-        spacing: Theme.spacing
-        visible: head.isConnected && (head.uploads.failed > 0 || head.uploads.done > 0)
+    ButtonFlow {
+        visible: head.isConnected && head.uploads.failed + head.uploads.waiting + head.uploads.done > 0
 
         ActionButton {
-            text: qsTr("Retry all that failed")
-            visible: head.uploads.failed > 0
-            onClicked: head.uploads.retryAllFailed()
+            text: qsTr("Retry all")
+            visible: head.uploads.failed + head.uploads.waiting > 0
+            onClicked: head.uploads.retryAll()
         }
         ActionButton {
             text: qsTr("Clear what is shared")

@@ -2,13 +2,14 @@
 import QtQuick
 import QtQuick.Templates as T
 import Korvane.Sheet
+import Korvane.Models
 
 T.Page {
     id: page
 
     required property var uploads // an Uploads object
 
-    readonly property bool isEmpty: uploads.connection === "connected" && list.count === 0
+    readonly property bool isEmpty: uploads.connection === Uploads.Connected && list.count === 0
 
     title: qsTr("Uploads")
     background: Rectangle {
@@ -23,7 +24,7 @@ T.Page {
         title: page.title
         leadingText: qsTr("Close")
         trailingText: page.uploads.paused ? qsTr("Resume") : qsTr("Pause")
-        trailingEnabled: page.uploads.connection === "connected"
+        trailingEnabled: page.uploads.connection === Uploads.Connected
         onLeadingClicked: page.T.ApplicationWindow.window.closePage()
         onTrailingClicked: page.uploads.setPaused(!page.uploads.paused)
     }
@@ -51,7 +52,12 @@ T.Page {
         delegate: UploadRow {
             width: ListView.view.width
             onRetryAsked: page.uploads.retry(uploadID)
-            onRemovalAsked: removalQuestion.length > 0 ? question.ask(uploadID, removalQuestion) : page.uploads.remove(uploadID)
+            onRemovalAsked: {
+                if (removalQuestion.length === 0)
+                    return page.uploads.remove(uploadID);
+                question.uploadID = uploadID;
+                question.message = removalQuestion;
+            }
         }
         // What is new shows at the top, unless the person reads further down.
         onCountChanged: {
@@ -64,20 +70,20 @@ T.Page {
     ScrollMark {
         view: list
     }
-    Question {
+    Dialog {
         id: question
 
         property string uploadID
 
-        function ask(id, words) {
-            uploadID = id;
-            text = words;
-            open();
-        }
-
+        visible: message.length > 0
+        isDangerous: true
         acceptText: qsTr("Remove")
         rejectText: qsTr("Keep")
-        onAccepted: page.uploads.remove(uploadID)
-        onClosed: list.forceActiveFocus()
+        onRejected: message = ""
+        onAccepted: {
+            message = "";
+            page.uploads.remove(uploadID);
+        }
+        onVisibleChanged: if (!visible) list.forceActiveFocus()
     }
 }

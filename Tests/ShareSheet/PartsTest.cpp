@@ -10,8 +10,10 @@
 #include <QSysInfo>
 
 #include <atomic>
+#include <optional>
 #include <random>
 #include <semaphore>
+#include <vector>
 
 using namespace korvane;
 using namespace korvane::test;
@@ -122,7 +124,8 @@ TEST(FrameWait, EndsWithAFrameOrWhereThereIsNothingToSee) {
 TEST(Thumbnails, AreMadeTwoAtATimeAndNotForThoseWhoHaveGone) {
     std::counting_semaphore<100> go(0);
     std::atomic_int running = 0, most = 0, made = 0, told = 0, pictures = 0;
-    ThumbnailQueue queue([&](const ThumbnailQueue::Order &order, const std::stop_token &) {
+    std::optional<ThumbnailQueue> queue;
+    queue.emplace([&](const ThumbnailQueue::Order &order, const std::stop_token &) {
         most = std::max<int>(most, ++running);
         go.acquire();
         --running;
@@ -135,18 +138,59 @@ TEST(Thumbnails, AreMadeTwoAtATimeAndNotForThoseWhoHaveGone) {
         if (!image.isNull()) ++pictures;
     };
     for (int i = 0; i < 20; ++i)
-        queue.ask({.path = QByteArray::number(i), .isVideo = false, .edge = 10}, i < 5 ? stays : leaves, answer);
+        queue->ask({.path = QByteArray::number(i), .isVideo = false, .edge = 10}, (i < 5 ? stays : leaves).get_token(),
+                   answer);
     ASSERT_TRUE(waitFor([&] { return running == 2; }));
     leaves.request_stop();
-    queue.dropCancelled();
-    EXPECT_EQ(told, 15) << "at once";
-    go.release(20);
+    go.release(5);
     ASSERT_TRUE(waitFor([&] { return told == 20; }));
     EXPECT_EQ(most, 2);
     EXPECT_EQ(made, 5);
     EXPECT_EQ(pictures, 5);
-    queue.ask({.path = "3", .isVideo = false, .edge = 10}, stays, answer);
+    queue->ask({.path = "3", .isVideo = false, .edge = 10}, stays.get_token(), answer);
     EXPECT_EQ(told, 21) << "known already";
+    for (int i = 0; i < 9; ++i)
+        queue->ask({.path = "at the end", .isVideo = false, .edge = 10}, stays.get_token(), answer);
+    ASSERT_TRUE(waitFor([&] { return running == 2; }));
+    go.release(9);
+    queue.reset();
+    EXPECT_EQ(told, 30) << "nobody is left waiting";
+}
+
+TEST(Thumbnails, OfFiveHundredPhotosTakeLittleMemoryAndFollowTheirFiles) {
+    std::atomic<qint64> held = 0, most = 0;
+    std::atomic_int made = 0, told = 0;
+    struct Pixels {
+        std::atomic<qint64> &held;
+        std::vector<uchar> bytes;
+        ~Pixels() { held -= qint64(bytes.size()); }
+    };
+    ThumbnailQueue queue([&](const ThumbnailQueue::Order &order, const std::stop_token &) {
+        ++made;
+        const auto pixels = new Pixels{held, std::vector<uchar>(size_t(4 * order.edge * order.edge))};
+        most = std::max<qint64>(most, held += qint64(pixels->bytes.size()));
+        return QImage(
+            pixels->bytes.data(), order.edge, order.edge, QImage::Format_RGB32,
+            [](void *them) { delete static_cast<Pixels *>(them); }, pixels);
+    });
+    const auto ask = [&](const QByteArray &path) {
+        const int before = told;
+        queue.ask({.path = path, .isVideo = false, .edge = 512}, {}, [&](const QImage &) { ++told; });
+        ASSERT_TRUE(waitFor([&] { return told > before; }));
+    };
+    for (int i = 0; i < 500; ++i)
+        ask(QByteArray::number(i));
+    EXPECT_GT(most, ThumbnailQueue::largestCache / 2) << "some are kept";
+    EXPECT_LE(most, 60'000'000);
+
+    TemporaryHome home;
+    const QByteArray photo = home.file("photo.jpg", "before");
+    ask(photo);
+    ask(photo);
+    EXPECT_EQ(made, 501);
+    home.file("photo.jpg", "afterwards");
+    ask(photo);
+    EXPECT_EQ(made, 502) << "another picture under the same name";
 }
 
 TEST(Thumbnails, ShowPhotosUprightAndVideosByAFrame) {

@@ -9,10 +9,6 @@ using namespace korvane::test;
 
 namespace {
 
-QString text(const char *utf8) {
-    return QString::fromUtf8(utf8);
-}
-
 class SettingsPage : public SheetTest {
 protected:
     void openPage(const char *argument = "prefs:root=FLICKR") {
@@ -45,19 +41,15 @@ protected:
     }
     void storeKeys(const QString &key, const QString &secret) {
         fillIn("Flickr: Consumer key", key);
-        user->presses(Qt::Key_Tab); // a screen reader is told nothing of what holds a secret
-        user->presses(Qt::Key_A, Qt::ControlModifier);
-        user->types(secret);
+        fillIn("Flickr: Consumer secret", secret);
         user->presses(Qt::Key_Return);
     }
-    void storeFlickrKeys() {
-        const auto known = standin::StandIn::flickrCredential();
+    // Another program does.
+    void storeKeys(const std::shared_ptr<ACAccount> &account, const standin::Credential &known) {
         ASSERT_TRUE(ApplicationKeys({QString::fromUtf8(known.consumerKey), QString::fromUtf8(known.consumerSecret)})
-                        .store(flickr.account->accountType()));
+                        .store(account->accountType()));
     }
-    bool waitToRead(const char *words) {
-        return waitFor([&] { return user->reads(text(words)); });
-    }
+    void storeFlickrKeys() { storeKeys(flickr.account, standin::StandIn::flickrCredential()); }
     QString accountInUse() const { return ACAccountStore().accountInUse(ACAccountTypeIdentifierFlickr)->username(); }
     QByteArray preferences() const { return home.contents("config/korvane/preferences/com.zorvex.korvane.json"); }
 
@@ -84,6 +76,11 @@ TEST_F(SettingsPage, WritesWhatIsChosenAtOnceAndShowsWhatOthersHaveWritten) {
     EXPECT_EQ(KorvaneSettings::flickrParallelUploads(), 8);
     EXPECT_TRUE(preferences().contains("kept"));
     EXPECT_TRUE(user->isChecked(text("2,048 pixels")));
+    home.file("config/korvane/preferences/other.json", R"({"FlickrParallelUploads": 7})");
+    ASSERT_TRUE(QFile::remove(home.path("config/korvane/preferences/com.zorvex.korvane.json")) &&
+                QFile::rename(home.path("config/korvane/preferences/other.json"),
+                              home.path("config/korvane/preferences/com.zorvex.korvane.json")));
+    ASSERT_TRUE(waitFor([&] { return user->sees(text("7")) && user->isChecked(text("7")); })) << "set by others";
     user->presses(Qt::Key_Escape);
     EXPECT_TRUE(waitForEnd());
 }
@@ -113,6 +110,50 @@ TEST_F(SettingsPage, PutsAccountsIntoUseAndAsksBeforeItRemovesThem) {
     home.file("config/korvane/accounts.json", R"({"accounts": 7})");
     flickrAccess().accounts()->use(text("nobody"));
     EXPECT_TRUE(waitToRead("is not a list"));
+    QFile::remove(home.path("config/korvane/accounts.json"));
+    ASSERT_TRUE(waitToRead("There is no account yet"));
+    QDir().mkpath(home.path("config/korvane/accounts.json"));
+    ASSERT_TRUE(waitFor([&] { return page().vimeo()->accounts()->problem().contains(text("accounts.json")); }));
+    EXPECT_TRUE(waitToReadNoMore("There is no account yet")) << "nobody can tell";
+    QDir().rmdir(home.path("config/korvane/accounts.json"));
+    EXPECT_TRUE(waitToRead("There is no account yet"));
+}
+
+TEST_F(SettingsPage, FollowsTheKeysThatOthersStoreAndAsksBeforeItRemovesThem) {
+    openPage();
+    EXPECT_FALSE(user->isEnabled(text("Flickr: Add an account…")));
+    storeFlickrKeys();
+    ASSERT_TRUE(waitToRead("The consumer secret is stored."));
+    EXPECT_TRUE(user->isEnabled(text("Flickr: Add an account…")));
+    EXPECT_TRUE(user->reads(text("in a file that only you can read"))) << "and not in a keyring";
+
+    ASSERT_TRUE(goTo("Flickr: Remove the keys"));
+    user->presses(Qt::Key_Return);
+    ASSERT_TRUE(waitToRead("Remove the keys of your application at Flickr?"));
+    EXPECT_EQ(user->nameOfFocused(), text("Keep")) << "the harmless answer is the one at hand";
+    user->presses(Qt::Key_Return);
+    ASSERT_TRUE(waitToReadNoMore("Remove the keys of"));
+    EXPECT_TRUE(ApplicationKeys::stored(flickr.account->accountType())) << "it was only asked";
+    EXPECT_EQ(user->nameOfFocused(), text("Flickr: Remove the keys"));
+    user->presses(Qt::Key_Return);
+    ASSERT_TRUE(waitToRead("Remove the keys of"));
+    user->clicks(text("Remove"));
+    ASSERT_TRUE(waitFor([&] { return !flickrAccess().keys()->areStored(); }));
+    EXPECT_FALSE(ApplicationKeys::stored(flickr.account->accountType()));
+    EXPECT_FALSE(user->isEnabled(text("Flickr: Add an account…")));
+}
+
+TEST_F(SettingsPage, SignsInAtVimeo) {
+    storeKeys(flickr.vimeoAccount, standin::StandIn::vimeoCredential());
+    ASSERT_TRUE(ACAccountStore().removeAccount(flickr.vimeoAccount->identifier()));
+    openPage("prefs:root=VIMEO");
+    user->taps(text("Vimeo: Add an account…"));
+    ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
+    EXPECT_EQ(decideAndReturn(opened, "allow").status, 200);
+    ASSERT_TRUE(waitToRead("is ready"));
+    EXPECT_TRUE(waitFor([&] { return page().vimeo()->accounts()->rowCount() == 1; }));
+    EXPECT_EQ(ACAccountStore().accountInUse(ACAccountTypeIdentifierVimeo)->username(),
+              QString::fromUtf8(standin::StandIn::vimeoCredential().username));
 }
 
 TEST_F(SettingsPage, SignsInThroughTheBrowserOnceTheKeysAreThere) {
@@ -131,7 +172,7 @@ TEST_F(SettingsPage, SignsInThroughTheBrowserOnceTheKeysAreThere) {
     ASSERT_TRUE(goTo("Flickr: Add an account…"));
     user->presses(Qt::Key_Return);
     ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
-    EXPECT_EQ(flickrAccess().signIn()->step(), text("person"));
+    EXPECT_EQ(flickrAccess().signIn()->step(), SignInModel::Step::Person);
     EXPECT_TRUE(user->reads(opened)) << "for a browser that does not open by itself";
     EXPECT_EQ(decideAndReturn(opened, "allow").status, 200);
     ASSERT_TRUE(waitToRead("“standin” is ready"));
@@ -150,7 +191,8 @@ TEST_F(SettingsPage, SignsInWithATypedCodeAndSaysWhatWentWrong) {
     fillIn("Code", text("wrong"));
     user->presses(Qt::Key_Return);
     ASSERT_TRUE(waitFor([&] {
-        return flickrAccess().signIn()->step() == text("person") && !flickrAccess().signIn()->problem().isEmpty();
+        return flickrAccess().signIn()->step() == SignInModel::Step::Person &&
+               !flickrAccess().signIn()->problem().isEmpty();
     }));
     fillIn("Code", code);
     user->presses(Qt::Key_Return);
@@ -163,14 +205,14 @@ TEST_F(SettingsPage, SignsInWithATypedCodeAndSaysWhatWentWrong) {
     ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
     decideAndReturn(opened, "refuse");
     ASSERT_TRUE(waitFor([&] { return !flickrAccess().signIn()->problem().isEmpty(); })) << "it was refused";
-    EXPECT_EQ(flickrAccess().signIn()->step(), text("none"));
+    EXPECT_EQ(flickrAccess().signIn()->step(), SignInModel::Step::None);
 
     ASSERT_TRUE(goTo("Flickr: Add an account…"));
     user->presses(Qt::Key_Return);
-    ASSERT_TRUE(waitFor([&] { return flickrAccess().signIn()->step() == text("person"); }));
+    ASSERT_TRUE(waitFor([&] { return flickrAccess().signIn()->step() == SignInModel::Step::Person; }));
     ASSERT_TRUE(goTo("Cancel the sign-in"));
     user->presses(Qt::Key_Space);
-    EXPECT_EQ(flickrAccess().signIn()->step(), text("none"));
+    EXPECT_EQ(flickrAccess().signIn()->step(), SignInModel::Step::None);
     EXPECT_TRUE(flickrAccess().signIn()->problem().isEmpty()) << "who gives up knows it";
     ASSERT_TRUE(goTo("Flickr: Add an account…"));
     user->presses(Qt::Key_Return);

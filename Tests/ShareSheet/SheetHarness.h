@@ -7,6 +7,10 @@
 
 namespace korvane::test {
 
+inline QString text(const char *utf8) {
+    return QString::fromUtf8(utf8);
+}
+
 class SheetTest : public ServiceTest {
 protected:
     standin::StandIn &server = flickr.server;
@@ -21,6 +25,12 @@ protected:
 
     SheetModel &sheet() const { return *application->sheet(); }
     QByteArray photo(const char *name, quint32 seed = 1) { return home.file(name, jpegOfSize(20'000, seed)); }
+    bool waitToRead(const char *words) {
+        return waitFor([&] { return user->reads(text(words)); });
+    }
+    bool waitToReadNoMore(const char *words) {
+        return waitFor([&] { return !user->reads(text(words)); });
+    }
     bool waitForEnd() {
         return waitFor([this] { return status.has_value(); });
     }

@@ -8,10 +8,6 @@ using namespace korvane::test;
 
 namespace {
 
-QString text(const char *utf8) {
-    return QString::fromUtf8(utf8);
-}
-
 class UploadsPage : public SheetTest {
 protected:
     void openPage() { open({"--uploads"}); }
@@ -22,19 +18,32 @@ protected:
         made->title = QLatin1String(title);
         return made;
     }
-    bool waitToRead(const char *words) {
-        return waitFor([&] { return user->reads(text(words)); });
-    }
-    bool waitToReadNoMore(const char *words) {
-        return waitFor([&] { return !user->reads(text(words)); });
-    }
     bool waitUntilConnected() {
-        return waitFor([&] { return page().connection() == QLatin1String("connected"); });
+        return waitFor([&] { return page().connection() == Uploads::Connection::Connected; });
     }
     QString rowText(int row, UploadsModel::Role role) { return page().model()->index(row).data(role).toString(); }
     bool waitForRow(int row, UploadsModel::Role role, const char *words) {
         return waitFor([&] { return rowText(row, role) == text(words); });
     }
+    // Photos 1 to count, of which each thousandth has failed; the others are in that state.
+    void fillQueue(int count, UploadState state) {
+        QDir().mkpath(home.path("state/korvane"));
+        UploadStore store;
+        std::optional<NSError> error;
+        ASSERT_TRUE(store.open(home.path("state/korvane/queue.sqlite"), &error));
+        store.setPaused(true);
+        std::vector<NewUpload> many{size_t(count)};
+        for (int i = 0; i < count; ++i) {
+            UploadJob &job = many[size_t(i)].job;
+            job.service = flickrServiceID;
+            job.title = QStringLiteral("photo %1").arg(i + 1);
+            job.state = i % 1000 == 0 ? UploadState::Failed : state;
+            job.bytesTotal = 1000 + i;
+            many[size_t(i)].record = RecordCodec::encode({}, nullptr);
+        }
+        ASSERT_TRUE(store.take(QStringLiteral("many"), many, &error));
+    }
+    QQuickItem *list() const { return application->window()->findChild<QQuickItem *>(text("uploads")); }
 };
 
 } // namespace
@@ -139,7 +148,7 @@ TEST_F(UploadsPage, OutlivesAServiceThatDiesAndOneThatHangs) {
     ASSERT_TRUE(waitToRead("Uploading"));
     killService(SIGKILL);
     ASSERT_TRUE(waitFor([&] { return servicePid() != 0; })) << "something is left to upload, so it is started again";
-    ASSERT_TRUE(waitUntilConnected());
+    ASSERT_TRUE(waitToRead("Under way (1)"));
     ASSERT_TRUE(waitToRead("Uploading"));
 
     const pid_t service = pid_t(servicePid());
@@ -176,25 +185,52 @@ TEST_F(UploadsPage, SaysWhenThereIsNothingLeftAndWhenTheServiceCannotBeStarted) 
     EXPECT_TRUE(waitToRead("Nothing is being uploaded"));
 }
 
+TEST_F(UploadsPage, LeavesAServiceAloneThatHasEndedWhileItIsScrolled) {
+    fillQueue(400, UploadState::Done);
+    openPage();
+    ASSERT_TRUE(waitToRead("photo 400"));
+    killService(SIGTERM);
+    ASSERT_TRUE(waitToRead("there is nothing left to upload"));
+    const int before = page().model()->rowCount();
+    QMetaObject::invokeMethod(list(), "positionViewAtEnd");
+    EXPECT_FALSE(waitFor([&] { return servicePid() != 0; }, 500)) << "neither for more rows nor for their pictures";
+    EXPECT_LT(page().model()->rowCount(), 400);
+    QMetaObject::invokeMethod(list(), "positionViewAtBeginning");
+    user->clicks(text("Failed (1)"));
+    ASSERT_TRUE(waitForRow(0, UploadsModel::TitleRole, "photo 1")) << "which is asked for";
+    user->clicks(text("All (400)"));
+    ASSERT_TRUE(waitToRead("photo 400"));
+    QMetaObject::invokeMethod(list(), "positionViewAtEnd");
+    EXPECT_TRUE(waitFor([&] { return page().model()->rowCount() > before; })) << "now more comes";
+}
+
+TEST_F(UploadsPage, TellsHowFastAVideoGoesAndWhatAPhotoWaitsFor) {
+    setEnvironment("KORVANE_RETRY_DELAYS", "600000");
+    server.on("chunk").delay(300, 1000);
+    server.on("upload").fail(503, 100);
+    ASSERT_TRUE(shareVideo(video("film.mp4", variedBytes(80'000'000))));
+    ASSERT_TRUE(share({titled("two", jpegOfSize(2000, 2))}));
+    openPage();
+    ASSERT_TRUE(waitToRead("Waiting for the next try, at the latest"));
+    ASSERT_TRUE(waitToRead("MB/s"));
+    EXPECT_EQ(rowText(0, UploadsModel::TitleRole), text("film.mp4"));
+    EXPECT_TRUE(waitToRead(" left")) << "how long it still takes";
+    EXPECT_TRUE(waitToRead("Vimeo · Uploading · "));
+    EXPECT_TRUE(waitToRead(" of 80.0 MB"));
+    EXPECT_GT(page().model()->index(0).data(UploadsModel::ProgressRole).toDouble(), 0);
+    EXPECT_FALSE(page().model()->index(0).data(UploadsModel::CanRetryRole).toBool());
+
+    server.clearFaults();
+    user->clicks(text("Retry all"));
+    ASSERT_TRUE(waitFor([&] { return valueOf(1, "state") == text("done"); })) << "also what only waits";
+    ASSERT_TRUE(waitForState("done", 2));
+    EXPECT_EQ(server.videos().size(), 1U);
+    ASSERT_TRUE(waitToRead("Shared (2)"));
+}
+
 TEST_F(UploadsPage, ShowsAHundredThousandUploadsAtOnceAndKeepsFewOfThem) {
     constexpr int count = 100'000;
-    QDir().mkpath(home.path("state/korvane"));
-    {
-        UploadStore store;
-        std::optional<NSError> error;
-        ASSERT_TRUE(store.open(home.path("state/korvane/queue.sqlite"), &error));
-        store.setPaused(true);
-        std::vector<NewUpload> many(count);
-        for (int i = 0; i < count; ++i) {
-            UploadJob &job = many[size_t(i)].job;
-            job.service = flickrServiceID;
-            job.title = QStringLiteral("photo %1").arg(i + 1);
-            job.state = i % 1000 == 0 ? UploadState::Failed : UploadState::Queued;
-            job.bytesTotal = 1000 + i;
-            many[size_t(i)].record = RecordCodec::encode({}, nullptr);
-        }
-        ASSERT_TRUE(store.take(QStringLiteral("many"), many, &error));
-    }
+    fillQueue(count, UploadState::Queued);
     startService();
     QElapsedTimer time;
     time.start();
@@ -204,14 +240,13 @@ TEST_F(UploadsPage, ShowsAHundredThousandUploadsAtOnceAndKeepsFewOfThem) {
     EXPECT_LE(page().model()->rowCount(), 200);
     EXPECT_EQ(page().pending(), count - 100);
 
-    auto *list = application->window()->findChild<QQuickItem *>(text("uploads"));
     for (int i = 0; i < 5; ++i) {
         const int before = page().model()->rowCount();
-        QMetaObject::invokeMethod(list, "positionViewAtEnd");
+        QMetaObject::invokeMethod(list(), "positionViewAtEnd");
         ASSERT_TRUE(waitFor([&] { return page().model()->rowCount() > before; })) << "more comes when scrolled to";
     }
     EXPECT_LE(page().model()->rowCount(), 2500);
-    QMetaObject::invokeMethod(list, "positionViewAtBeginning");
+    QMetaObject::invokeMethod(list(), "positionViewAtBeginning");
     time.restart();
     user->clicks(text("Failed (100)"));
     ASSERT_TRUE(waitForRow(0, UploadsModel::TitleRole, "photo 99001"));

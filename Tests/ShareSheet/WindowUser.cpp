@@ -45,6 +45,8 @@ void collectPlaces(const QQuickItem &item, std::vector<QPointF> &places) {
 
 QString WindowUser::nameOf(QQuickItem *item) {
     QAccessibleInterface *interface = item ? QAccessible::queryAccessibleInterface(item) : nullptr;
+    // Of a field that hides its text only the group around it tells.
+    if (interface && interface->state().passwordEdit) interface = interface->parent();
     return interface && interface->role() != QAccessible::NoRole ? interface->text(QAccessible::Name) : QString();
 }
 
