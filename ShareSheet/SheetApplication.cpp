@@ -11,14 +11,33 @@
 #include "ShareSheet/ThumbnailMaker.h"
 #include "ShareSheet/ThumbnailProvider.h"
 
+#include <QDeadlineTimer>
+#include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QLocale>
+#include <QQmlComponent>
 #include <QTimer>
 
 namespace korvane {
 namespace {
 
-constexpr int lookInterval = 50; // milliseconds
-const QString qmlFolder = QStringLiteral("qrc:/qt/qml/Korvane/Sheet/qml/");
+constexpr int lookInterval = 50;  // milliseconds
+constexpr int longestWait = 3000; // milliseconds, for answers that nobody will read
+
+QUrl fileOf(const QString &page) {
+    return QUrl(QStringLiteral("qrc:/qt/qml/Korvane/Sheet/qml/%1.qml").arg(page));
+}
+
+QString nameOf(SheetRequest::Page page) {
+    switch (page) {
+    case SheetRequest::Uploads:
+        return QStringLiteral("UploadsPage");
+    case SheetRequest::Settings:
+        return QStringLiteral("SettingsPage");
+    default:
+        return QStringLiteral("SheetPage");
+    }
+}
 
 } // namespace
 
@@ -39,6 +58,10 @@ SheetApplication::~SheetApplication() {
 }
 
 bool SheetApplication::open(const SheetRequest &request) {
+    // A thread of the engine's gets the page's types ready while this one looks for fonts and makes the models.
+    const QQmlComponent window(_engine.get(), fileOf(QStringLiteral("Main")), QQmlComponent::Asynchronous);
+    const QQmlComponent page(_engine.get(), fileOf(nameOf(request.page)), QQmlComponent::Asynchronous);
+    QFontMetricsF(QGuiApplication::font()).height();
     switch (request.page) {
     case SheetRequest::Flickr:
     case SheetRequest::Vimeo:
@@ -78,22 +101,21 @@ bool SheetApplication::_openSheet(const SheetRequest &request) {
     connect(_sheet.get(), &SheetModel::appearsAgain, this, findAccount); // the sheet itself looks for it only once
     connect(_sheet.get(), &SheetModel::finished, this, &SheetApplication::_end);
     connect(_sheet.get(), &SheetModel::settingsRequested, this, &SheetApplication::openPreferences);
-    if (!_openWindow(QStringLiteral("SheetPage"), {{QStringLiteral("sheet"), QVariant::fromValue(_sheet.get())}}))
-        return false;
+    if (!_openWindow(request.page, {{QStringLiteral("sheet"), QVariant::fromValue(_sheet.get())}})) return false;
     afterNextFrame(*window(), [this] { _sheet->begin(*window()); });
     return true;
 }
 
 bool SheetApplication::_openUploads() {
     _uploads = std::make_unique<Uploads>();
-    if (!_openWindow(QStringLiteral("UploadsPage"), {{QStringLiteral("uploads"), QVariant::fromValue(_uploads.get())}}))
+    if (!_openWindow(SheetRequest::Uploads, {{QStringLiteral("uploads"), QVariant::fromValue(_uploads.get())}}))
         return false;
     _endWithWindow();
     return true;
 }
 
 bool SheetApplication::_openSettings(bool isVimeoFirst) {
-    if (!_openWindow(QStringLiteral("SettingsPage"), _settingsPage(isVimeoFirst))) return false;
+    if (!_openWindow(SheetRequest::Settings, _settingsPage(isVimeoFirst))) return false;
     _endWithWindow();
     return true;
 }
@@ -110,10 +132,10 @@ void SheetApplication::_endWithWindow() {
     });
 }
 
-bool SheetApplication::_openWindow(const QString &page, const QVariantMap &properties) {
-    _engine->setInitialProperties({{QStringLiteral("firstPage"), QUrl(qmlFolder + page + QStringLiteral(".qml"))},
-                                   {QStringLiteral("firstPageProperties"), properties}});
-    _engine->load(QUrl(qmlFolder + QStringLiteral("Main.qml")));
+bool SheetApplication::_openWindow(SheetRequest::Page page, const QVariantMap &properties) {
+    _engine->setInitialProperties(
+        {{QStringLiteral("firstPage"), fileOf(nameOf(page))}, {QStringLiteral("firstPageProperties"), properties}});
+    _engine->load(fileOf(QStringLiteral("Main")));
     return window() != nullptr;
 }
 
@@ -126,8 +148,7 @@ void SheetApplication::openPreferences(const NSURL &address) {
     const auto request = SheetRequest::parse({address.absoluteString().toUtf8()}, problem);
     if (!request || request->page != SheetRequest::Settings) return;
     const QVariantMap properties = _settingsPage(request->settingsOf == SheetRequest::Vimeo);
-    QMetaObject::invokeMethod(window(), "openPage",
-                              Q_ARG(QVariant, QUrl(qmlFolder + QStringLiteral("SettingsPage.qml"))),
+    QMetaObject::invokeMethod(window(), "openPage", Q_ARG(QVariant, fileOf(nameOf(SheetRequest::Settings))),
                               Q_ARG(QVariant, properties));
 }
 
@@ -145,15 +166,16 @@ ExitStatus SheetApplication::_statusOf(SheetModel::Outcome outcome) const {
     return _sheet->refusal() ? exitStatusOf(*_sheet->refusal()) : ExitUploadFailed;
 }
 
-// The sheet is kept until nobody waits for its answers any more; the window has gone by then.
+// The sheet is kept for a while for whoever waits for its answers; the window has gone by then.
 void SheetApplication::_end(SheetModel::Outcome outcome) {
     if (window()) window()->hide();
     const auto timer = new QTimer(this);
-    connect(timer, &QTimer::timeout, this, [this, timer, status = _statusOf(outcome)] {
-        if (_controller->isWaitingForAnswers()) return;
-        timer->stop();
-        Q_EMIT finished(status);
-    });
+    connect(timer, &QTimer::timeout, this,
+            [this, timer, status = _statusOf(outcome), end = QDeadlineTimer(longestWait)] {
+                if (_controller->isWaitingForAnswers() && !end.hasExpired()) return;
+                timer->stop();
+                Q_EMIT finished(status);
+            });
     timer->start(_controller->isWaitingForAnswers() ? lookInterval : 0);
 }
 

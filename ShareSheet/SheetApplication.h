@@ -41,10 +41,10 @@ private:
     bool _openSheet(const SheetRequest &request);
     bool _openUploads();
     bool _openSettings(bool isVimeoFirst);
-    QVariantMap _settingsPage(bool isVimeoFirst); // its properties
-    void _endWithWindow();                        // of a page that has no say in it
-    // Shows a page of that name (the file's, without its ending) with these properties.
-    bool _openWindow(const QString &page, const QVariantMap &properties);
+    QVariantMap _settingsPage(bool isVimeoFirst);                             // its properties
+    void _endWithWindow();                                                    // of a page that has no say in it
+    bool _openWindow(SheetRequest::Page page, const QVariantMap &properties); // with these properties of the page
+
     ExitStatus _statusOf(SheetModel::Outcome outcome) const;
     void _end(SheetModel::Outcome outcome);
 

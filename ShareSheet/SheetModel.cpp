@@ -5,11 +5,14 @@
 #include "ShareSheet/EditableText.h"
 #include "ShareSheet/FrameWait.h"
 
+#include <QTimer>
+
 namespace korvane {
 
 namespace {
 
 constexpr int fewBytes = 30;
+constexpr int afterHandOver = 100; // milliseconds
 
 } // namespace
 
@@ -147,6 +150,12 @@ void SheetModel::_handOver() {
     if (request.state() == NSExtensionContext::State::Completed) return _finish(Outcome::Shared);
     _refusal = request.error();
     _sheet->extensionContext()->reopen();
+    QTimer::singleShot(afterHandOver, this, &SheetModel::_tellRefusal);
+}
+
+// What was pressed while nothing could be drawn was not meant for what is said now: by this time it has been read, and
+// has met a sheet that hands over.
+void SheetModel::_tellRefusal() {
     _endHandOver();
     const QString reason = _refusal ? _refusal->localizedDescription() : tr("No reason was given.");
     _setFailure(tr("Nothing was shared. %1\nWhat you entered is still here: press Post to try again.").arg(reason));

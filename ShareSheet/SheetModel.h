@@ -103,6 +103,7 @@ private:
 
     bool _canHandOver(const QString &text) const;
     void _handOver();
+    void _tellRefusal();
     void _setFailure(const QString &failure);
     void _endHandOver();
     void _finish(Outcome outcome);

@@ -6,7 +6,8 @@ FocusScope {
     id: layer
 
     required property var sheet
-    readonly property bool isShown: sheet.option !== null
+    property bool isMade: false            // only then it slides
+    readonly property bool isShown: isMade && sheet.option !== null
     readonly property bool isMirrored: LayoutMirroring.enabled
     property real away: isShown ? 0 : 1    // how far it has left, in its own widths
     property var table: null               // kept while it leaves
@@ -26,6 +27,10 @@ FocusScope {
     visible: away < 1
     enabled: isShown
     onAwayChanged: if (away === 1) edge.pulled = 0
+    Component.onCompleted: {
+        isMade = true;
+        follow();
+    }
     Accessible.role: Accessible.Pane
     Accessible.name: heading
 

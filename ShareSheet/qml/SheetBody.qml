@@ -39,19 +39,12 @@ FocusScope {
             width: Math.min(scroller.width, Theme.widestPage)
             spacing: Theme.margin
 
-            Notice {
-                x: Theme.margin
-                width: parent.width - 2 * x
-                visible: body.sheet.failure.length > 0
-                text: body.sheet.failure
-            }
-            Notice {
-                x: Theme.margin
-                width: parent.width - 2 * x
-                visible: body.sheet.attachments.problems.length > 0
-                text: body.sheet.attachments.problems
-                actionText: body.sheet.attachments.isPreparing || body.sheet.attachments.usableCount === 0 ? "" : qsTr("Leave them out")
-                onActionClicked: body.sheet.attachments.leaveProblemsOut()
+            LatePart {
+                width: parent.width
+                visible: isNeeded
+                file: "SheetNotices.qml"
+                sheet: body.sheet
+                isNeeded: body.sheet.failure.length > 0 || body.sheet.attachments.problems.length > 0
             }
             Previews {
                 width: parent.width

@@ -10,7 +10,7 @@ FocusScope {
     readonly property string title: sheet.title
     property bool wasLeft: false // for the settings
     readonly property bool isTop: !sheet.hasAlert && !sheet.isHandingOver
-    readonly property bool isBodyUsed: isTop && !options.isShown
+    readonly property bool isBodyUsed: isTop && sheet.option === null
 
     // What Escape and the Back key do.
     function goBack() {
@@ -18,7 +18,7 @@ FocusScope {
             return;
         if (sheet.hasAlert)
             sheet.dismissAlert();
-        else if (options.isShown)
+        else if (sheet.option !== null)
             sheet.popOption();
         else
             sheet.cancel();
@@ -69,50 +69,23 @@ FocusScope {
             focus: true
         }
     }
-    OptionLayer {
-        id: options
-
+    LatePart {
         anchors.fill: parent
+        file: "OptionLayer.qml"
         sheet: page.sheet
-        enabled: isShown && page.isTop
+        isNeeded: page.sheet.option !== null
+        enabled: page.isTop
     }
-    Dialog {
+    LatePart {
         anchors.fill: parent
-        visible: page.sheet.hasAlert
-        title: page.sheet.alertTitle
-        message: page.sheet.alertMessage
-        acceptText: qsTr("Settings")
-        rejectText: qsTr("Not now")
-        onAccepted: page.sheet.openSettings()
-        onRejected: page.sheet.dismissAlert()
+        file: "SettingsAlert.qml"
+        sheet: page.sheet
+        isNeeded: page.sheet.hasAlert
     }
-    Rectangle {
+    LatePart {
         anchors.fill: parent
-        color: Theme.shade
-        visible: page.sheet.isHandingOver
-
-        MouseArea {
-            anchors.fill: parent
-        }
-        Rectangle {
-            anchors.centerIn: parent
-            width: Math.min(parent.width - 2 * Theme.margin, words.implicitWidth + 4 * Theme.margin)
-            height: words.height + 2 * Theme.margin
-            radius: Theme.radius
-            color: Theme.surface
-
-            Text {
-                id: words
-
-                anchors.centerIn: parent
-                width: Math.min(implicitWidth, page.width - 4 * Theme.margin)
-                text: qsTr("Handing over to the upload service…")
-                color: Theme.text
-                wrapMode: Text.Wrap
-                horizontalAlignment: Text.AlignHCenter
-                Accessible.role: Accessible.AlertMessage
-                Accessible.name: text
-            }
-        }
+        file: "HandingOver.qml"
+        sheet: page.sheet
+        isNeeded: page.sheet.isHandingOver
     }
 }
