@@ -4,13 +4,15 @@
 #include "ShareSheet/Background.h"
 #include "ShareSheet/ThumbnailProvider.h"
 
+#include <QElapsedTimer>
+
 #include <algorithm>
 
 namespace korvane {
-
 namespace {
 
 constexpr int mostProblems = 5; // that are named
+constexpr int moment = 100;     // milliseconds
 
 } // namespace
 
@@ -25,35 +27,46 @@ AttachmentsModel::AttachmentsModel(Kind kind, const QByteArrayList &arguments, Q
 
 void AttachmentsModel::start() {
     _isStarted = true;
-    _prepareNext();
+    _prepareSome();
     if (count() > 0) Q_EMIT dataChanged(index(0), index(count() - 1), {ThumbnailRole});
 }
 
-void AttachmentsModel::_prepareNext() {
-    if (!isPreparing()) return;
-    inBackground(this, [this, file = _entries[_prepared].file, isVideo = isVideo()]() -> std::function<void()> {
-        std::optional<NSError> error;
-        std::optional<SLAttachment> attachment;
-        QString problem = file.problemAtSight();
-        if (problem.isEmpty())
-            attachment = isVideo ? SLAttachment::videoAttachment(file.path, &error)
-                                 : SLAttachment::photoAttachment(file.path, false, &error);
-        if (error) problem = error->localizedDescription();
-        return [this, attachment, problem] { _arrived(attachment, problem); };
-    });
+void AttachmentsModel::_prepare(Entry &entry, bool isVideo) {
+    SharedFile &file = entry.file;
+    file.problem = file.problemAtSight();
+    if (!file.problem.isEmpty()) return;
+    std::optional<NSError> error;
+    entry.attachment = isVideo ? SLAttachment::videoAttachment(file.path, &error)
+                               : SLAttachment::photoAttachment(file.path, false, &error);
+    if (!error) return;
+    file.problem = error->localizedDescription();
+    // The errors name the whole path; the list shows the name already.
+    const QString prefix = QString::fromUtf8(file.path) + QStringLiteral(": ");
+    if (file.problem.startsWith(prefix)) file.problem.remove(0, prefix.size());
 }
 
-void AttachmentsModel::_arrived(std::optional<SLAttachment> attachment, const QString &problem) {
-    const int row = int(_prepared);
-    Entry &entry = _entries[_prepared++];
-    entry.attachment = std::move(attachment);
-    entry.file.problem = problem;
-    // The errors name the whole path; the list shows the name already.
-    const QString prefix = QString::fromUtf8(entry.file.path) + QStringLiteral(": ");
-    if (entry.file.problem.startsWith(prefix)) entry.file.problem.remove(0, prefix.size());
-    Q_EMIT dataChanged(index(row), index(row), {ProblemRole});
+// As many as take a moment together.
+void AttachmentsModel::_prepareSome() {
+    if (!isPreparing()) return;
+    inBackground(this,
+                 [this, entries = std::vector(_entries.begin() + qsizetype(_prepared), _entries.end()),
+                  isVideo = isVideo()]() mutable -> std::function<void()> {
+                     QElapsedTimer timer;
+                     timer.start();
+                     size_t made = 0;
+                     while (made < entries.size() && timer.elapsed() < moment)
+                         _prepare(entries[made++], isVideo);
+                     entries.resize(made);
+                     return [this, entries] { _arrived(entries); };
+                 });
+}
+
+void AttachmentsModel::_arrived(const std::vector<Entry> &entries) {
+    const size_t first = std::exchange(_prepared, _prepared + entries.size());
+    std::ranges::copy(entries, _entries.begin() + qsizetype(first));
+    Q_EMIT dataChanged(index(int(first)), index(int(_prepared) - 1), {ProblemRole});
     Q_EMIT changed();
-    _prepareNext();
+    _prepareSome();
 }
 
 std::vector<SLAttachment> AttachmentsModel::attachments() const {

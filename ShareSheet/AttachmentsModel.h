@@ -51,8 +51,9 @@ private:
         std::optional<SLAttachment> attachment;
     };
 
-    void _prepareNext();
-    void _arrived(std::optional<SLAttachment> attachment, const QString &problem);
+    static void _prepare(Entry &entry, bool isVideo); // on any thread
+    void _prepareSome();
+    void _arrived(const std::vector<Entry> &entries);
 
     const Kind _kind;
     std::vector<Entry> _entries;
