@@ -30,7 +30,7 @@ bool hasAllPictures(const QQuickItem *item) {
 } // namespace
 
 void require(const char *what, const std::function<bool()> &isSo) {
-    if (!test::waitFor(isSo, timeLimit)) qFatal("There is no picture: %s does not come about.", what);
+    if (!test::waitFor(isSo, timeLimit)) qFatal("There is no picture: nothing came of %s.", what);
 }
 
 void Photographer::take(const char *screen, const QByteArrayList &arguments, const Preparation &prepare) const {
