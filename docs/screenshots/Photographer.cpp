@@ -17,7 +17,7 @@ struct Size {
     QSize size;
 };
 constexpr Size sizes[]{{"phone", {360, 640}}, {"desktop", {640, 720}}};
-constexpr int timeLimit = 20'000; // milliseconds
+constexpr int timeLimit = 60'000; // milliseconds
 
 // Thumbnails, that is; those of files that show nothing are there, too.
 bool hasAllPictures(const QQuickItem *item) {
