@@ -17,7 +17,7 @@ struct Size {
     QSize size;
 };
 constexpr Size sizes[]{{"phone", {360, 640}}, {"desktop", {640, 720}}};
-constexpr int timeLimit = 20'000; // milliseconds
+constexpr int timeLimit = 60'000; // milliseconds
 
 // Thumbnails, that is; those of files that show nothing are there, too.
 bool hasAllPictures(const QQuickItem *item) {
@@ -30,7 +30,7 @@ bool hasAllPictures(const QQuickItem *item) {
 } // namespace
 
 void require(const char *what, const std::function<bool()> &isSo) {
-    if (!test::waitFor(isSo, timeLimit)) qFatal("There is no picture: %s does not come about.", what);
+    if (!test::waitFor(isSo, timeLimit)) qFatal("There is no picture: nothing came of %s.", what);
 }
 
 void Photographer::take(const char *screen, const QByteArrayList &arguments, const Preparation &prepare) const {

@@ -22,7 +22,9 @@ void type(EditTarget &target, int row, const QString &text) {
 Photographer::Preparation sheetWith(const std::function<void(SheetModel &)> &work) {
     return [work](SheetApplication &application) {
         SheetModel &sheet = *application.sheet();
-        require("the attachments", [&] { return sheet.attachments()->isReady(); });
+        require("the end of preparing", [&] { return !sheet.attachments()->isPreparing(); });
+        if (!sheet.attachments()->isReady())
+            qFatal("There is no picture: %s", qPrintable(sheet.attachments()->problems()));
         work(sheet);
     };
 }
