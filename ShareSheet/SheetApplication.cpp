@@ -6,13 +6,14 @@
 #include "FrontEnd/SystemLog.h"
 #include "Korvane/VimeoComposeViewController.h"
 #include "Platform/Accounts/ACAccountStore.h"
-#include "ShareSheet/EditableText.h"
 #include "ShareSheet/FrameWait.h"
 #include "ShareSheet/ThumbnailMaker.h"
 #include "ShareSheet/ThumbnailProvider.h"
 
 #include <QLocale>
 #include <QTimer>
+
+extern void qml_register_types_Korvane_Sheet(); // made by the build of the types with QML_ELEMENT
 
 namespace korvane {
 namespace {
@@ -27,7 +28,7 @@ SheetApplication::SheetApplication() : _engine(std::make_unique<QQmlApplicationE
         if (_texts.load(locale, QStringLiteral("Sheet"), QStringLiteral("_"), QStringLiteral(":/korvane/strings")))
             break;
     QCoreApplication::installTranslator(&_texts);
-    qmlRegisterType<EditableText>("Korvane.Models", 1, 0, "EditableText");
+    qml_register_types_Korvane_Sheet();
     _engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
     _engine->addImageProvider(ThumbnailProvider::name(), new ThumbnailProvider(&ThumbnailMaker::make));
 }

@@ -5,7 +5,7 @@ import Korvane.Sheet
 FocusScope {
     id: layer
 
-    required property var sheet
+    required property SheetModel sheet
     readonly property bool isShown: sheet.option !== null
     readonly property bool isMirrored: LayoutMirroring.enabled
     property real away: isShown ? 0 : 1    // how far it has left, in its own widths

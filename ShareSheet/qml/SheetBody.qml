@@ -1,12 +1,11 @@
 // What a share is made of: previews, the text, the options.
 import QtQuick
 import Korvane.Sheet
-import Korvane.Models
 
 FocusScope {
     id: body
 
-    required property var sheet
+    required property SheetModel sheet
 
     Flickable {
         id: scroller
