@@ -3,6 +3,7 @@
 
 #include <QPointer>
 #include <QQuickItem>
+#include <QtQmlIntegration>
 
 namespace korvane {
 
@@ -11,6 +12,7 @@ namespace korvane {
 // both directions.
 class EditableText : public QObject {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(QQuickItem *input READ input WRITE setInput NOTIFY inputChanged)  // a TextField or a plain-text TextArea
     Q_PROPERTY(QObject *target READ target WRITE setTarget NOTIFY targetChanged) // an EditTarget
     Q_PROPERTY(int row MEMBER _row NOTIFY rowChanged)

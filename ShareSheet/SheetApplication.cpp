@@ -6,7 +6,6 @@
 #include "FrontEnd/SystemLog.h"
 #include "Korvane/VimeoComposeViewController.h"
 #include "Platform/Accounts/ACAccountStore.h"
-#include "ShareSheet/EditableText.h"
 #include "ShareSheet/FrameWait.h"
 #include "ShareSheet/ThumbnailMaker.h"
 #include "ShareSheet/ThumbnailProvider.h"
@@ -17,6 +16,8 @@
 #include <QLocale>
 #include <QQmlComponent>
 #include <QTimer>
+
+extern void qml_register_types_Korvane_Sheet(); // made by the build of the types with QML_ELEMENT
 
 namespace korvane {
 namespace {
@@ -46,9 +47,7 @@ SheetApplication::SheetApplication() : _engine(std::make_unique<QQmlApplicationE
         if (_texts.load(locale, QStringLiteral("Sheet"), QStringLiteral("_"), QStringLiteral(":/korvane/strings")))
             break;
     QCoreApplication::installTranslator(&_texts);
-    qmlRegisterType<EditableText>("Korvane.Models", 1, 0, "EditableText");
-    qmlRegisterUncreatableType<SignInModel>("Korvane.Models", 1, 0, "SignInModel", {});
-    qmlRegisterUncreatableType<Uploads>("Korvane.Models", 1, 0, "Uploads", {});
+    qml_register_types_Korvane_Sheet();
     _engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
     _engine->addImageProvider(ThumbnailProvider::name(), new ThumbnailProvider(&ThumbnailMaker::make));
 }
@@ -133,8 +132,9 @@ void SheetApplication::_endWithWindow() {
 }
 
 bool SheetApplication::_openWindow(SheetRequest::Page page, const QVariantMap &properties) {
-    _engine->setInitialProperties(
-        {{QStringLiteral("firstPage"), fileOf(nameOf(page))}, {QStringLiteral("firstPageProperties"), properties}});
+    _engine->setInitialProperties({{QStringLiteral("firstPage"), fileOf(nameOf(page))},
+                                   {QStringLiteral("firstPageProperties"), properties},
+                                   {QStringLiteral("isMirrored"), QGuiApplication::isRightToLeft()}});
     _engine->load(fileOf(QStringLiteral("Main")));
     return window() != nullptr;
 }

@@ -10,12 +10,15 @@
 #include <QPointer>
 #include <QQuickWindow>
 #include <QVariantList>
+#include <QtQmlIntegration>
 
 namespace korvane {
 
 // Its text is row 0 of the EditTarget. Thread: main.
 class SheetModel : public QObject, public EditTarget {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("the program has it")
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(bool isVideo READ isVideo CONSTANT)
     Q_PROPERTY(korvane::AttachmentsModel *attachments READ attachments CONSTANT)

@@ -4,12 +4,15 @@
 #include "Platform/Accounts/SignIn.h"
 
 #include <QObject>
+#include <QtQml/qqmlregistration.h>
 
 namespace korvane {
 
 // One at a time; the account is stored at its end. Thread: main.
 class SignInModel : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("the program has it")
     Q_PROPERTY(Step step READ step NOTIFY changed)
     Q_PROPERTY(bool typesCode READ typesCode NOTIFY changed)
     Q_PROPERTY(QString pageAddress READ pageAddress NOTIFY changed)

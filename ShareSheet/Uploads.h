@@ -6,6 +6,7 @@
 
 #include <QHash>
 #include <QTimer>
+#include <QtQml/qqmlregistration.h>
 
 #include <memory>
 #include <optional>
@@ -15,6 +16,8 @@ namespace korvane {
 // Follows the upload service through its restarts. Thread: main.
 class Uploads : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("the program has it")
     Q_PROPERTY(korvane::UploadsModel *model READ model CONSTANT)
     Q_PROPERTY(Connection connection READ connection NOTIFY connectionChanged)
     Q_PROPERTY(QString problem READ problem NOTIFY problemChanged)

@@ -24,6 +24,7 @@ T.AbstractButton {
     contentItem: Text {
         id: label
 
+        textFormat: Text.PlainText
         text: control.text
         color: control.isChosen ? Theme.accentText : Theme.text
         horizontalAlignment: Text.AlignHCenter

@@ -38,6 +38,7 @@ T.RadioButton {
         Text {
             id: label
 
+            textFormat: Text.PlainText
             anchors.left: parent.left
             anchors.leftMargin: Theme.margin
             anchors.right: mark.left
@@ -51,6 +52,7 @@ T.RadioButton {
         Text {
             id: mark
 
+            textFormat: Text.PlainText
             anchors.right: parent.right
             anchors.rightMargin: Theme.margin
             anchors.verticalCenter: parent.verticalCenter

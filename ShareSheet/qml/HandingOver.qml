@@ -5,7 +5,7 @@ import Korvane.Sheet
 Rectangle {
     id: shade
 
-    required property var sheet
+    required property SheetModel sheet
 
     color: Theme.shade
     visible: sheet.isHandingOver
@@ -23,6 +23,7 @@ Rectangle {
         Text {
             id: words
 
+            textFormat: Text.PlainText
             anchors.centerIn: parent
             width: Math.min(implicitWidth, shade.width - 4 * Theme.margin)
             text: qsTr("Handing over to the upload service…")

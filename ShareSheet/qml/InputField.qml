@@ -14,7 +14,7 @@ T.TextField {
     rightPadding: Theme.spacing
     topPadding: Theme.spacing * 0.5
     bottomPadding: Theme.spacing * 0.5
-    font: Qt.application.font
+    font: Theme.font
     color: Theme.text
     placeholderTextColor: Theme.secondaryText
     selectionColor: Theme.accent
@@ -33,6 +33,7 @@ T.TextField {
     }
 
     Text {
+        textFormat: Text.PlainText
         x: field.leftPadding
         width: field.width - field.leftPadding - field.rightPadding
         height: field.height

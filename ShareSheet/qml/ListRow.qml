@@ -14,7 +14,7 @@ T.AbstractButton {
     readonly property bool valueBelow: title.implicitWidth + valueText.implicitWidth + marks.width + 3 * Theme.spacing + 2 * Theme.margin > width
 
     implicitHeight: Math.max(Theme.touchHeight, words.implicitHeight + 2 * Theme.spacing)
-    focusPolicy: isSelectable ? Qt.StrongFocus : Qt.NoFocus
+    activeFocusOnTab: isSelectable
     Accessible.role: isChecked || !leadsOn ? Accessible.ListItem : Accessible.Button
     Accessible.name: value.length > 0 ? text + ", " + value : text
     Accessible.checkable: !leadsOn && isSelectable
@@ -48,6 +48,7 @@ T.AbstractButton {
             Text {
                 id: title
 
+                textFormat: Text.PlainText
                 width: row.valueBelow || valueText.text.length === 0 ? words.width : Math.min(implicitWidth, words.width)
                 text: row.text
                 color: Theme.text
@@ -57,6 +58,7 @@ T.AbstractButton {
             Text {
                 id: valueText
 
+                textFormat: Text.PlainText
                 width: row.valueBelow ? words.width : words.width - title.width - Theme.spacing
                 text: row.value
                 visible: text.length > 0
@@ -70,6 +72,7 @@ T.AbstractButton {
         Text {
             id: marks
 
+            textFormat: Text.PlainText
             anchors.right: parent.right
             anchors.rightMargin: Theme.margin
             anchors.verticalCenter: parent.verticalCenter

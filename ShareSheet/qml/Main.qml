@@ -8,6 +8,7 @@ T.ApplicationWindow {
 
     required property url firstPage
     property var firstPageProperties: ({})
+    property bool isMirrored: false // from right to left
 
     // Shows a page over what is there; the page closes itself with closePage().
     function openPage(page, properties) {
@@ -35,7 +36,7 @@ T.ApplicationWindow {
             page.closeWindow();
         }
     }
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: isMirrored
     LayoutMirroring.childrenInherit: true
 
     Component.onCompleted: pages.push(firstPage, firstPageProperties, T.StackView.Immediate)

@@ -3,6 +3,7 @@ import QtQuick
 import Korvane.Sheet
 
 Text {
+    textFormat: Text.PlainText
     leftPadding: Theme.margin
     rightPadding: Theme.margin
     topPadding: Theme.spacing * 0.5

@@ -26,6 +26,7 @@ Rectangle {
         spacing: 2
 
         Text {
+            textFormat: Text.PlainText
             width: parent.width
             text: row.text
             color: Theme.text

@@ -5,7 +5,7 @@ import Korvane.Sheet
 FocusScope {
     id: layer
 
-    required property var sheet
+    required property SheetModel sheet
     property bool isMade: false            // only then it slides
     readonly property bool isShown: isMade && sheet.option !== null
     readonly property bool isMirrored: LayoutMirroring.enabled
@@ -84,6 +84,7 @@ FocusScope {
             onExited: header.leadingButton.forceActiveFocus(Qt.TabFocusReason)
         }
         Text {
+            textFormat: Text.PlainText
             anchors.centerIn: list
             width: list.width - 2 * Theme.margin
             text: qsTr("Loading…")

@@ -40,6 +40,7 @@ Item {
 
         readonly property real side: Math.max(leading.width, trailing.width) + Theme.spacing
 
+        textFormat: Text.PlainText
         x: header.isNarrow ? Theme.margin
                            : Math.max(leading.visible && !header.LayoutMirroring.enabled ? leading.width + Theme.spacing : Theme.margin,
                                       Math.min((parent.width - implicitWidth) / 2, parent.width - side - implicitWidth))

@@ -57,6 +57,7 @@ Item {
     Text {
         id: caption
 
+        textFormat: Text.PlainText
         anchors.top: strip.bottom
         anchors.topMargin: Theme.spacing
         x: Theme.margin

@@ -41,6 +41,7 @@ Rectangle {
         Text {
             id: sign
 
+            textFormat: Text.PlainText
             anchors.centerIn: parent
             text: mark.sign.length > 0 ? mark.sign : mark.service === "Vimeo" ? "▶" : "▣"
             color: mark.uploadState === "failed" ? Theme.problem : mark.uploadState === "done" ? Theme.accent : Theme.secondaryText

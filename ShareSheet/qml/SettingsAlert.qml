@@ -3,7 +3,7 @@ import QtQuick
 import Korvane.Sheet
 
 Dialog {
-    required property var sheet
+    required property SheetModel sheet
 
     visible: sheet.hasAlert
     title: sheet.alertTitle

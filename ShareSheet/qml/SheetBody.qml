@@ -1,21 +1,20 @@
 // What a share is made of: previews, the text, the options.
 import QtQuick
 import Korvane.Sheet
-import Korvane.Models
 
 FocusScope {
     id: body
 
-    required property var sheet
+    required property SheetModel sheet
 
     Flickable {
         id: scroller
 
-        function show(rectangle) {
-            if (rectangle.y < contentY)
-                contentY = Math.max(0, rectangle.y);
-            else if (rectangle.y + rectangle.height > contentY + height)
-                contentY = rectangle.y + rectangle.height - height;
+        function show(top, size) {
+            if (top < contentY)
+                contentY = Math.max(0, top);
+            else if (top + size > contentY + height)
+                contentY = top + size - height;
         }
 
         anchors.fill: parent
@@ -62,7 +61,7 @@ FocusScope {
                     Accessible.description: body.sheet.isRoomShort ? room.Accessible.name : ""
                     onCursorRectangleChanged: if (activeFocus) {
                         const place = mapToItem(contents, cursorRectangle.x, cursorRectangle.y);
-                        scroller.show(Qt.rect(0, contents.y + place.y, 1, cursorRectangle.height + Theme.spacing));
+                        scroller.show(contents.y + place.y, cursorRectangle.height + Theme.spacing);
                     }
 
                     EditableText {
@@ -81,6 +80,7 @@ FocusScope {
                     Text {
                         id: room
 
+                        textFormat: Text.PlainText
                         anchors.right: parent.right
                         anchors.rightMargin: Theme.margin
                         anchors.verticalCenter: parent.verticalCenter
@@ -112,7 +112,7 @@ FocusScope {
                         enabled: body.sheet.itemsAreEnabled
                         opacity: enabled ? 1 : 0.6
                         hasSeparator: index + 1 < body.sheet.items.length
-                        onActiveFocusChanged: if (activeFocus) scroller.show(mapToItem(scroller.contentItem, 0, 0, width, height))
+                        onActiveFocusChanged: if (activeFocus) scroller.show(mapToItem(scroller.contentItem, 0, 0).y, height)
                         onClicked: {
                             body.sheet.commitText();
                             forceActiveFocus();

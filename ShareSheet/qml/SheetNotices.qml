@@ -3,7 +3,7 @@ import QtQuick
 import Korvane.Sheet
 
 Column {
-    required property var sheet
+    required property SheetModel sheet
 
     spacing: Theme.margin
 

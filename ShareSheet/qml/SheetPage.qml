@@ -6,7 +6,7 @@ import Korvane.Sheet
 FocusScope {
     id: page
 
-    required property var sheet
+    required property SheetModel sheet
     readonly property string title: sheet.title
     property bool wasLeft: false // for the settings
     readonly property bool isTop: !sheet.hasAlert && !sheet.isHandingOver

@@ -1,7 +1,6 @@
 // Adds an account: the person says yes in the browser, and perhaps types a code here.
 import QtQuick
 import Korvane.Sheet
-import Korvane.Models
 
 Column {
     id: panel

@@ -33,6 +33,7 @@ T.AbstractButton {
         Text {
             id: words
 
+            textFormat: Text.PlainText
             anchors.left: parent.left
             anchors.leftMargin: Theme.margin
             anchors.right: track.left

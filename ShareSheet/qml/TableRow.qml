@@ -1,7 +1,6 @@
 // A row of an option screen: something to choose, or a text to type in.
 import QtQuick
 import Korvane.Sheet
-import Korvane.Models
 
 FocusScope {
     id: tableRow

@@ -15,7 +15,7 @@ T.TextArea {
     rightPadding: Theme.margin
     topPadding: Theme.spacing
     bottomPadding: Theme.spacing
-    font: Qt.application.font
+    font: Theme.font
     color: Theme.text
     placeholderTextColor: Theme.secondaryText
     selectionColor: Theme.accent
@@ -38,6 +38,7 @@ T.TextArea {
     }
 
     Text {
+        textFormat: Text.PlainText
         x: area.leftPadding
         y: area.topPadding
         width: area.width - area.leftPadding - area.rightPadding

@@ -19,6 +19,7 @@ QtObject {
     readonly property color shade: isDark ? "#b3000000" : "#80000000" // over what cannot be used just now
     readonly property color focus: accent
 
+    readonly property font font: _metrics.font
     readonly property real lineHeight: Math.ceil(_metrics.height)
     readonly property real fontPixelSize: _metrics.font.pixelSize > 0 ? _metrics.font.pixelSize : Math.round(lineHeight * 0.84)
     readonly property real smallFontPixelSize: Math.round(fontPixelSize * 0.88)
@@ -32,7 +33,7 @@ QtObject {
     readonly property real widestPage: Math.max(640, lineHeight * 34)
 
     readonly property SystemPalette _palette: SystemPalette {}
-    readonly property FontMetrics _metrics: FontMetrics {
-        font: Qt.application.font
-    }
+    // The application's font. What shows first does without names of "Qt": they would take a third of the time that the
+    // window needs to appear, since the engine looks through all that "Qt" has.
+    readonly property FontMetrics _metrics: FontMetrics {}
 }

@@ -29,9 +29,11 @@ Rectangle {
         asynchronous: true
         cache: false // the provider keeps them
         fillMode: Image.PreserveAspectCrop
-        sourceSize: Qt.size(pixels, pixels)
+        sourceSize.width: pixels
+        sourceSize.height: pixels
     }
     Text {
+        textFormat: Text.PlainText
         anchors.centerIn: parent
         text: tile.isUnusable ? "!" : "▶"
         visible: tile.isUnusable || tile.isVideo

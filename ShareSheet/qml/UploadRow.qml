@@ -78,6 +78,7 @@ FocusScope {
             textFormat: Text.PlainText
         }
         Text {
+            textFormat: Text.PlainText
             anchors.left: parent.left
             width: parent.width - removal.width
             text: row.detail

@@ -1,7 +1,6 @@
 // What stands above the uploads: how the upload service is, which uploads are shown, and what can be done to many.
 import QtQuick
 import Korvane.Sheet
-import Korvane.Models
 
 Column {
     id: head
@@ -79,6 +78,7 @@ Column {
         }
     }
     Text {
+        textFormat: Text.PlainText
         x: Theme.margin
         width: parent.width - 2 * Theme.margin
         topPadding: 3 * Theme.lineHeight

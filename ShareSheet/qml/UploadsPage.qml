@@ -2,7 +2,6 @@
 import QtQuick
 import QtQuick.Templates as T
 import Korvane.Sheet
-import Korvane.Models
 
 T.Page {
     id: page
