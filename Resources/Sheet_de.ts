@@ -13,22 +13,14 @@
     </message>
 </context>
 <context>
-    <name>AttachmentsModel</name>
+    <name>HandingOver</name>
     <message>
-        <source>only one video at a time can be shared to Vimeo</source>
-        <translation>auf Vimeo kann nur ein Video auf einmal geteilt werden</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
+        <source>Handing over to the upload service…</source>
+        <translation>Wird an den Upload-Dienst übergeben …</translation>
     </message>
 </context>
 <context>
     <name>KeysPanel</name>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
     <message>
         <source>%1 application keys</source>
         <translation>Anwendungsschlüssel für %1</translation>
@@ -76,6 +68,10 @@
     <message>
         <source>Remove the keys</source>
         <translation>Schlüssel entfernen</translation>
+    </message>
+    <message>
+        <source>The secret is in a file that only you can read, since no keyring could be used.</source>
+        <translation>Das Secret liegt in einer Datei, die nur Sie lesen können, da kein Schlüsselbund verwendet werden konnte.</translation>
     </message>
 </context>
 <context>
@@ -140,12 +136,19 @@
         <translation>Geteilt wird mit dem Konto, das ein Häkchen hat.</translation>
     </message>
     <message>
-        <source>Remove</source>
-        <translation>Entfernen</translation>
+        <source>Remove the keys of your application at %1? Accounts that are added already stay; to add another, you need the keys again.</source>
+        <translation>Die Schlüssel Ihrer Anwendung bei %1 entfernen? Bereits hinzugefügte Konten bleiben; um ein weiteres hinzuzufügen, brauchen Sie die Schlüssel wieder.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsAlert</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
     </message>
     <message>
-        <source>Keep</source>
-        <translation>Behalten</translation>
+        <source>Not now</source>
+        <translation>Nicht jetzt</translation>
     </message>
 </context>
 <context>
@@ -190,6 +193,14 @@
         <source>JPEG, PNG and GIF files always go out as they are. Other pictures, and those sent without metadata, are newly encoded.</source>
         <translation>JPEG-, PNG- und GIF-Dateien werden unverändert hochgeladen. Andere Bilder und solche ohne Metadaten werden neu kodiert.</translation>
     </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
 </context>
 <context>
     <name>SharedFile</name>
@@ -213,36 +224,38 @@
 <context>
     <name>SheetBody</name>
     <message>
-        <source>Leave them out</source>
-        <translation>Diese weglassen</translation>
-    </message>
-    <message>
-        <source>Title of the video</source>
-        <translation>Titel des Videos</translation>
-    </message>
-    <message>
         <source>Title (optional)</source>
         <translation>Titel (optional)</translation>
     </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>That does not fit</source>
+        <translation>Das passt nicht hinein</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Kein Platz mehr</translation>
+    </message>
+    <message>
+        <source>Almost full</source>
+        <translation>Fast kein Platz mehr</translation>
+    </message>
     <message numerus="yes">
-        <source>Room for %n more letter(s)</source>
+        <source>room for %n more byte(s)</source>
         <translation>
-            <numerusform>Platz für noch %n Buchstaben</numerusform>
-            <numerusform>Platz für noch %n Buchstaben</numerusform>
+            <numerusform>noch Platz für %n Byte</numerusform>
+            <numerusform>noch Platz für %n Byte</numerusform>
         </translation>
     </message>
 </context>
 <context>
-    <name>SheetModel</name>
+    <name>SheetNotices</name>
     <message>
-        <source>No reason was given.</source>
-        <translation>Es wurde kein Grund genannt.</translation>
-    </message>
-    <message>
-        <source>Nothing was shared. %1
-What you entered is still here: press Post to try again.</source>
-        <translation>Es wurde nichts geteilt. %1
-Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</translation>
+        <source>Leave them out</source>
+        <translation>Diese weglassen</translation>
     </message>
 </context>
 <context>
@@ -255,25 +268,9 @@ Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</tran
         <source>Post</source>
         <translation>Posten</translation>
     </message>
-    <message>
-        <source>Settings</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
-        <source>Not now</source>
-        <translation>Nicht jetzt</translation>
-    </message>
-    <message>
-        <source>Handing over to the upload service…</source>
-        <translation>Wird an den Upload-Dienst übergeben …</translation>
-    </message>
 </context>
 <context>
     <name>SignInPanel</name>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
     <message>
         <source>The account “%1” is ready.</source>
         <translation>Das Konto „%1“ ist bereit.</translation>
@@ -334,8 +331,8 @@ Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</tran
 <context>
     <name>TableRow</name>
     <message>
-        <source>New tag</source>
-        <translation>Neues Tag</translation>
+        <source>Add…</source>
+        <translation>Hinzufügen …</translation>
     </message>
 </context>
 <context>
@@ -500,10 +497,6 @@ Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</tran
         <translation>%1 (%2)</translation>
     </message>
     <message>
-        <source>Retry all that failed</source>
-        <translation>Alle fehlgeschlagenen wiederholen</translation>
-    </message>
-    <message>
         <source>Clear what is shared</source>
         <translation>Geteilte aus der Liste entfernen</translation>
     </message>
@@ -514,6 +507,10 @@ Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</tran
     <message>
         <source>Nothing is being uploaded. What you share shows up here.</source>
         <translation>Es wird nichts hochgeladen. Was Sie teilen, erscheint hier.</translation>
+    </message>
+    <message>
+        <source>Retry all</source>
+        <translation>Alle wiederholen</translation>
     </message>
 </context>
 <context>
@@ -544,10 +541,48 @@ Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</tran
     </message>
 </context>
 <context>
+    <name>korvane::AttachmentsModel</name>
+    <message>
+        <source>only one video at a time can be shared to Vimeo</source>
+        <translation>auf Vimeo kann nur ein Video auf einmal geteilt werden</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more file(s)</source>
+        <translation>
+            <numerusform>und %n weitere Datei</numerusform>
+            <numerusform>und %n weitere Dateien</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>korvane::ServiceAccess</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>korvane::Settings</name>
     <message>
         <source>The setting could not be written. It holds until this window is closed.</source>
         <translation>Die Einstellung konnte nicht gespeichert werden. Sie gilt, bis dieses Fenster geschlossen wird.</translation>
+    </message>
+</context>
+<context>
+    <name>korvane::SheetModel</name>
+    <message>
+        <source>No reason was given.</source>
+        <translation>Es wurde kein Grund genannt.</translation>
+    </message>
+    <message>
+        <source>Nothing was shared. %1
+What you entered is still here: press Post to try again.</source>
+        <translation>Es wurde nichts geteilt. %1
+Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</translation>
     </message>
 </context>
 <context>

@@ -13,22 +13,14 @@
     </message>
 </context>
 <context>
-    <name>AttachmentsModel</name>
+    <name>HandingOver</name>
     <message>
-        <source>only one video at a time can be shared to Vimeo</source>
-        <translation>only one video at a time can be shared to Vimeo</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
+        <source>Handing over to the upload service…</source>
+        <translation>Handing over to the upload service…</translation>
     </message>
 </context>
 <context>
     <name>KeysPanel</name>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
     <message>
         <source>%1 application keys</source>
         <translation>%1 application keys</translation>
@@ -76,6 +68,10 @@
     <message>
         <source>Remove the keys</source>
         <translation>Remove the keys</translation>
+    </message>
+    <message>
+        <source>The secret is in a file that only you can read, since no keyring could be used.</source>
+        <translation>The secret is in a file that only you can read, since no keyring could be used.</translation>
     </message>
 </context>
 <context>
@@ -140,12 +136,19 @@
         <translation>What you share goes out with the account that is checked.</translation>
     </message>
     <message>
-        <source>Remove</source>
-        <translation>Remove</translation>
+        <source>Remove the keys of your application at %1? Accounts that are added already stay; to add another, you need the keys again.</source>
+        <translation>Remove the keys of your application at %1? Accounts that are added already stay; to add another, you need the keys again.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsAlert</name>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
     </message>
     <message>
-        <source>Keep</source>
-        <translation>Keep</translation>
+        <source>Not now</source>
+        <translation>Not now</translation>
     </message>
 </context>
 <context>
@@ -190,6 +193,14 @@
         <source>JPEG, PNG and GIF files always go out as they are. Other pictures, and those sent without metadata, are newly encoded.</source>
         <translation>JPEG, PNG and GIF files always go out as they are. Other pictures, and those sent without metadata, are newly encoded.</translation>
     </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Keep</translation>
+    </message>
 </context>
 <context>
     <name>SharedFile</name>
@@ -213,36 +224,38 @@
 <context>
     <name>SheetBody</name>
     <message>
-        <source>Leave them out</source>
-        <translation>Leave them out</translation>
-    </message>
-    <message>
-        <source>Title of the video</source>
-        <translation>Title of the video</translation>
-    </message>
-    <message>
         <source>Title (optional)</source>
         <translation>Title (optional)</translation>
     </message>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>That does not fit</source>
+        <translation>That does not fit</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Full</translation>
+    </message>
+    <message>
+        <source>Almost full</source>
+        <translation>Almost full</translation>
+    </message>
     <message numerus="yes">
-        <source>Room for %n more letter(s)</source>
+        <source>room for %n more byte(s)</source>
         <translation>
-            <numerusform>Room for %n more letter</numerusform>
-            <numerusform>Room for %n more letters</numerusform>
+            <numerusform>room for %n more byte</numerusform>
+            <numerusform>room for %n more bytes</numerusform>
         </translation>
     </message>
 </context>
 <context>
-    <name>SheetModel</name>
+    <name>SheetNotices</name>
     <message>
-        <source>No reason was given.</source>
-        <translation>No reason was given.</translation>
-    </message>
-    <message>
-        <source>Nothing was shared. %1
-What you entered is still here: press Post to try again.</source>
-        <translation>Nothing was shared. %1
-What you entered is still here: press Post to try again.</translation>
+        <source>Leave them out</source>
+        <translation>Leave them out</translation>
     </message>
 </context>
 <context>
@@ -255,25 +268,9 @@ What you entered is still here: press Post to try again.</translation>
         <source>Post</source>
         <translation>Post</translation>
     </message>
-    <message>
-        <source>Settings</source>
-        <translation>Settings</translation>
-    </message>
-    <message>
-        <source>Not now</source>
-        <translation>Not now</translation>
-    </message>
-    <message>
-        <source>Handing over to the upload service…</source>
-        <translation>Handing over to the upload service…</translation>
-    </message>
 </context>
 <context>
     <name>SignInPanel</name>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
     <message>
         <source>The account “%1” is ready.</source>
         <translation>The account “%1” is ready.</translation>
@@ -334,8 +331,8 @@ What you entered is still here: press Post to try again.</translation>
 <context>
     <name>TableRow</name>
     <message>
-        <source>New tag</source>
-        <translation>New tag</translation>
+        <source>Add…</source>
+        <translation>Add…</translation>
     </message>
 </context>
 <context>
@@ -500,10 +497,6 @@ What you entered is still here: press Post to try again.</translation>
         <translation>%1 (%2)</translation>
     </message>
     <message>
-        <source>Retry all that failed</source>
-        <translation>Retry all that failed</translation>
-    </message>
-    <message>
         <source>Clear what is shared</source>
         <translation>Clear what is shared</translation>
     </message>
@@ -514,6 +507,10 @@ What you entered is still here: press Post to try again.</translation>
     <message>
         <source>Nothing is being uploaded. What you share shows up here.</source>
         <translation>Nothing is being uploaded. What you share shows up here.</translation>
+    </message>
+    <message>
+        <source>Retry all</source>
+        <translation>Retry all</translation>
     </message>
 </context>
 <context>
@@ -544,10 +541,48 @@ What you entered is still here: press Post to try again.</translation>
     </message>
 </context>
 <context>
+    <name>korvane::AttachmentsModel</name>
+    <message>
+        <source>only one video at a time can be shared to Vimeo</source>
+        <translation>only one video at a time can be shared to Vimeo</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more file(s)</source>
+        <translation>
+            <numerusform>and %n more file</numerusform>
+            <numerusform>and %n more files</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>korvane::ServiceAccess</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>korvane::Settings</name>
     <message>
         <source>The setting could not be written. It holds until this window is closed.</source>
         <translation>The setting could not be written. It holds until this window is closed.</translation>
+    </message>
+</context>
+<context>
+    <name>korvane::SheetModel</name>
+    <message>
+        <source>No reason was given.</source>
+        <translation>No reason was given.</translation>
+    </message>
+    <message>
+        <source>Nothing was shared. %1
+What you entered is still here: press Post to try again.</source>
+        <translation>Nothing was shared. %1
+What you entered is still here: press Post to try again.</translation>
     </message>
 </context>
 <context>

@@ -13,22 +13,14 @@
     </message>
 </context>
 <context>
-    <name>AttachmentsModel</name>
+    <name>HandingOver</name>
     <message>
-        <source>only one video at a time can be shared to Vimeo</source>
-        <translation>une seule vidéo à la fois peut être partagée sur Vimeo</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1&#xa0;: %2</translation>
+        <source>Handing over to the upload service…</source>
+        <translation>Remise au service d’envoi…</translation>
     </message>
 </context>
 <context>
     <name>KeysPanel</name>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1&#xa0;: %2</translation>
-    </message>
     <message>
         <source>%1 application keys</source>
         <translation>Clés d’application pour %1</translation>
@@ -76,6 +68,10 @@
     <message>
         <source>Remove the keys</source>
         <translation>Retirer les clés</translation>
+    </message>
+    <message>
+        <source>The secret is in a file that only you can read, since no keyring could be used.</source>
+        <translation>Le secret est dans un fichier que vous seul pouvez lire, car aucun trousseau n’a pu être utilisé.</translation>
     </message>
 </context>
 <context>
@@ -140,12 +136,19 @@
         <translation>Vos partages utilisent le compte coché.</translation>
     </message>
     <message>
-        <source>Remove</source>
-        <translation>Retirer</translation>
+        <source>Remove the keys of your application at %1? Accounts that are added already stay; to add another, you need the keys again.</source>
+        <translation>Retirer les clés de votre application chez %1 ? Les comptes déjà ajoutés restent ; pour en ajouter un autre, vous aurez de nouveau besoin des clés.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsAlert</name>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
     </message>
     <message>
-        <source>Keep</source>
-        <translation>Garder</translation>
+        <source>Not now</source>
+        <translation>Pas maintenant</translation>
     </message>
 </context>
 <context>
@@ -190,6 +193,14 @@
         <source>JPEG, PNG and GIF files always go out as they are. Other pictures, and those sent without metadata, are newly encoded.</source>
         <translation>Les fichiers JPEG, PNG et GIF sont toujours envoyés sans modification. Les autres images, et celles envoyées sans métadonnées, sont réencodées.</translation>
     </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Garder</translation>
+    </message>
 </context>
 <context>
     <name>SharedFile</name>
@@ -213,36 +224,38 @@
 <context>
     <name>SheetBody</name>
     <message>
-        <source>Leave them out</source>
-        <translation>Les laisser de côté</translation>
-    </message>
-    <message>
-        <source>Title of the video</source>
-        <translation>Titre de la vidéo</translation>
-    </message>
-    <message>
         <source>Title (optional)</source>
         <translation>Titre (facultatif)</translation>
     </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>That does not fit</source>
+        <translation>C’est trop long</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Limite atteinte</translation>
+    </message>
+    <message>
+        <source>Almost full</source>
+        <translation>Limite presque atteinte</translation>
+    </message>
     <message numerus="yes">
-        <source>Room for %n more letter(s)</source>
+        <source>room for %n more byte(s)</source>
         <translation>
-            <numerusform>Encore %n lettre possible</numerusform>
-            <numerusform>Encore %n lettres possibles</numerusform>
+            <numerusform>encore %n octet possible</numerusform>
+            <numerusform>encore %n octets possibles</numerusform>
         </translation>
     </message>
 </context>
 <context>
-    <name>SheetModel</name>
+    <name>SheetNotices</name>
     <message>
-        <source>No reason was given.</source>
-        <translation>Aucune raison n’a été donnée.</translation>
-    </message>
-    <message>
-        <source>Nothing was shared. %1
-What you entered is still here: press Post to try again.</source>
-        <translation>Rien n’a été partagé. %1
-Votre saisie est toujours là&#xa0;: appuyez sur «&#xa0;Publier&#xa0;» pour réessayer.</translation>
+        <source>Leave them out</source>
+        <translation>Les laisser de côté</translation>
     </message>
 </context>
 <context>
@@ -255,25 +268,9 @@ Votre saisie est toujours là&#xa0;: appuyez sur «&#xa0;Publier&#xa0;» pour r�
         <source>Post</source>
         <translation>Publier</translation>
     </message>
-    <message>
-        <source>Settings</source>
-        <translation>Réglages</translation>
-    </message>
-    <message>
-        <source>Not now</source>
-        <translation>Pas maintenant</translation>
-    </message>
-    <message>
-        <source>Handing over to the upload service…</source>
-        <translation>Remise au service d’envoi…</translation>
-    </message>
 </context>
 <context>
     <name>SignInPanel</name>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1&#xa0;: %2</translation>
-    </message>
     <message>
         <source>The account “%1” is ready.</source>
         <translation>Le compte «&#xa0;%1&#xa0;» est prêt.</translation>
@@ -334,8 +331,8 @@ Votre saisie est toujours là&#xa0;: appuyez sur «&#xa0;Publier&#xa0;» pour r�
 <context>
     <name>TableRow</name>
     <message>
-        <source>New tag</source>
-        <translation>Nouveau tag</translation>
+        <source>Add…</source>
+        <translation>Ajouter…</translation>
     </message>
 </context>
 <context>
@@ -500,10 +497,6 @@ Votre saisie est toujours là&#xa0;: appuyez sur «&#xa0;Publier&#xa0;» pour r�
         <translation>%1 (%2)</translation>
     </message>
     <message>
-        <source>Retry all that failed</source>
-        <translation>Réessayer tous les échecs</translation>
-    </message>
-    <message>
         <source>Clear what is shared</source>
         <translation>Effacer les éléments partagés</translation>
     </message>
@@ -514,6 +507,10 @@ Votre saisie est toujours là&#xa0;: appuyez sur «&#xa0;Publier&#xa0;» pour r�
     <message>
         <source>Nothing is being uploaded. What you share shows up here.</source>
         <translation>Rien n’est en cours d’envoi. Ce que vous partagez apparaît ici.</translation>
+    </message>
+    <message>
+        <source>Retry all</source>
+        <translation>Tout réessayer</translation>
     </message>
 </context>
 <context>
@@ -544,10 +541,48 @@ Votre saisie est toujours là&#xa0;: appuyez sur «&#xa0;Publier&#xa0;» pour r�
     </message>
 </context>
 <context>
+    <name>korvane::AttachmentsModel</name>
+    <message>
+        <source>only one video at a time can be shared to Vimeo</source>
+        <translation>une seule vidéo à la fois peut être partagée sur Vimeo</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more file(s)</source>
+        <translation>
+            <numerusform>et %n autre fichier</numerusform>
+            <numerusform>et %n autres fichiers</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>korvane::ServiceAccess</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
     <name>korvane::Settings</name>
     <message>
         <source>The setting could not be written. It holds until this window is closed.</source>
         <translation>Le réglage n’a pas pu être enregistré. Il reste valable jusqu’à la fermeture de cette fenêtre.</translation>
+    </message>
+</context>
+<context>
+    <name>korvane::SheetModel</name>
+    <message>
+        <source>No reason was given.</source>
+        <translation>Aucune raison n’a été donnée.</translation>
+    </message>
+    <message>
+        <source>Nothing was shared. %1
+What you entered is still here: press Post to try again.</source>
+        <translation>Rien n’a été partagé. %1
+Votre saisie est toujours là&#xa0;: appuyez sur «&#xa0;Publier&#xa0;» pour réessayer.</translation>
     </message>
 </context>
 <context>

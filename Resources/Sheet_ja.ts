@@ -13,22 +13,14 @@
     </message>
 </context>
 <context>
-    <name>AttachmentsModel</name>
+    <name>HandingOver</name>
     <message>
-        <source>only one video at a time can be shared to Vimeo</source>
-        <translation>Vimeoに共有できる動画は一度に1本です</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
+        <source>Handing over to the upload service…</source>
+        <translation>アップロードサービスに渡しています…</translation>
     </message>
 </context>
 <context>
     <name>KeysPanel</name>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
-    </message>
     <message>
         <source>%1 application keys</source>
         <translation>%1のアプリケーションキー</translation>
@@ -76,6 +68,10 @@
     <message>
         <source>Remove the keys</source>
         <translation>キーを削除</translation>
+    </message>
+    <message>
+        <source>The secret is in a file that only you can read, since no keyring could be used.</source>
+        <translation>キーリングを使用できなかったため、シークレットは自分だけが読めるファイルに保存されています。</translation>
     </message>
 </context>
 <context>
@@ -139,12 +135,19 @@
         <translation>共有にはチェックの付いたアカウントが使われます。</translation>
     </message>
     <message>
-        <source>Remove</source>
-        <translation>削除</translation>
+        <source>Remove the keys of your application at %1? Accounts that are added already stay; to add another, you need the keys again.</source>
+        <translation>%1のアプリケーションのキーを削除しますか？追加済みのアカウントは残りますが、別のアカウントを追加するにはもう一度キーが必要です。</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsAlert</name>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
     </message>
     <message>
-        <source>Keep</source>
-        <translation>残す</translation>
+        <source>Not now</source>
+        <translation>あとで</translation>
     </message>
 </context>
 <context>
@@ -189,6 +192,14 @@
         <source>JPEG, PNG and GIF files always go out as they are. Other pictures, and those sent without metadata, are newly encoded.</source>
         <translation>JPEG、PNG、GIFのファイルは常にそのままアップロードされます。その他の画像と、メタデータなしで送る画像は再エンコードされます。</translation>
     </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>残す</translation>
+    </message>
 </context>
 <context>
     <name>SharedFile</name>
@@ -212,35 +223,37 @@
 <context>
     <name>SheetBody</name>
     <message>
-        <source>Leave them out</source>
-        <translation>これらを除く</translation>
-    </message>
-    <message>
-        <source>Title of the video</source>
-        <translation>動画のタイトル</translation>
-    </message>
-    <message>
         <source>Title (optional)</source>
         <translation>タイトル（任意）</translation>
     </message>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>That does not fit</source>
+        <translation>長すぎて入りません</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>上限に達しました</translation>
+    </message>
+    <message>
+        <source>Almost full</source>
+        <translation>まもなく上限です</translation>
+    </message>
     <message numerus="yes">
-        <source>Room for %n more letter(s)</source>
+        <source>room for %n more byte(s)</source>
         <translation>
-            <numerusform>あと%n文字入力できます</numerusform>
+            <numerusform>あと%nバイト入力できます</numerusform>
         </translation>
     </message>
 </context>
 <context>
-    <name>SheetModel</name>
+    <name>SheetNotices</name>
     <message>
-        <source>No reason was given.</source>
-        <translation>理由は示されませんでした。</translation>
-    </message>
-    <message>
-        <source>Nothing was shared. %1
-What you entered is still here: press Post to try again.</source>
-        <translation>何も共有されませんでした。%1
-入力した内容は残っています。「投稿」を押してもう一度お試しください。</translation>
+        <source>Leave them out</source>
+        <translation>これらを除く</translation>
     </message>
 </context>
 <context>
@@ -253,25 +266,9 @@ What you entered is still here: press Post to try again.</source>
         <source>Post</source>
         <translation>投稿</translation>
     </message>
-    <message>
-        <source>Settings</source>
-        <translation>設定</translation>
-    </message>
-    <message>
-        <source>Not now</source>
-        <translation>あとで</translation>
-    </message>
-    <message>
-        <source>Handing over to the upload service…</source>
-        <translation>アップロードサービスに渡しています…</translation>
-    </message>
 </context>
 <context>
     <name>SignInPanel</name>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
-    </message>
     <message>
         <source>The account “%1” is ready.</source>
         <translation>アカウント「%1」が使えるようになりました。</translation>
@@ -332,8 +329,8 @@ What you entered is still here: press Post to try again.</source>
 <context>
     <name>TableRow</name>
     <message>
-        <source>New tag</source>
-        <translation>新しいタグ</translation>
+        <source>Add…</source>
+        <translation>追加…</translation>
     </message>
 </context>
 <context>
@@ -495,10 +492,6 @@ What you entered is still here: press Post to try again.</source>
         <translation>%1（%2）</translation>
     </message>
     <message>
-        <source>Retry all that failed</source>
-        <translation>失敗したものをすべて再試行</translation>
-    </message>
-    <message>
         <source>Clear what is shared</source>
         <translation>共有済みをリストから消去</translation>
     </message>
@@ -509,6 +502,10 @@ What you entered is still here: press Post to try again.</source>
     <message>
         <source>Nothing is being uploaded. What you share shows up here.</source>
         <translation>アップロード中のものはありません。共有したものはここに表示されます。</translation>
+    </message>
+    <message>
+        <source>Retry all</source>
+        <translation>すべて再試行</translation>
     </message>
 </context>
 <context>
@@ -539,10 +536,47 @@ What you entered is still here: press Post to try again.</source>
     </message>
 </context>
 <context>
+    <name>korvane::AttachmentsModel</name>
+    <message>
+        <source>only one video at a time can be shared to Vimeo</source>
+        <translation>Vimeoに共有できる動画は一度に1本です</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more file(s)</source>
+        <translation>
+            <numerusform>ほか%n件のファイル</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>korvane::ServiceAccess</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
     <name>korvane::Settings</name>
     <message>
         <source>The setting could not be written. It holds until this window is closed.</source>
         <translation>設定を保存できませんでした。このウィンドウを閉じるまで有効です。</translation>
+    </message>
+</context>
+<context>
+    <name>korvane::SheetModel</name>
+    <message>
+        <source>No reason was given.</source>
+        <translation>理由は示されませんでした。</translation>
+    </message>
+    <message>
+        <source>Nothing was shared. %1
+What you entered is still here: press Post to try again.</source>
+        <translation>何も共有されませんでした。%1
+入力した内容は残っています。「投稿」を押してもう一度お試しください。</translation>
     </message>
 </context>
 <context>
