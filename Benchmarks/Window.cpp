@@ -46,6 +46,7 @@ double secondsToFirstFrame(const QString &program, const QStringList &arguments)
             if (!process.waitForReadyRead(20'000))
                 qFatal("%s shows nothing:\n%s", qPrintable(program), said.constData());
             said += process.readAll();
+            if (said.contains("qrc:/")) qFatal("a page is not shown:\n%s", said.constData());
         }
     });
     process.kill();

@@ -16,7 +16,7 @@ T.Button {
     rightPadding: leftPadding
     topPadding: 4
     bottomPadding: 4
-    focusPolicy: 1 // Qt.TabFocus (see Theme): a tap leaves the keyboard, and what is being composed, where it is
+    focusPolicy: Theme.tabFocus // a tap leaves the keyboard, and what is being composed, where it is
     opacity: enabled ? 1 : 0.45
     Accessible.role: Accessible.Button
     Accessible.name: text

@@ -33,7 +33,7 @@ QtObject {
     readonly property real widestPage: Math.max(640, lineHeight * 34)
 
     readonly property SystemPalette _palette: SystemPalette {}
-    // The application's font. What shows first does without names of "Qt": they would take a third of the time that the
-    // window needs to appear, since the engine looks through all that "Qt" has.
+    // What shows first does without names of "Qt": the engine would look through all that "Qt" has first.
+    readonly property int tabFocus: 1 // Qt.TabFocus
     readonly property FontMetrics _metrics: FontMetrics {}
 }

@@ -17,9 +17,10 @@ protected:
     // What can be used just now.
     static void collect(QQuickItem *item, QList<QQuickItem *> &found) {
         if (!item->isVisible() || !item->isEnabled()) return;
-        if (item->inherits("QQuickText"))
+        if (item->inherits("QQuickText")) {
             EXPECT_EQ(item->property("textFormat").toInt(), Qt::PlainText)
                 << "names from elsewhere are not marked up: " << qPrintable(item->property("text").toString());
+        }
         if (item->activeFocusOnTab() || item->inherits("QQuickAbstractButton")) found.append(item);
         for (QQuickItem *child : item->childItems())
             collect(child, found);

@@ -129,9 +129,9 @@ TEST_F(ShareWindow, ATitleThatIsTooLongIsNotTakenHoweverItIsEntered) {
     EXPECT_FALSE(sheet().isRoomShort());
     user->composes({}, QString(129, u'y'));
     EXPECT_TRUE(holds({}));
-    EXPECT_TRUE(user->sees(QStringLiteral("That does not fit, room for 128 more byte(s)")));
+    EXPECT_TRUE(user->sees(QStringLiteral("That does not fit, room for 128 more bytes")));
     user->composes({}, most);
-    EXPECT_TRUE(user->sees(QStringLiteral("Almost full, room for 2 more byte(s)")));
+    EXPECT_TRUE(user->sees(QStringLiteral("Almost full, room for 2 more bytes")));
     user->types(QStringLiteral("€"));
     EXPECT_TRUE(holds(most)) << "three bytes do not fit";
     EXPECT_EQ(user->focused()->property("cursorPosition").toInt(), 126) << "the cursor stays";

@@ -147,7 +147,7 @@ TEST_F(ShareWindow, FilesThatCannotBeUsedAreNamedAndLeftOutOnRequest) {
     ASSERT_TRUE(waitFor([&] { return !sheet().attachments()->isPreparing(); }));
     const QStringList lines = sheet().attachments()->problems().split(u'\n');
     EXPECT_EQ(lines.size(), 6);
-    EXPECT_EQ(lines.last(), QStringLiteral("and 495 more file(s)"));
+    EXPECT_EQ(lines.last(), QStringLiteral("and 495 more files"));
     close();
 
     const QString first = film();
