@@ -7,6 +7,7 @@ namespace korvane {
 namespace {
 
 constexpr int lookInterval = 500; // milliseconds
+constexpr int mostLooks = 10;     // at a window that is seen but does not draw
 
 // The first frame that comes may have been begun before the change.
 class FrameWait : public QObject {
@@ -25,7 +26,8 @@ private:
         _end();
     }
     void _lookWhetherSeen() {
-        if (!_window.isExposed()) _end();
+        if (!_window.isExposed() || ++_looks == mostLooks) return _end();
+        _window.update();
     }
     void _end() {
         if (!_work) return;
@@ -38,6 +40,7 @@ private:
     std::function<void()> _work;
     QTimer _timer;
     int _frames = 0;
+    int _looks = 0;
 };
 
 } // namespace

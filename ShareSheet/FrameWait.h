@@ -8,7 +8,8 @@
 namespace korvane {
 
 // Calls it once all that is changed by now is on the screen, from the event loop; after half a second also where there
-// is nothing to see of the window, as while it is covered. Not after the window's end. Thread: main.
+// is nothing to see of the window, as while it is covered, and after five where it is seen and does not draw. Not after
+// the window's end. Thread: main.
 void afterNextFrame(QQuickWindow &window, std::function<void()> work);
 
 } // namespace korvane

@@ -41,6 +41,12 @@ void collectPlaces(const QQuickItem &item, std::vector<QPointF> &places) {
         collectPlaces(*child, places);
 }
 
+// Whether a page is on its way, however slowly it is drawn.
+bool isTurning(const QQuickItem &item) {
+    if (item.inherits("QQuickStackView") && item.property("busy").toBool()) return true;
+    return std::ranges::any_of(item.childItems(), [](const QQuickItem *child) { return isTurning(*child); });
+}
+
 } // namespace
 
 QString WindowUser::nameOf(QQuickItem *item) {
@@ -163,7 +169,7 @@ void WindowUser::waitsUntilStill() const {
             collectPlaces(*_window.contentItem(), now);
             if (now != places || !stillSince.isValid()) stillSince.start();
             places = std::move(now);
-            return stillSince.elapsed() > twoFrames;
+            return stillSince.elapsed() > twoFrames && !isTurning(*_window.contentItem());
         },
         3000);
 }
