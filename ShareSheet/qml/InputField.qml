@@ -14,7 +14,8 @@ T.TextField {
     rightPadding: Theme.spacing
     topPadding: Theme.spacing * 0.5
     bottomPadding: Theme.spacing * 0.5
-    font: Theme.font
+    font.family: Theme.fontFamily
+    font.pointSize: Theme.fontPointSize
     color: Theme.text
     placeholderTextColor: Theme.secondaryText
     selectionColor: Theme.accent

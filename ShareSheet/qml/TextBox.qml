@@ -15,7 +15,8 @@ T.TextArea {
     rightPadding: Theme.margin
     topPadding: Theme.spacing
     bottomPadding: Theme.spacing
-    font: Theme.font
+    font.family: Theme.fontFamily
+    font.pointSize: Theme.fontPointSize
     color: Theme.text
     placeholderTextColor: Theme.secondaryText
     selectionColor: Theme.accent

@@ -19,9 +19,11 @@ QtObject {
     readonly property color shade: isDark ? "#b3000000" : "#80000000" // over what cannot be used just now
     readonly property color focus: accent
 
-    readonly property font font: _metrics.font
     readonly property real lineHeight: Math.ceil(_metrics.height)
     readonly property real fontPixelSize: _metrics.font.pixelSize > 0 ? _metrics.font.pixelSize : Math.round(lineHeight * 0.84)
+    // For text fields, which do not take the application's font by themselves.
+    readonly property string fontFamily: _metrics.font.family
+    readonly property real fontPointSize: _metrics.font.pointSize > 0 ? _metrics.font.pointSize : fontPixelSize * 0.75
     readonly property real smallFontPixelSize: Math.round(fontPixelSize * 0.88)
     readonly property real largeFontPixelSize: Math.round(fontPixelSize * 1.15)
     readonly property real spacing: Math.round(Math.min(12, lineHeight * 0.55))
