@@ -65,7 +65,8 @@ void CallbackListener::_welcome() {
         QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
         QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] { _read(*socket); });
         QTimer::singleShot(patience, socket, [socket] { socket->abort(); });
-        const auto open = _server->findChildren<QTcpSocket *>(Qt::FindDirectChildrenOnly);
+        auto open = _server->findChildren<QTcpSocket *>(Qt::FindDirectChildrenOnly);
+        open.removeIf([](const auto *one) { return one->state() != QTcpSocket::ConnectedState; }); // about to go
         if (open.size() > mostConnections) open.first()->abort();
         _read(*socket);
     }
