@@ -48,9 +48,12 @@ Item {
             Accessible.name: previews.isOne ? name : qsTr("%1 of %2: %3").arg(index + 1).arg(strip.count).arg(name)
             Accessible.description: problem
 
-            FocusRing {
-                control: strip
-                visible: strip.activeFocus && tile.ListView.isCurrentItem
+            Loader {
+                anchors.fill: parent
+                active: strip.activeFocus && tile.ListView.isCurrentItem
+                sourceComponent: FocusRing {
+                    control: strip
+                }
             }
         }
     }

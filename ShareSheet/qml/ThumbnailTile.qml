@@ -32,16 +32,18 @@ Rectangle {
         sourceSize.width: pixels
         sourceSize.height: pixels
     }
-    Text {
-        textFormat: Text.PlainText
+    Loader {
         anchors.centerIn: parent
-        text: tile.isUnusable ? "!" : "▶"
-        visible: tile.isUnusable || tile.isVideo
-        color: tile.isUnusable ? Theme.problem : "white"
-        style: tile.isUnusable ? Text.Normal : Text.Outline
-        styleColor: "#80000000"
-        font.pixelSize: Theme.lineHeight * 1.6
-        font.bold: true
-        Accessible.ignored: true
+        active: tile.isUnusable || tile.isVideo
+        sourceComponent: Text {
+            textFormat: Text.PlainText
+            text: tile.isUnusable ? "!" : "▶"
+            color: tile.isUnusable ? Theme.problem : "white"
+            style: tile.isUnusable ? Text.Normal : Text.Outline
+            styleColor: "#80000000"
+            font.pixelSize: Theme.lineHeight * 1.6
+            font.bold: true
+            Accessible.ignored: true
+        }
     }
 }
