@@ -34,7 +34,7 @@ std::vector<Upload> uploadsOf(const QVariant &value) {
 
 } // namespace
 
-UploadsClient::UploadsClient() : _connection(FlickrRemoteServiceName, true) {}
+UploadsClient::UploadsClient() : _connection(FlickrRemoteServiceName) {}
 
 bool UploadsClient::connectToBus(std::optional<NSError> *error) {
     return _connection.open(greetingMilliseconds, error) == ServiceConnection::Answered;

@@ -517,6 +517,10 @@
         <translation>Der Upload-Dienst (korvane-uploadd) ist nicht erreichbar: %1</translation>
     </message>
     <message>
+        <source>The upload service (korvane-uploadd) does not answer. End it and try again: it goes on with its uploads when it is started anew.</source>
+        <translation>Der Upload-Dienst (korvane-uploadd) antwortet nicht. Beenden Sie ihn und versuchen Sie es noch einmal: Wenn er neu gestartet wird, setzt er seine Uploads fort.</translation>
+    </message>
+    <message>
         <source>It was broken off.</source>
         <translation>Der Vorgang wurde abgebrochen.</translation>
     </message>

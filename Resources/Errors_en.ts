@@ -517,6 +517,10 @@
         <translation>The upload service (korvane-uploadd) cannot be reached: %1</translation>
     </message>
     <message>
+        <source>The upload service (korvane-uploadd) does not answer. End it and try again: it goes on with its uploads when it is started anew.</source>
+        <translation>The upload service (korvane-uploadd) does not answer. End it and try again: it goes on with its uploads when it is started anew.</translation>
+    </message>
+    <message>
         <source>It was broken off.</source>
         <translation>It was broken off.</translation>
     </message>

@@ -514,6 +514,10 @@
         <translation>アップロードサービス（korvane-uploadd）に接続できません：%1</translation>
     </message>
     <message>
+        <source>The upload service (korvane-uploadd) does not answer. End it and try again: it goes on with its uploads when it is started anew.</source>
+        <translation>アップロードサービス（korvane-uploadd）が応答しません。終了してから、もう一度お試しください。再び起動されると、アップロードの続きを行います。</translation>
+    </message>
+    <message>
         <source>It was broken off.</source>
         <translation>中断されました。</translation>
     </message>

@@ -3,6 +3,7 @@
 
 #include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Social/RemoteServiceError.h"
+#include "Platform/Social/ServicePulse.h"
 #include "Platform/Social/ServiceSettings.h"
 #include "Platform/Social/SessionBus.h"
 #include "Platform/Social/UploadsInterface.h"
@@ -11,6 +12,7 @@
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
+#include <QElapsedTimer>
 #include <QUuid>
 
 #include <algorithm>
@@ -29,9 +31,8 @@ void fail(std::optional<NSError> *error, const QString &text) {
 
 } // namespace
 
-ServiceConnection::ServiceConnection(QString serviceName, bool mayBeInterrupted)
-    : _serviceName(std::move(serviceName)), _mayBeInterrupted(mayBeInterrupted),
-      _connectionName(QUuid::createUuid().toString()) {}
+ServiceConnection::ServiceConnection(QString serviceName)
+    : _serviceName(std::move(serviceName)), _connectionName(QUuid::createUuid().toString()) {}
 
 ServiceConnection::Outcome ServiceConnection::open(int milliseconds, std::optional<NSError> *error) {
     close();
@@ -68,23 +69,35 @@ ServiceConnection::Outcome ServiceConnection::call(const QString &path, const QS
                                                    QVariantList *answer, std::optional<NSError> *error) const {
     auto message = QDBusMessage::createMethodCall(_serviceName, path, interface, member);
     message.setArguments(arguments);
-    const QDBusMessage reply = _mayBeInterrupted ? _replyUnlessInterrupted(message, milliseconds)
-                                                 : bus().call(message, QDBus::Block, milliseconds);
+    const QDBusMessage reply = _replyTo(message, milliseconds);
     if (reply.type() == QDBusMessage::ReplyMessage) {
         *answer = reply.arguments();
         return Answered;
     }
-    fail(error, localizedText("The upload service (korvane-uploadd) cannot be reached: %1", reply.errorMessage()));
     const auto type = QDBusError(reply).type();
+    fail(error,
+         type == QDBusError::TimedOut
+             ? reply.errorMessage()
+             : localizedText("The upload service (korvane-uploadd) cannot be reached: %1", reply.errorMessage()));
     return type == QDBusError::NoReply || type == QDBusError::Disconnected ? Lost : Failed;
 }
 
-// Nothing but the reply wakes who waits for it, not even the connection's end.
-QDBusMessage ServiceConnection::_replyUnlessInterrupted(const QDBusMessage &message, int milliseconds) const {
+// Nothing but the reply wakes who waits for it, not even the connection's end, so this looks for it: soon after it
+// came, and seldom where it takes long.
+QDBusMessage ServiceConnection::_replyTo(const QDBusMessage &message, int milliseconds) const {
     const QDBusPendingCall call = bus().asyncCall(message, milliseconds);
-    for (auto pause = shortestPause; !call.isFinished(); pause = std::min(2 * pause, longestPause)) {
+    ServicePulse pulse(bus(), _serviceName);
+    QElapsedTimer waited;
+    waited.start();
+    while (!call.isFinished()) {
         if (_isInterrupted) return QDBusMessage::createError(QDBusError::NoReply, localizedText("It was broken off."));
-        std::this_thread::sleep_for(pause);
+        if (milliseconds == untilAnswered && pulse.isLost())
+            return QDBusMessage::createError(
+                QDBusError::TimedOut,
+                localizedText("The upload service (korvane-uploadd) does not answer. End it and try again: it goes on "
+                              "with its uploads when it is started anew."));
+        const std::chrono::nanoseconds pause(waited.nsecsElapsed() / 8);
+        std::this_thread::sleep_for(std::clamp<std::chrono::nanoseconds>(pause, shortestPause, longestPause));
     }
     return call.reply();
 }

@@ -9,6 +9,7 @@
 #include <QVariantList>
 
 #include <atomic>
+#include <limits>
 #include <optional>
 
 namespace korvane {
@@ -23,8 +24,11 @@ public:
         Lost    // with the error placed: service or bus went away, and nobody knows how far the call came
     };
 
+    // In place of milliseconds: as long as the service is alive; a call to one that is not ends as Failed.
+    static constexpr int untilAnswered = std::numeric_limits<int>::max();
+
     // serviceName: the bus name under which the service is reached and started.
-    explicit ServiceConnection(QString serviceName, bool mayBeInterrupted = false);
+    explicit ServiceConnection(QString serviceName);
     ~ServiceConnection() { close(); }
     ServiceConnection(const ServiceConnection &) = delete;
     ServiceConnection &operator=(const ServiceConnection &) = delete;
@@ -34,7 +38,7 @@ public:
     Outcome open(int milliseconds, std::optional<NSError> *error);
     void close();
     bool isOpen() const { return _isOpen; }
-    // Where that may be, a call that is under way ends as Lost, and so do all after it. Thread: any.
+    // A call that is under way ends as Lost, and so do all after it. Thread: any.
     void interrupt() { _isInterrupted = true; }
     QDBusConnection bus() const { return QDBusConnection(_connectionName); }
 
@@ -43,11 +47,9 @@ public:
 
 private:
     Outcome _agreeOnSettings(int milliseconds, std::optional<NSError> *error) const;
-
-    QDBusMessage _replyUnlessInterrupted(const QDBusMessage &message, int milliseconds) const;
+    QDBusMessage _replyTo(const QDBusMessage &message, int milliseconds) const;
 
     const QString _serviceName;
-    const bool _mayBeInterrupted;
     const QString _connectionName;
     bool _isOpen = false;
     std::atomic<bool> _isInterrupted = false;
