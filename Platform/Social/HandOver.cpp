@@ -20,7 +20,7 @@ void HandOver::run(const QVariantList &records) {
 
 // The data goes into a file beside the service's spool, so both must have agreed on the folder before.
 ServiceConnection::Outcome HandOver::_attempt(const QVariantList &records) {
-    const auto opened = _connection.open(ServiceConnection::untilAnswered, &error);
+    const auto opened = _connection.open(&error);
     if (opened != ServiceConnection::Answered) return opened;
     if (!_message) _message = WireRecord::encode(records, ServiceSettings::current().spoolFolder, &error);
     return _message ? _send() : ServiceConnection::Failed;
@@ -32,9 +32,8 @@ ServiceConnection::Outcome HandOver::_send() {
     const QVariant argument = _interface.argument == NSXPCInterface::Records ? QVariant::fromValue(_message->records)
                                                                              : _message->records.value(0);
     QVariantList reply;
-    const auto outcome =
-        _connection.call(objectPathOfService(_serviceName), _serviceName, _interface.operation,
-                         {_id, argument, QVariant::fromValue(files)}, ServiceConnection::untilAnswered, &reply, &error);
+    const auto outcome = _connection.call(objectPathOfService(_serviceName), _serviceName, _interface.operation,
+                                          {_id, argument, QVariant::fromValue(files)}, &reply, &error);
     if (outcome != ServiceConnection::Answered) return outcome;
     success = reply.value(0).toBool();
     const auto dictionary = qdbus_cast<QVariantMap>(reply.value(1));

@@ -17,11 +17,13 @@
 
 #include <algorithm>
 #include <chrono>
+#include <limits>
 #include <thread>
 
 namespace korvane {
 namespace {
 
+constexpr int noLimit = std::numeric_limits<int>::max(); // milliseconds
 constexpr std::chrono::microseconds shortestPause(100);
 constexpr std::chrono::microseconds longestPause(20'000);
 
@@ -34,7 +36,7 @@ void fail(std::optional<NSError> *error, const QString &text) {
 ServiceConnection::ServiceConnection(QString serviceName)
     : _serviceName(std::move(serviceName)), _connectionName(QUuid::createUuid().toString()) {}
 
-ServiceConnection::Outcome ServiceConnection::open(int milliseconds, std::optional<NSError> *error) {
+ServiceConnection::Outcome ServiceConnection::open(std::optional<NSError> *error) {
     close();
     const auto address = SessionBus::addressStartingService(error);
     if (!address) return Failed;
@@ -42,15 +44,15 @@ ServiceConnection::Outcome ServiceConnection::open(int milliseconds, std::option
     const auto bus = QDBusConnection::connectToBus(*address, _connectionName);
     if (!bus.isConnected())
         fail(error, localizedText("The session bus cannot be reached: %1", bus.lastError().message()));
-    const Outcome outcome = bus.isConnected() ? _agreeOnSettings(milliseconds, error) : Failed;
+    const Outcome outcome = bus.isConnected() ? _agreeOnSettings(error) : Failed;
     if (outcome != Answered) close();
     return outcome;
 }
 
-ServiceConnection::Outcome ServiceConnection::_agreeOnSettings(int milliseconds, std::optional<NSError> *error) const {
+ServiceConnection::Outcome ServiceConnection::_agreeOnSettings(std::optional<NSError> *error) const {
     QVariantList answer;
     const Outcome outcome = call(UploadsInterface::path(), QStringLiteral("org.freedesktop.DBus.Properties"),
-                                 QStringLiteral("GetAll"), {UploadsInterface::name()}, milliseconds, &answer, error);
+                                 QStringLiteral("GetAll"), {UploadsInterface::name()}, &answer, error);
     if (outcome != Answered) return outcome;
     const auto service = ServiceSettings::fromDictionary(qdbus_cast<QVariantMap>(answer.value(0)));
     const auto difference = ServiceSettings::current().difference(service);
@@ -65,11 +67,11 @@ void ServiceConnection::close() {
 }
 
 ServiceConnection::Outcome ServiceConnection::call(const QString &path, const QString &interface, const QString &member,
-                                                   const QVariantList &arguments, int milliseconds,
-                                                   QVariantList *answer, std::optional<NSError> *error) const {
+                                                   const QVariantList &arguments, QVariantList *answer,
+                                                   std::optional<NSError> *error) const {
     auto message = QDBusMessage::createMethodCall(_serviceName, path, interface, member);
     message.setArguments(arguments);
-    const QDBusMessage reply = _replyTo(message, milliseconds);
+    const QDBusMessage reply = _replyTo(message);
     if (reply.type() == QDBusMessage::ReplyMessage) {
         *answer = reply.arguments();
         return Answered;
@@ -84,14 +86,14 @@ ServiceConnection::Outcome ServiceConnection::call(const QString &path, const QS
 
 // Nothing but the reply wakes who waits for it, not even the connection's end, so this looks for it: soon after it
 // came, and seldom where it takes long.
-QDBusMessage ServiceConnection::_replyTo(const QDBusMessage &message, int milliseconds) const {
-    const QDBusPendingCall call = bus().asyncCall(message, milliseconds);
+QDBusMessage ServiceConnection::_replyTo(const QDBusMessage &message) const {
+    const QDBusPendingCall call = bus().asyncCall(message, noLimit);
     ServicePulse pulse(bus(), _serviceName);
     QElapsedTimer waited;
     waited.start();
     while (!call.isFinished()) {
         if (_isInterrupted) return QDBusMessage::createError(QDBusError::NoReply, localizedText("It was broken off."));
-        if (milliseconds == untilAnswered && pulse.isLost())
+        if (pulse.isLost())
             return QDBusMessage::createError(
                 QDBusError::TimedOut,
                 localizedText("The upload service (korvane-uploadd) does not answer. End it and try again: it goes on "

@@ -9,13 +9,12 @@
 #include <QVariantList>
 
 #include <atomic>
-#include <limits>
 #include <optional>
 
 namespace korvane {
 
 // On a connection of its own, so that the end of the bus is an error and no hang. Errors are of
-// RemoteServiceErrorDomain. Thread: the one that made it, alone; calls block.
+// RemoteServiceErrorDomain. Thread: the one that made it, alone; calls block as long as the service is alive.
 class ServiceConnection {
 public:
     enum Outcome {
@@ -23,9 +22,6 @@ public:
         Failed, // with the error placed; the service has not acted on the call
         Lost    // with the error placed: service or bus went away, and nobody knows how far the call came
     };
-
-    // In place of milliseconds: as long as the service is alive; a call to one that is not ends as Failed.
-    static constexpr int untilAnswered = std::numeric_limits<int>::max();
 
     // serviceName: the bus name under which the service is reached and started.
     explicit ServiceConnection(QString serviceName);
@@ -35,7 +31,7 @@ public:
 
     // Connects, anew if it was connected, starting the service where it is not running. A service with another queue or
     // other hosts is not the one that the caller means: Failed, naming the difference.
-    Outcome open(int milliseconds, std::optional<NSError> *error);
+    Outcome open(std::optional<NSError> *error);
     void close();
     bool isOpen() const { return _isOpen; }
     // A call that is under way ends as Lost, and so do all after it. Thread: any.
@@ -43,11 +39,11 @@ public:
     QDBusConnection bus() const { return QDBusConnection(_connectionName); }
 
     Outcome call(const QString &path, const QString &interface, const QString &member, const QVariantList &arguments,
-                 int milliseconds, QVariantList *answer, std::optional<NSError> *error) const;
+                 QVariantList *answer, std::optional<NSError> *error) const;
 
 private:
-    Outcome _agreeOnSettings(int milliseconds, std::optional<NSError> *error) const;
-    QDBusMessage _replyTo(const QDBusMessage &message, int milliseconds) const;
+    Outcome _agreeOnSettings(std::optional<NSError> *error) const;
+    QDBusMessage _replyTo(const QDBusMessage &message) const;
 
     const QString _serviceName;
     const QString _connectionName;
