@@ -87,7 +87,8 @@ Verdict FailureClassifier::verdictOnFlickrRun(const RunOutcome &outcome, bool wa
     if (error.domain() == FlickrResponseErrorDomain) return verdictOnAnswer(error, outcome.lastRequest.httpStatus);
     if (error.domain() == FlickrPostErrorDomain)
         return Verdict::failed(
-            error, localizedText("The photo is no longer in the photo library. Share it again from where it is now."));
+            error, localizedText("The photo %1 is no longer in the photo library. Share it again from where it is now.",
+                                 error.localizedDescription()));
     return Verdict::failed(error);
 }
 
