@@ -3,6 +3,7 @@
 #include "Tests/Accounts/AccountsFixture.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace korvane::test {
 namespace {
@@ -38,6 +39,25 @@ TEST_F(AccountStore, KeepsAccountsInOrderAndTheirSecretsOutOfTheList) {
     EXPECT_FALSE(says(home.contents(accounts), "-key"));
     EXPECT_FALSE(says(log.lines().join(u' '), "hush"));
     EXPECT_EQ(log.lines().filter(QStringLiteral("credentials.json")).size(), 1);
+}
+
+TEST_F(AccountStore, KeepsOthersOutOfTheFileOfSecrets) {
+    ASSERT_TRUE(add(flickr, "ada"));
+    const QByteArray path = home.path(credentials).toUtf8();
+    ASSERT_EQ(::chmod(path.constData(), 0644), 0);
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(store.accountInUse(flickr.identifier())->credential(), credentialOf("ada"));
+    struct stat status;
+    ASSERT_EQ(::stat(path.constData(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0600U);
+    EXPECT_EQ(log.lines().filter(QStringLiteral("could be read by other users")).size(), 1);
+
+    if (::chown(path.constData(), 1, 1) != 0) GTEST_SKIP() << "only root can give it to somebody else";
+    std::optional<NSError> error;
+    EXPECT_EQ(store.accountInUse(flickr.identifier())->credential(&error), std::nullopt);
+    EXPECT_TRUE(says(error, "belongs to another user"));
+    EXPECT_EQ(add(flickr, "eva", "eva", &error), nullptr);
+    EXPECT_FALSE(says(home.contents(credentials), "eva-"));
 }
 
 TEST_F(AccountStore, ReplacesTheCredentialOfAKnownAccountAndRemovesItWithTheAccount) {
