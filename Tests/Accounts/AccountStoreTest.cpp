@@ -125,15 +125,39 @@ TEST_F(AccountStore, SkipsAndKeepsEntriesThatItDoesNotUnderstand) {
     EXPECT_TRUE(says(home.contents(accounts), "\"later\""));
 }
 
-TEST_F(AccountStore, LeavesNoSecretBehindWhenTheListCannotBeWritten) {
-    const QByteArray damaged = R"({"accounts": "none"})";
+TEST_F(AccountStore, KeepsADamagedListAsideAndSaysSoUntilAnAccountIsAdded) {
+    for (const QByteArray &damaged : {R"({"accounts": 7})", R"({"accounts": {"a": [1]}})", "{\"acc"}) {
+        const QString aside = accounts + QStringLiteral(".damaged");
+        QFile::remove(home.path(aside));
+        home.file(accounts, damaged);
+        for (int i = 0; i < 2; ++i) {
+            std::optional<NSError> error;
+            EXPECT_TRUE(store.accountsWithAccountType(flickr, &error).empty());
+            EXPECT_TRUE(says(error, home.path(aside).toUtf8() + ". Sign in again")) << damaged.constData();
+        }
+        EXPECT_EQ(home.contents(aside), damaged);
+        ASSERT_TRUE(add(flickr, "ada"));
+        std::optional<NSError> error;
+        EXPECT_TRUE(store.accountsWithAccountType(vimeo, &error).empty());
+        EXPECT_FALSE(error);
+    }
+    home.file(accounts, R"({"accounts": [7]})");
+    std::optional<NSError> error;
+    EXPECT_TRUE(store.accountsWithAccountType(flickr, &error).empty());
+    EXPECT_TRUE(says(error, "No account in"));
     ASSERT_TRUE(add(flickr, "ada"));
-    home.file(accounts, damaged);
+    EXPECT_TRUE(says(home.contents(accounts), "7,")) << "not ours to throw away";
+}
+
+TEST_F(AccountStore, LeavesNoSecretBehindWhenTheListCannotBeWritten) {
+    ASSERT_TRUE(add(flickr, "ada"));
+    ASSERT_TRUE(QFile::remove(home.path(accounts)));
+    ASSERT_TRUE(QFile::link(home.path(u"no/such/folder"), home.path(accounts)));
     std::optional<NSError> error;
     EXPECT_EQ(add(flickr, "eva", "eva", &error), nullptr);
-    EXPECT_EQ(error->code(), ACErrorAccountListDamaged);
+    EXPECT_TRUE(says(error, "could not be written"));
+    EXPECT_TRUE(says(home.contents(credentials), "ada-"));
     EXPECT_FALSE(says(home.contents(credentials), "eva-"));
-    EXPECT_EQ(home.contents(accounts), damaged);
 }
 
 } // namespace
