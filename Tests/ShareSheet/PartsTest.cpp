@@ -226,3 +226,15 @@ TEST(Thumbnails, ShowPhotosUprightAndVideosByAFrame) {
     EXPECT_GT(frame.pixelColor(32, 18).red(), 200);
     EXPECT_LT(frame.pixelColor(32, 18).blue(), 60);
 }
+
+TEST(Thumbnails, LargerThanAProgramMaySendAreNotShown) {
+    TemporaryHome home;
+    for (const qint64 size : {3 << 20, 5 << 20}) {
+        const QByteArray picture = home.file("picture.jpg", dataBytes("orientation-1.jpg") + QByteArray(size, '\0'));
+        const QByteArray program = home.file("bin/ffmpeg", "#!/bin/sh\nexec cat " + picture + '\n');
+        ASSERT_TRUE(QFile::setPermissions(QFile::decodeName(program), QFileDevice::ReadUser | QFileDevice::ExeUser));
+        home.setEnvironment("KORVANE_FFMPEG", program);
+        const QImage image = ThumbnailMaker::make({.path = picture, .isVideo = true, .edge = 32}, {});
+        EXPECT_EQ(image.isNull(), size > 4 << 20) << size;
+    }
+}
