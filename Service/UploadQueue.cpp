@@ -181,8 +181,7 @@ bool UploadQueue::_pinAccount(UploadJob &job) {
 }
 
 void UploadQueue::_waitForSignIn(UploadJob &job) {
-    const QString text = localizedText("There is no %1 account. Add one with: korvane accounts add %2",
-                                       nameOfService(job.service), job.service);
+    const QString text = localizedText("There is no %1 account.", nameOfService(job.service));
     _apply({UploadState::Waiting, WaitReason::SignIn,
             NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable, text)},
            job);

@@ -96,6 +96,12 @@ TEST(URLConnection, GivesEachTransportFailureItsCode) {
         {"closed without an answer", answersWith(""), NSURLErrorNetworkConnectionLost},
         {"answer breaks off", answersWith("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nhalf"),
          NSURLErrorNetworkConnectionLost},
+        {"many headers", answersWith("HTTP/1.1 200 OK\r\n" + QByteArray("X-More: and more\r\n").repeated(100'000)),
+         NSURLErrorDataLengthExceedsMaximum},
+        {"a long header", answersWith("HTTP/1.1 200 OK\r\nX-More: " + QByteArray(2'000'000, 'x')),
+         NSURLErrorDataLengthExceedsMaximum},
+        {"no HTTP", answersWith("220 mail.example.org ESMTP\r\n"), NSURLErrorBadServerResponse},
+        {"no length", answersWith("HTTP/1.1 200 OK\r\nContent-Length: some\r\n\r\n"), NSURLErrorBadServerResponse},
         {"silence", silence, NSURLErrorTimedOut},
     };
     for (const auto &[what, script, code] : cases) {
