@@ -365,12 +365,12 @@
         <translation>Es besteht keine Netzwerkverbindung. Stellen Sie eine her und melden Sie sich dann erneut an.</translation>
     </message>
     <message>
-        <source>There is no safe connection to %1 (%2). Check that date and time of this computer are right, then sign in again.</source>
-        <translation>Es besteht keine sichere Verbindung zu %1 (%2). Prüfen Sie Datum und Uhrzeit dieses Computers und melden Sie sich dann erneut an.</translation>
+        <source>There is no safe connection to %1: %2 Check that date and time of this computer are right, then sign in again.</source>
+        <translation>Es besteht keine sichere Verbindung zu %1: %2 Prüfen Sie Datum und Uhrzeit dieses Computers und melden Sie sich dann erneut an.</translation>
     </message>
     <message>
-        <source>%1 cannot be reached (%2). Check the network connection, then sign in again.</source>
-        <translation>%1 ist nicht erreichbar (%2). Prüfen Sie die Netzwerkverbindung und melden Sie sich dann erneut an.</translation>
+        <source>%1 cannot be reached: %2 Check the network connection, then sign in again.</source>
+        <translation>%1 ist nicht erreichbar: %2 Prüfen Sie die Netzwerkverbindung und melden Sie sich dann erneut an.</translation>
     </message>
     <message>
         <source>%1 does not take the application's key, or the secret does not belong to it. Check both and sign in again.</source>
@@ -459,6 +459,34 @@
     <message>
         <source>The upload was stopped.</source>
         <translation>Der Upload wurde angehalten.</translation>
+    </message>
+    <message>
+        <source>There is no network connection.</source>
+        <translation>Es besteht keine Netzwerkverbindung.</translation>
+    </message>
+    <message>
+        <source>The proxy server was not found.</source>
+        <translation>Der Proxyserver wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>No server with the name %1 was found.</source>
+        <translation>Es wurde kein Server mit dem Namen %1 gefunden.</translation>
+    </message>
+    <message>
+        <source>No connection to %1 could be made.</source>
+        <translation>Es konnte keine Verbindung zu %1 hergestellt werden.</translation>
+    </message>
+    <message>
+        <source>The connection broke off.</source>
+        <translation>Die Verbindung ist abgebrochen.</translation>
+    </message>
+    <message>
+        <source>A secure connection could not be made.</source>
+        <translation>Es konnte keine sichere Verbindung hergestellt werden.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not trusted.</source>
+        <translation>Dem Zertifikat von %1 wird nicht vertraut.</translation>
     </message>
     <message>
         <source>The web service did not respond in time.</source>

@@ -365,12 +365,12 @@
         <translation>There is no network connection. Connect, then sign in again.</translation>
     </message>
     <message>
-        <source>There is no safe connection to %1 (%2). Check that date and time of this computer are right, then sign in again.</source>
-        <translation>There is no safe connection to %1 (%2). Check that date and time of this computer are right, then sign in again.</translation>
+        <source>There is no safe connection to %1: %2 Check that date and time of this computer are right, then sign in again.</source>
+        <translation>There is no safe connection to %1: %2 Check that date and time of this computer are right, then sign in again.</translation>
     </message>
     <message>
-        <source>%1 cannot be reached (%2). Check the network connection, then sign in again.</source>
-        <translation>%1 cannot be reached (%2). Check the network connection, then sign in again.</translation>
+        <source>%1 cannot be reached: %2 Check the network connection, then sign in again.</source>
+        <translation>%1 cannot be reached: %2 Check the network connection, then sign in again.</translation>
     </message>
     <message>
         <source>%1 does not take the application's key, or the secret does not belong to it. Check both and sign in again.</source>
@@ -459,6 +459,34 @@
     <message>
         <source>The upload was stopped.</source>
         <translation>The upload was stopped.</translation>
+    </message>
+    <message>
+        <source>There is no network connection.</source>
+        <translation>There is no network connection.</translation>
+    </message>
+    <message>
+        <source>The proxy server was not found.</source>
+        <translation>The proxy server was not found.</translation>
+    </message>
+    <message>
+        <source>No server with the name %1 was found.</source>
+        <translation>No server with the name %1 was found.</translation>
+    </message>
+    <message>
+        <source>No connection to %1 could be made.</source>
+        <translation>No connection to %1 could be made.</translation>
+    </message>
+    <message>
+        <source>The connection broke off.</source>
+        <translation>The connection broke off.</translation>
+    </message>
+    <message>
+        <source>A secure connection could not be made.</source>
+        <translation>A secure connection could not be made.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not trusted.</source>
+        <translation>The certificate of %1 is not trusted.</translation>
     </message>
     <message>
         <source>The web service did not respond in time.</source>

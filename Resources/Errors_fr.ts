@@ -365,12 +365,12 @@
         <translation>Il n’y a pas de connexion réseau. Connectez-vous au réseau, puis recommencez la connexion.</translation>
     </message>
     <message>
-        <source>There is no safe connection to %1 (%2). Check that date and time of this computer are right, then sign in again.</source>
-        <translation>Il n’y a pas de connexion sûre à %1 (%2). Vérifiez la date et l’heure de cet ordinateur, puis connectez-vous de nouveau.</translation>
+        <source>There is no safe connection to %1: %2 Check that date and time of this computer are right, then sign in again.</source>
+        <translation>Il n’y a pas de connexion sûre à %1 : %2 Vérifiez la date et l’heure de cet ordinateur, puis connectez-vous de nouveau.</translation>
     </message>
     <message>
-        <source>%1 cannot be reached (%2). Check the network connection, then sign in again.</source>
-        <translation>%1 est injoignable (%2). Vérifiez la connexion réseau, puis connectez-vous de nouveau.</translation>
+        <source>%1 cannot be reached: %2 Check the network connection, then sign in again.</source>
+        <translation>%1 est injoignable : %2 Vérifiez la connexion réseau, puis connectez-vous de nouveau.</translation>
     </message>
     <message>
         <source>%1 does not take the application's key, or the secret does not belong to it. Check both and sign in again.</source>
@@ -459,6 +459,34 @@
     <message>
         <source>The upload was stopped.</source>
         <translation>L’envoi a été arrêté.</translation>
+    </message>
+    <message>
+        <source>There is no network connection.</source>
+        <translation>Il n’y a pas de connexion réseau.</translation>
+    </message>
+    <message>
+        <source>The proxy server was not found.</source>
+        <translation>Le serveur proxy est introuvable.</translation>
+    </message>
+    <message>
+        <source>No server with the name %1 was found.</source>
+        <translation>Aucun serveur du nom de %1 n’a été trouvé.</translation>
+    </message>
+    <message>
+        <source>No connection to %1 could be made.</source>
+        <translation>Impossible d’établir une connexion avec %1.</translation>
+    </message>
+    <message>
+        <source>The connection broke off.</source>
+        <translation>La connexion a été interrompue.</translation>
+    </message>
+    <message>
+        <source>A secure connection could not be made.</source>
+        <translation>Impossible d’établir une connexion sécurisée.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not trusted.</source>
+        <translation>Le certificat de %1 n’est pas fiable.</translation>
     </message>
     <message>
         <source>The web service did not respond in time.</source>

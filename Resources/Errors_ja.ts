@@ -362,12 +362,12 @@
         <translation>ネットワークに接続されていません。接続してからもう一度サインインしてください。</translation>
     </message>
     <message>
-        <source>There is no safe connection to %1 (%2). Check that date and time of this computer are right, then sign in again.</source>
-        <translation>%1への安全な接続を確立できません（%2）。このコンピューターの日付と時刻を確認してから、もう一度サインインしてください。</translation>
+        <source>There is no safe connection to %1: %2 Check that date and time of this computer are right, then sign in again.</source>
+        <translation>%1への安全な接続を確立できません：%2このコンピューターの日付と時刻を確認してから、もう一度サインインしてください。</translation>
     </message>
     <message>
-        <source>%1 cannot be reached (%2). Check the network connection, then sign in again.</source>
-        <translation>%1に接続できません（%2）。ネットワーク接続を確認してから、もう一度サインインしてください。</translation>
+        <source>%1 cannot be reached: %2 Check the network connection, then sign in again.</source>
+        <translation>%1に接続できません：%2ネットワーク接続を確認してから、もう一度サインインしてください。</translation>
     </message>
     <message>
         <source>%1 does not take the application's key, or the secret does not belong to it. Check both and sign in again.</source>
@@ -456,6 +456,34 @@
     <message>
         <source>The upload was stopped.</source>
         <translation>アップロードは停止されました。</translation>
+    </message>
+    <message>
+        <source>There is no network connection.</source>
+        <translation>ネットワークに接続されていません。</translation>
+    </message>
+    <message>
+        <source>The proxy server was not found.</source>
+        <translation>プロキシサーバーが見つかりません。</translation>
+    </message>
+    <message>
+        <source>No server with the name %1 was found.</source>
+        <translation>%1という名前のサーバーが見つかりません。</translation>
+    </message>
+    <message>
+        <source>No connection to %1 could be made.</source>
+        <translation>%1に接続できませんでした。</translation>
+    </message>
+    <message>
+        <source>The connection broke off.</source>
+        <translation>接続が切れました。</translation>
+    </message>
+    <message>
+        <source>A secure connection could not be made.</source>
+        <translation>安全な接続を確立できませんでした。</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not trusted.</source>
+        <translation>%1の証明書を信頼できません。</translation>
     </message>
     <message>
         <source>The web service did not respond in time.</source>

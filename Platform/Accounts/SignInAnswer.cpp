@@ -5,7 +5,6 @@
 #include "Platform/Accounts/PlainLine.h"
 #include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/NSJSONSerialization.h"
-#include "Platform/Foundation/NSURLConnection.h"
 #include "Platform/Social/OAuthSigner.h"
 
 #include <QDateTime>
@@ -92,10 +91,10 @@ NSError SignInAnswer::_unreachable() const {
     if (cause.code() == NSURLErrorNotConnectedToInternet)
         return told(localizedText("There is no network connection. Connect, then sign in again."));
     if (cause.code() <= NSURLErrorSecureConnectionFailed && cause.code() >= NSURLErrorClientCertificateRequired)
-        return told(localizedText("There is no safe connection to %1 (%2). Check that date and time of this computer "
+        return told(localizedText("There is no safe connection to %1: %2 Check that date and time of this computer "
                                   "are right, then sign in again.",
                                   _service, cause.localizedDescription()));
-    return told(localizedText("%1 cannot be reached (%2). Check the network connection, then sign in again.", _service,
+    return told(localizedText("%1 cannot be reached: %2 Check the network connection, then sign in again.", _service,
                               cause.localizedDescription()));
 }
 

@@ -2,8 +2,7 @@
 #include "Platform/Foundation/URLTransfer.h"
 
 #include "Platform/Foundation/LocalizedText.h"
-#include "Platform/Foundation/NSURLConnection.h"
-#include "Platform/SystemConfiguration/NetworkRoute.h"
+#include "Platform/Foundation/TransferFailure.h"
 #include "Platform/SystemConfiguration/SCNetworkReachability.h"
 
 #include <linux/sockios.h>
@@ -20,52 +19,6 @@ constexpr qint64 largestAnswer = 8LL * 1024 * 1024; // a thousand albums take ha
 constexpr qint64 longestHead = 256LL * 1024;
 constexpr long uploadBuffer = 512L * 1024;
 constexpr int longestWaitMilliseconds = 250;
-
-// The one place where transport failures get their codes.
-qint64 errorCode(CURLcode code, long osError, const NSURL &url) {
-    const auto unlessOffline = [&](qint64 online) -> qint64 {
-        const bool unreachable = osError == ENETUNREACH || osError == ENETDOWN;
-        if (!url.isLoopback() && (unreachable || !NetworkRoute::hasDefaultRoute()))
-            return NSURLErrorNotConnectedToInternet;
-        return online;
-    };
-    switch (code) {
-    case CURLE_OPERATION_TIMEDOUT:
-        return NSURLErrorTimedOut;
-    case CURLE_COULDNT_RESOLVE_HOST:
-    case CURLE_COULDNT_RESOLVE_PROXY:
-        return unlessOffline(NSURLErrorCannotFindHost);
-    case CURLE_COULDNT_CONNECT:
-        return unlessOffline(NSURLErrorCannotConnectToHost);
-    case CURLE_SEND_ERROR:
-    case CURLE_SEND_FAIL_REWIND:
-    case CURLE_RECV_ERROR:
-    case CURLE_GOT_NOTHING:
-    case CURLE_PARTIAL_FILE:
-        return NSURLErrorNetworkConnectionLost;
-    case CURLE_ABORTED_BY_CALLBACK:
-        return NSURLErrorCancelled;
-    case CURLE_SSL_CONNECT_ERROR:
-        return NSURLErrorSecureConnectionFailed;
-    case CURLE_PEER_FAILED_VERIFICATION:
-        return NSURLErrorServerCertificateUntrusted;
-    case CURLE_SSL_ISSUER_ERROR:
-    case CURLE_SSL_CACERT_BADFILE:
-        return NSURLErrorServerCertificateHasUnknownRoot;
-    case CURLE_SSL_CERTPROBLEM:
-        return NSURLErrorClientCertificateRequired;
-    default:
-        return NSURLErrorUnknown;
-    }
-}
-
-NSError failure(qint64 code, const QString &text) {
-    return NSError::errorWithDescription(NSURLErrorDomain, code, text);
-}
-
-NSError tooLarge() {
-    return failure(NSURLErrorDataLengthExceedsMaximum, localizedText("The web service's answer is too large."));
-}
 
 QByteArray proxyExceptions() {
     return qgetenv("no_proxy") + ',' + qgetenv("NO_PROXY") + ",localhost,127.0.0.1,::1";
@@ -136,17 +89,18 @@ std::optional<NSError> URLTransfer::run() {
 // What is known before anything is sent.
 std::optional<NSError> URLTransfer::_objection() const {
     if (!_request.allowsCellularAccess && !_request.URL.isLoopback() && isDefaultRouteCellular())
-        return failure(NSURLErrorNotConnectedToInternet,
-                       localizedText("There is only the cellular network, which this upload may not use."));
+        return TransferFailure::make(
+            NSURLErrorNotConnectedToInternet,
+            localizedText("There is only the cellular network, which this upload may not use."));
     const auto announced = _request.valueForHTTPHeaderField("Content-Length");
     if (!announced || announced->toLongLong() == _bodyLength) return std::nullopt;
-    return failure(NSURLErrorUnknown, localizedText("The file became shorter while it was being sent."));
+    return TransferFailure::make(NSURLErrorUnknown, localizedText("The file became shorter while it was being sent."));
 }
 
 std::optional<NSError> URLTransfer::_drive() {
     for (;;) {
         if (_request.uploadContext && _request.uploadContext->isCancelled())
-            return failure(NSURLErrorCancelled, localizedText("The upload was stopped."));
+            return TransferFailure::make(NSURLErrorCancelled, localizedText("The upload was stopped."));
         int running = 0;
         curl().multi_perform(_handle.multi, &running);
         int waiting = 0;
@@ -154,7 +108,7 @@ std::optional<NSError> URLTransfer::_drive() {
             return _result(message->data.result);
         _noteProgress();
         if (_hasStalled())
-            return failure(NSURLErrorTimedOut, localizedText("The web service did not respond in time."));
+            return TransferFailure::make(NSURLErrorTimedOut, localizedText("The web service did not respond in time."));
         curl().multi_poll(_handle.multi, nullptr, 0, longestWaitMilliseconds, nullptr);
     }
 }
@@ -164,16 +118,14 @@ std::optional<NSError> URLTransfer::_result(CURLcode code) const {
     if (code == CURLE_OK) {
         // curl is content with an early answer; an answer that claims success for half a body is none.
         if (_bodyRead < _bodyLength && _response.statusCode < 400)
-            return failure(NSURLErrorNetworkConnectionLost,
-                           localizedText("The web service answered before it had everything."));
+            return TransferFailure::make(NSURLErrorNetworkConnectionLost,
+                                         localizedText("The web service answered before it had everything."));
         return std::nullopt;
     }
-    if (code == CURLE_OUT_OF_MEMORY) return tooLarge(); // what curl says of a header line above 100 KB
-    if (code == CURLE_WEIRD_SERVER_REPLY || (code == CURLE_UNSUPPORTED_PROTOCOL && _requests > 0))
-        return failure(NSURLErrorBadServerResponse, localizedText("The web service does not answer in HTTP."));
+    if (code == CURLE_UNSUPPORTED_PROTOCOL && _requests > 0) code = CURLE_WEIRD_SERVER_REPLY; // of another version
     long osError = 0;
     curl().easy_getinfo(_handle.easy, CURLINFO_OS_ERRNO, &osError);
-    return failure(errorCode(code, osError, _request.URL), QString::fromUtf8(curl().easy_strerror(code)));
+    return TransferFailure::found(code, osError, _request.URL);
 }
 
 // What still waits in the socket's buffer has not moved: on a slow line that is many seconds' worth.
@@ -209,7 +161,8 @@ size_t URLTransfer::_readBody(char *buffer, size_t capacity) {
     const bool ends = _pieceRead + count == piece.length();
     // A file that changed must not arrive as a mixture: its last bytes are held back.
     if (count <= 0 || (ends && !piece.isIntact())) {
-        _localError = failure(NSURLErrorUnknown, localizedText("The file changed while it was being sent."));
+        _localError =
+            TransferFailure::make(NSURLErrorUnknown, localizedText("The file changed while it was being sent."));
         return CURL_READFUNC_ABORT;
     }
     _pieceRead += count;
@@ -230,7 +183,7 @@ bool URLTransfer::_rewind(qint64 position) {
 bool URLTransfer::_readHeader(const QByteArray &line) {
     _headRead += line.size();
     if (_headRead > longestHead) {
-        _localError = tooLarge();
+        _localError = TransferFailure::tooLarge();
         return false;
     }
     if (line.startsWith("HTTP/")) {
@@ -255,7 +208,7 @@ size_t URLTransfer::_onWrite(char *bytes, size_t size, size_t count, void *self)
     auto *transfer = static_cast<URLTransfer *>(self);
     const size_t length = size * count;
     if (transfer->_body.size() + qint64(length) > largestAnswer) {
-        transfer->_localError = tooLarge();
+        transfer->_localError = TransferFailure::tooLarge();
         return 0;
     }
     transfer->_body.append(bytes, qsizetype(length));
@@ -268,7 +221,7 @@ int URLTransfer::_onRequest(void *self, char *, char *, int, int) {
     if (const auto &context = transfer->_request.uploadContext) context->requestGoesOut();
     if (++transfer->_requests == 1 || transfer->_bodyLength > 0) return CURL_PREREQFUNC_OK;
     transfer->_localError =
-        failure(NSURLErrorNetworkConnectionLost, localizedText("The web service closed the connection."));
+        TransferFailure::make(NSURLErrorNetworkConnectionLost, localizedText("The web service closed the connection."));
     return CURL_PREREQFUNC_ABORT;
 }
 
