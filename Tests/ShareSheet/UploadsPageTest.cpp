@@ -1,4 +1,5 @@
 // The uploads page, driven by mouse, touch and keys while uploads run, fail, wait and are done.
+#include "Platform/Accounts/ACAccountStore.h"
 #include "Service/RecordCodec.h"
 #include "Service/UploadStore.h"
 #include "Tests/ShareSheet/SheetHarness.h"
@@ -116,6 +117,14 @@ TEST_F(UploadsPage, PausesAndAsksBeforeItRemovesWhatHasNotArrived) {
     EXPECT_TRUE(waitToReadNoMore("paused"));
     user->clicks(text("Remove “two”"));
     ASSERT_TRUE(waitFor([&] { return uploads().isEmpty(); })) << "what has arrived goes unasked";
+}
+
+TEST_F(UploadsPage, LeadsToTheSettingsForAMissingAccount) {
+    ASSERT_TRUE(ACAccountStore().removeAccount(flickr.account->identifier()));
+    ASSERT_TRUE(share({titled("one", jpegOfSize(1000))}));
+    openPage();
+    EXPECT_TRUE(waitToRead("There is no Flickr account. Add it in Korvane's settings."));
+    EXPECT_FALSE(user->reads(text("korvane accounts"))) << "which is for the command line";
 }
 
 TEST_F(UploadsPage, ShowsThumbnailsOfWhatStandsInAFile) {
