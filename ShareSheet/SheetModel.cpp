@@ -28,7 +28,7 @@ public:
     void composeDidPush(const std::shared_ptr<UIViewController> &screen) override {
         const auto table = std::dynamic_pointer_cast<UITableViewController>(screen);
         if (!table) return;
-        const auto left = std::exchange(_model._option, std::make_unique<TableModel>(table->tableView()));
+        const auto left = std::exchange(_model._option, std::make_unique<TableModel>(table));
         _model._isOptionShown = true;
         Q_EMIT _model.optionChanged();
     }

@@ -7,7 +7,7 @@ ListView {
 
     property var table: null
 
-    signal exited // with the Tab key
+    signal exited(int step) // with the Tab key, behind the last row with 1, before the first with -1
 
     // The row at that height of the view; a header belongs to the row behind it.
     function rowAt(height, step) {
@@ -37,7 +37,11 @@ ListView {
     onContentYChanged: tellRowsSoon()
     onContentHeightChanged: tellRowsSoon()
     onHeightChanged: tellRowsSoon()
-    onCountChanged: tellRowsSoon()
+    onCountChanged: {
+        if (currentIndex < 0 && count > 0)
+            currentIndex = 0; // so that the keyboard is somewhere
+        tellRowsSoon();
+    }
     Accessible.role: Accessible.List
 
     section.property: "section"
@@ -58,8 +62,11 @@ ListView {
         width: ListView.view.width
         table: list.table
         onStepped: step => {
-            if (index + step < 0 || index + step >= list.count)
-                return list.exited();
+            if (index + step < 0 || index + step >= list.count) {
+                list.exited(step);
+                list.currentIndex = step > 0 ? 0 : list.count - 1; // where the next round begins
+                return;
+            }
             list.currentIndex = index + step;
             list.currentItem.forceActiveFocus(step > 0 ? Qt.TabFocusReason : Qt.BacktabFocusReason);
         }
