@@ -71,7 +71,7 @@ void SheetModel::begin(QQuickWindow &window) {
 
 void SheetModel::appearAgain() {
     _lacksAccount = false;
-    Q_EMIT appearsAgain();
+    Q_EMIT accountWanted();
     _sheet->appear();
 }
 
@@ -130,6 +130,10 @@ void SheetModel::popOption() {
 void SheetModel::post() {
     popOption();
     if (!_canHandOver(text()) || !_window) return;
+    const QVariantList chosen = items();
+    Q_EMIT accountWanted();
+    if (items() != chosen)
+        return _setFailure(tr("Another account is in use now. Look at what is chosen here, then press Post again."));
     _setFailure({});
     _isHandingOver = true;
     Q_EMIT isHandingOverChanged();
