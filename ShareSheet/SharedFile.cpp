@@ -1,6 +1,7 @@
 // A file that the window was given to share.
 #include "ShareSheet/SharedFile.h"
 
+#include "FrontEnd/UploadText.h"
 #include "Platform/Foundation/NSURL.h"
 
 #include <QCoreApplication>
@@ -40,7 +41,8 @@ QByteArray pathOfAddress(const QByteArray &address) {
 SharedFile SharedFile::fromArgument(const QByteArray &argument) {
     SharedFile file;
     file.path = isAddress(argument) ? pathOfAddress(argument) : argument;
-    file.name = QString::fromUtf8(file.path.isEmpty() ? argument : file.path.mid(file.path.lastIndexOf('/') + 1));
+    file.name = UploadText::printable(
+        QString::fromUtf8(file.path.isEmpty() ? argument : file.path.mid(file.path.lastIndexOf('/') + 1)));
     if (file.path.isEmpty())
         file.problem = QCoreApplication::translate(
             "SharedFile", "this is not on this device; copy it here, or open its folder in the file manager first");

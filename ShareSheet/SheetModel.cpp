@@ -1,6 +1,7 @@
 // A share sheet, as the window shows it.
 #include "ShareSheet/SheetModel.h"
 
+#include "FrontEnd/UploadText.h"
 #include "Platform/UIKit/UITableViewController.h"
 #include "ShareSheet/EditableText.h"
 #include "ShareSheet/FrameWait.h"
@@ -100,7 +101,7 @@ QVariantList SheetModel::items() const {
     QVariantList list;
     for (const auto &item : _sheet->shownConfigurationItems())
         list.append(QVariantMap{{QStringLiteral("title"), item->title().value_or(QString())},
-                                {QStringLiteral("value"), item->value().value_or(QString())}});
+                                {QStringLiteral("value"), UploadText::printable(item->value().value_or(QString()))}});
     return list;
 }
 

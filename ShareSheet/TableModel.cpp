@@ -81,7 +81,7 @@ QVariant TableModel::data(const QModelIndex &index, int role) const {
     const auto editor = _editor(row);
     switch (role) {
     case TextRole:
-        return cell ? cell->textLabel()->text().value_or(QString()) : QString();
+        return cell ? UploadText::printable(cell->textLabel()->text().value_or(QString())) : QString();
     case SectionRole:
         return int(_pathOf(row).section);
     case KindRole:
