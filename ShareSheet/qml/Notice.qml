@@ -7,7 +7,6 @@ Rectangle {
 
     property alias text: label.text
     property alias actionText: action.text
-    readonly property alias actionButton: action
     property bool isProblem: true
 
     signal actionClicked

@@ -82,7 +82,7 @@ FocusScope {
             width: Math.min(parent.width, Theme.widestPage)
             table: layer.table
             Accessible.name: layer.heading
-            onExited: step => (step > 0 && trouble.visible ? trouble.actionButton : header.leadingButton).forceActiveFocus(Qt.TabFocusReason)
+            onExited: header.leadingButton.forceActiveFocus(Qt.TabFocusReason)
         }
         Text {
             textFormat: Text.PlainText

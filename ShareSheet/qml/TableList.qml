@@ -7,7 +7,7 @@ ListView {
 
     property var table: null
 
-    signal exited(int step) // with the Tab key, behind the last row with 1, before the first with -1
+    signal exited // with the Tab key
 
     // The row at that height of the view; a header belongs to the row behind it.
     function rowAt(height, step) {
@@ -62,11 +62,8 @@ ListView {
         width: ListView.view.width
         table: list.table
         onStepped: step => {
-            if (index + step < 0 || index + step >= list.count) {
-                list.exited(step);
-                list.currentIndex = step > 0 ? 0 : list.count - 1; // where the next round begins
-                return;
-            }
+            if (index + step < 0 || index + step >= list.count)
+                return list.exited();
             list.currentIndex = index + step;
             list.currentItem.forceActiveFocus(step > 0 ? Qt.TabFocusReason : Qt.BacktabFocusReason);
         }
