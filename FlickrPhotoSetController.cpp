@@ -29,6 +29,11 @@ void FlickrPhotoSetController::reloadData() {
     if (tableView()) tableView()->reloadData();
 }
 
+void FlickrPhotoSetController::tryAgain() {
+    _manager->refreshPhotoSets();
+    reloadData(); // there are no photo sets now
+}
+
 qint64 FlickrPhotoSetController::tableViewNumberOfRowsInSection(UITableView &, qint64) {
     return _manager->photoSets() ? qint64(_manager->photoSets()->size()) : 0;
 }

@@ -28,6 +28,8 @@ public:
 
     void loadView() override;
     void reloadData() override;
+    std::optional<NSError> problem() const override { return _manager->problem(); }
+    void tryAgain() override;
     qint64 tableViewNumberOfRowsInSection(UITableView &tableView, qint64 section) override;
     std::shared_ptr<UITableViewCell> tableViewCellForRowAtIndexPath(UITableView &tableView,
                                                                     NSIndexPath indexPath) override;

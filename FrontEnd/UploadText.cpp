@@ -101,6 +101,10 @@ QString UploadText::cut(const QString &text, int columns) {
     return text.left(kept) + QChar(u'\u2026');
 }
 
+QString UploadText::brief(const QString &name) {
+    return cut(printable(name), 100);
+}
+
 QString UploadText::padded(const QString &text, int columns) {
     const QString shown = cut(text, columns);
     return shown + QString(std::max(0, columns - width(shown)), u' ');

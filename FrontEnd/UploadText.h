@@ -23,6 +23,8 @@ int width(const QString &text);
 // The text in at most that many columns, with an ellipsis where something was left off. Characters are never cut in
 // two.
 QString cut(const QString &text, int columns);
+// A name from elsewhere as it stands in a sentence: printable, and cut to what is read at a glance.
+QString brief(const QString &name);
 // The text cut or filled with spaces to exactly that many columns.
 QString padded(const QString &text, int columns);
 

@@ -12,11 +12,15 @@
 #include "Platform/Foundation/NSNumber.h"
 #include "Platform/Preferences/CFPreferences.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace korvane {
 
 const QString FlickrUploadDomain = QStringLiteral("com.zorvex.flickr-upload");
 const QString FlickrUploadPhotoSetTitle = QStringLiteral("photosetTitle");
 const QString FlickrUploadPhotoSetID = QStringLiteral("photosetID");
+const QString FlickrUploadPhotoSetOwner = QStringLiteral("photosetOwner");
 const QString FlickrUploadAudience = QStringLiteral("audience");
 
 namespace {
@@ -50,6 +54,7 @@ void FlickrComposeViewController::forgetUnknownAudience() {
 void FlickrComposeViewController::forgetPhotoSet() {
     CFPreferencesSetAppValue(FlickrUploadPhotoSetID, QVariant(), FlickrUploadDomain);
     CFPreferencesSetAppValue(FlickrUploadPhotoSetTitle, QVariant(), FlickrUploadDomain);
+    CFPreferencesSetAppValue(FlickrUploadPhotoSetOwner, QVariant(), FlickrUploadDomain);
     CFPreferencesAppSynchronize(FlickrUploadDomain);
 }
 
@@ -58,16 +63,35 @@ bool FlickrComposeViewController::_initWithNibName(const std::optional<QString> 
     if (!SLComposeServiceViewController::_initWithNibName(nibName, bundle)) return false;
     setMaxImageAttachmentSize(0);
     CFPreferencesAppSynchronize(FlickrUploadDomain);
-    const QVariant storedTitle = CFPreferencesCopyAppValue(FlickrUploadPhotoSetTitle, FlickrUploadDomain);
-    if (storedTitle.typeId() == QMetaType::QString) _photoSetTitle = storedTitle.toString();
-    _photoSetID = integerValue(CFPreferencesCopyAppValue(FlickrUploadPhotoSetID, FlickrUploadDomain));
     _audience = qint32(CFPreferencesGetAppIntegerValue(FlickrUploadAudience, FlickrUploadDomain));
-    if (!_photoSetTitle) _photoSetTitle = localized(QStringLiteral("NO_SET"));
     setAccountStore(std::make_shared<ACAccountStore>());
     const auto accounts = flickrAccounts(*_accountStore);
     setFlickrAccount(accounts.empty() ? nullptr : accounts.back());
+    _recallPhotoSet();
     setTitle(localized(QStringLiteral("FLICKR")));
     return true;
+}
+
+// The one chosen last, unless it is known to be another user's.
+void FlickrComposeViewController::_recallPhotoSet() {
+    _photoSetTitle = localized(QStringLiteral("NO_SET"));
+    _photoSetID = 0;
+    const QVariant owner = CFPreferencesCopyAppValue(FlickrUploadPhotoSetOwner, FlickrUploadDomain);
+    if (owner.typeId() == QMetaType::QString && _flickrAccount && owner.toString() != _flickrAccount->username())
+        return;
+    const QVariant title = CFPreferencesCopyAppValue(FlickrUploadPhotoSetTitle, FlickrUploadDomain);
+    if (title.typeId() == QMetaType::QString) _photoSetTitle = title.toString();
+    _photoSetID = integerValue(CFPreferencesCopyAppValue(FlickrUploadPhotoSetID, FlickrUploadDomain));
+}
+
+void FlickrComposeViewController::changeFlickrAccount(const std::shared_ptr<ACAccount> &account) {
+    const auto identifierOf = [](const auto &some) { return some ? some->identifier() : QString(); };
+    const auto former = std::exchange(_flickrAccount, account);
+    if (identifierOf(former) == identifierOf(account)) return;
+    _recallPhotoSet();
+    if (_photoSetController) _formerPhotoSetControllers.push_back(std::exchange(_photoSetController, nullptr));
+    _manager.reset();
+    if (_photoSetConfigurationItem) reloadConfigurationItems();
 }
 
 std::vector<std::shared_ptr<SLComposeSheetConfigurationItem>> FlickrComposeViewController::configurationItems() {
@@ -120,7 +144,8 @@ void FlickrComposeViewController::_pushAudiences() {
 
 // The answer is for the screen that shows the photo sets, which goes with the sheet.
 bool FlickrComposeViewController::isWaitingForAnswers() const {
-    return _photoSetController && !_manager->photoSets();
+    const auto isWaiting = [](const auto &screen) { return screen && !screen->manager()->photoSets(); };
+    return isWaiting(_photoSetController) || std::ranges::any_of(_formerPhotoSetControllers, isWaiting);
 }
 
 void FlickrComposeViewController::flickrComposeOptionViewDidFinishWithSelection(
@@ -134,6 +159,9 @@ void FlickrComposeViewController::flickrComposeOptionViewDidFinishWithSelection(
         _photoSetID = _photoSetController->photoSetID();
         CFPreferencesSetAppValue(FlickrUploadPhotoSetID, _photoSetID, FlickrUploadDomain);
         CFPreferencesSetAppValue(FlickrUploadPhotoSetTitle, _photoSetTitle ? QVariant(*_photoSetTitle) : QVariant(),
+                                 FlickrUploadDomain);
+        CFPreferencesSetAppValue(FlickrUploadPhotoSetOwner,
+                                 _flickrAccount ? QVariant(_flickrAccount->username()) : QVariant(),
                                  FlickrUploadDomain);
         _photoSetConfigurationItem->setValue(_photoSetController->photoSetTitle());
     }

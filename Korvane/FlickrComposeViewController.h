@@ -16,6 +16,7 @@ class FlickrPost;
 extern const QString FlickrUploadDomain;
 extern const QString FlickrUploadPhotoSetTitle; // text
 extern const QString FlickrUploadPhotoSetID;    // integer
+extern const QString FlickrUploadPhotoSetOwner; // text: the user whose photo set it is; may be missing
 extern const QString FlickrUploadAudience;      // integer: the row of the audience
 
 // Where the sheet's option rows stand.
@@ -36,6 +37,9 @@ public:
     void setAccountStore(std::shared_ptr<ACAccountStore> store) { _accountStore = std::move(store); }
     std::shared_ptr<ACAccount> flickrAccount() const override { return _flickrAccount; }
     void setFlickrAccount(std::shared_ptr<ACAccount> account) { _flickrAccount = std::move(account); }
+    // For a front end, while no option screen is shown: the account in use may be another by now. A photo set of the
+    // former one is chosen no more, and the next tap on the row loads those of the new one.
+    void changeFlickrAccount(const std::shared_ptr<ACAccount> &account);
     // The client of the last post; null before it.
     const std::shared_ptr<FlickrUploadSession> &session() const { return _session; }
 
@@ -56,6 +60,7 @@ protected:
     bool _initWithNibName(const std::optional<QString> &nibName, const std::optional<QString> &bundle) override;
 
 private:
+    void _recallPhotoSet();
     std::shared_ptr<SLComposeSheetConfigurationItem> _photoSetItem();
     std::shared_ptr<SLComposeSheetConfigurationItem> _audienceItem();
     void _pushPhotoSets();
@@ -66,6 +71,7 @@ private:
     bool _hasFlickrAccount = false;
     std::shared_ptr<SLComposeSheetConfigurationItem> _photoSetConfigurationItem;
     std::shared_ptr<FlickrPhotoSetController> _photoSetController;
+    std::vector<std::shared_ptr<FlickrPhotoSetController>> _formerPhotoSetControllers; // which hear of late answers
     std::optional<QString> _photoSetTitle;
     qint64 _photoSetID = 0;
     std::shared_ptr<FlickrPhotoSetManager> _manager;

@@ -91,6 +91,14 @@
         <source>Loading…</source>
         <translation>Wird geladen …</translation>
     </message>
+    <message>
+        <source>The list could not be loaded. %1</source>
+        <translation>Die Liste konnte nicht geladen werden. %1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
 </context>
 <context>
     <name>Previews</name>
@@ -103,6 +111,13 @@
         <translation>
             <numerusform>%n Foto</numerusform>
             <numerusform>%n Fotos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n video(s)</source>
+        <translation>
+            <numerusform>%n Video</numerusform>
+            <numerusform>%n Videos</numerusform>
         </translation>
     </message>
 </context>
@@ -587,6 +602,10 @@
 What you entered is still here: press Post to try again.</source>
         <translation>Es wurde nichts geteilt. %1
 Ihre Eingaben sind noch da: Mit „Posten“ versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>Another account is in use now. Look at what is chosen here, then press Post again.</source>
+        <translation>Jetzt wird ein anderes Konto verwendet. Prüfen Sie, was hier gewählt ist, und drücken Sie dann noch einmal „Posten“.</translation>
     </message>
 </context>
 <context>

@@ -91,6 +91,14 @@
         <source>Loading…</source>
         <translation>Loading…</translation>
     </message>
+    <message>
+        <source>The list could not be loaded. %1</source>
+        <translation>The list could not be loaded. %1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Try again</translation>
+    </message>
 </context>
 <context>
     <name>Previews</name>
@@ -103,6 +111,13 @@
         <translation>
             <numerusform>%n photo</numerusform>
             <numerusform>%n photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n video(s)</source>
+        <translation>
+            <numerusform>%n video</numerusform>
+            <numerusform>%n videos</numerusform>
         </translation>
     </message>
 </context>
@@ -587,6 +602,10 @@
 What you entered is still here: press Post to try again.</source>
         <translation>Nothing was shared. %1
 What you entered is still here: press Post to try again.</translation>
+    </message>
+    <message>
+        <source>Another account is in use now. Look at what is chosen here, then press Post again.</source>
+        <translation>Another account is in use now. Look at what is chosen here, then press Post again.</translation>
     </message>
 </context>
 <context>

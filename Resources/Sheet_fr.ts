@@ -91,6 +91,14 @@
         <source>Loading…</source>
         <translation>Chargement…</translation>
     </message>
+    <message>
+        <source>The list could not be loaded. %1</source>
+        <translation>La liste n’a pas pu être chargée. %1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
 </context>
 <context>
     <name>Previews</name>
@@ -103,6 +111,13 @@
         <translation>
             <numerusform>%n photo</numerusform>
             <numerusform>%n photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n video(s)</source>
+        <translation>
+            <numerusform>%n vidéo</numerusform>
+            <numerusform>%n vidéos</numerusform>
         </translation>
     </message>
 </context>
@@ -137,7 +152,7 @@
     </message>
     <message>
         <source>Remove the keys of your application at %1? Accounts that are added already stay; to add another, you need the keys again.</source>
-        <translation>Retirer les clés de votre application chez %1 ? Les comptes déjà ajoutés restent ; pour en ajouter un autre, vous aurez de nouveau besoin des clés.</translation>
+        <translation>Retirer les clés de votre application chez %1&#x202f;? Les comptes déjà ajoutés restent&#x202f;; pour en ajouter un autre, vous aurez de nouveau besoin des clés.</translation>
     </message>
 </context>
 <context>
@@ -587,6 +602,10 @@
 What you entered is still here: press Post to try again.</source>
         <translation>Rien n’a été partagé. %1
 Votre saisie est toujours là&#xa0;: appuyez sur «&#xa0;Publier&#xa0;» pour réessayer.</translation>
+    </message>
+    <message>
+        <source>Another account is in use now. Look at what is chosen here, then press Post again.</source>
+        <translation>Un autre compte est utilisé à présent. Vérifiez ce qui est choisi ici, puis appuyez de nouveau sur «&#xa0;Publier&#xa0;».</translation>
     </message>
 </context>
 <context>

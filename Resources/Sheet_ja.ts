@@ -91,6 +91,14 @@
         <source>Loading…</source>
         <translation>読み込み中…</translation>
     </message>
+    <message>
+        <source>The list could not be loaded. %1</source>
+        <translation>一覧を読み込めませんでした。%1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>再試行</translation>
+    </message>
 </context>
 <context>
     <name>Previews</name>
@@ -102,6 +110,12 @@
         <source>%n photo(s)</source>
         <translation>
             <numerusform>写真%n枚</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n video(s)</source>
+        <translation>
+            <numerusform>動画%n本</numerusform>
         </translation>
     </message>
 </context>
@@ -581,6 +595,10 @@
 What you entered is still here: press Post to try again.</source>
         <translation>何も共有されませんでした。%1
 入力した内容は残っています。「投稿」を押してもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Another account is in use now. Look at what is chosen here, then press Post again.</source>
+        <translation>使用中のアカウントが変わりました。ここで選択されている内容を確認してから、もう一度「投稿」を押してください。</translation>
     </message>
 </context>
 <context>

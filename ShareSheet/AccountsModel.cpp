@@ -1,6 +1,7 @@
 // The accounts of one service as the rows of a list.
 #include "ShareSheet/AccountsModel.h"
 
+#include "FrontEnd/UploadText.h"
 #include "Platform/Foundation/Folders.h"
 #include "ShareSheet/Background.h"
 
@@ -28,7 +29,7 @@ QVariant AccountsModel::data(const QModelIndex &index, int role) const {
         return row.id;
     case Qt::DisplayRole:
     case UsernameRole:
-        return row.username;
+        return UploadText::brief(row.username);
     case InUseRole:
         return index.row() == rowCount() - 1;
     default:

@@ -2,6 +2,7 @@
 #include "ShareSheet/SharedFile.h"
 
 #include "FrontEnd/FileArgument.h"
+#include "FrontEnd/UploadText.h"
 
 #include <QCoreApplication>
 
@@ -15,7 +16,8 @@ namespace korvane {
 SharedFile SharedFile::fromArgument(const QByteArray &argument) {
     SharedFile file;
     file.path = FileArgument::path(argument);
-    file.name = QString::fromUtf8(file.path.isEmpty() ? argument : file.path.mid(file.path.lastIndexOf('/') + 1));
+    file.name = UploadText::printable(
+        QString::fromUtf8(file.path.isEmpty() ? argument : file.path.mid(file.path.lastIndexOf('/') + 1)));
     if (file.path.isEmpty())
         file.problem = QCoreApplication::translate(
             "SharedFile", "this is not on this device; copy it here, or open its folder in the file manager first");

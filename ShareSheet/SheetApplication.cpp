@@ -92,12 +92,12 @@ bool SheetApplication::_openSheet(const SheetRequest &request) {
     } else {
         const auto flickr = makeFlickrSheet();
         findAccount = [flickr] {
-            flickr->setFlickrAccount(flickr->accountStore()->accountInUse(ACAccountTypeIdentifierFlickr));
+            flickr->changeFlickrAccount(flickr->accountStore()->accountInUse(ACAccountTypeIdentifierFlickr));
         };
         _controller = flickr;
     }
     _sheet = std::make_unique<SheetModel>(_controller, *_attachments);
-    connect(_sheet.get(), &SheetModel::appearsAgain, this, findAccount); // the sheet itself looks for it only once
+    connect(_sheet.get(), &SheetModel::accountWanted, this, findAccount); // the sheet itself looks for it only once
     connect(_sheet.get(), &SheetModel::finished, this, &SheetApplication::_end);
     connect(_sheet.get(), &SheetModel::settingsRequested, this, &SheetApplication::openPreferences);
     if (!_openWindow(request.page, {{QStringLiteral("sheet"), QVariant::fromValue(_sheet.get())}})) return false;

@@ -1,6 +1,7 @@
 // A share sheet, as the window shows it.
 #include "ShareSheet/SheetModel.h"
 
+#include "FrontEnd/UploadText.h"
 #include "Platform/UIKit/UITableViewController.h"
 #include "ShareSheet/EditableText.h"
 #include "ShareSheet/FrameWait.h"
@@ -28,7 +29,7 @@ public:
     void composeDidPush(const std::shared_ptr<UIViewController> &screen) override {
         const auto table = std::dynamic_pointer_cast<UITableViewController>(screen);
         if (!table) return;
-        const auto left = std::exchange(_model._option, std::make_unique<TableModel>(table->tableView()));
+        const auto left = std::exchange(_model._option, std::make_unique<TableModel>(table));
         _model._isOptionShown = true;
         Q_EMIT _model.optionChanged();
     }
@@ -71,7 +72,7 @@ void SheetModel::begin(QQuickWindow &window) {
 
 void SheetModel::appearAgain() {
     _lacksAccount = false;
-    Q_EMIT appearsAgain();
+    Q_EMIT accountWanted();
     _sheet->appear();
 }
 
@@ -100,7 +101,7 @@ QVariantList SheetModel::items() const {
     QVariantList list;
     for (const auto &item : _sheet->shownConfigurationItems())
         list.append(QVariantMap{{QStringLiteral("title"), item->title().value_or(QString())},
-                                {QStringLiteral("value"), item->value().value_or(QString())}});
+                                {QStringLiteral("value"), UploadText::printable(item->value().value_or(QString()))}});
     return list;
 }
 
@@ -130,6 +131,10 @@ void SheetModel::popOption() {
 void SheetModel::post() {
     popOption();
     if (!_canHandOver(text()) || !_window) return;
+    const QVariantList chosen = items();
+    Q_EMIT accountWanted();
+    if (items() != chosen)
+        return _setFailure(tr("Another account is in use now. Look at what is chosen here, then press Post again."));
     _setFailure({});
     _isHandingOver = true;
     Q_EMIT isHandingOverChanged();

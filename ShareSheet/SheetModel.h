@@ -96,8 +96,8 @@ Q_SIGNALS:
     void alertChanged();
     void failureChanged();
     void settingsRequested(const korvane::NSURL &address);
-    // The sheet is about to appear again: what it looked up when it was made may have changed.
-    void appearsAgain();
+    // The sheet is about to appear again or to hand over: the account in use may be another than when it was made.
+    void accountWanted();
     // The sheet is done with. From the event loop.
     void finished(korvane::SheetModel::Outcome outcome);
 

@@ -1,6 +1,7 @@
 // A sign-in as a page shows it.
 #include "ShareSheet/SignInModel.h"
 
+#include "FrontEnd/UploadText.h"
 #include "Platform/Accounts/ACError.h"
 #include "ShareSheet/Background.h"
 
@@ -63,7 +64,7 @@ void SignInModel::_ended(const std::optional<SignedInAccount> &account, const st
         const auto stored = found.save(&storeError);
         return [this, stored, storeError] {
             if (!stored) return _set(Step::None, storeError->localizedDescription());
-            _username = stored->username();
+            _username = UploadText::brief(stored->username());
             _set(Step::Done);
             Q_EMIT accountAdded();
         };

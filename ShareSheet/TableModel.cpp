@@ -1,6 +1,8 @@
 // A table as a list for the window.
 #include "ShareSheet/TableModel.h"
 
+#include "FrontEnd/UploadText.h"
+
 #include <algorithm>
 #include <functional>
 #include <numeric>
@@ -11,7 +13,10 @@ class TableModel::Observer : public UITableViewObserver {
 public:
     explicit Observer(TableModel &model) : _model(model) {}
 
-    void tableViewDidReload() override { _model._reload(); }
+    void tableViewDidReload() override {
+        _model._reload();
+        Q_EMIT _model.problemChanged();
+    }
     void tableViewDidInsertRows(const std::vector<NSIndexPath> &paths, UITableViewRowAnimation) override {
         auto sorted = paths;
         std::ranges::sort(sorted);
@@ -37,8 +42,9 @@ private:
     TableModel &_model;
 };
 
-TableModel::TableModel(std::shared_ptr<UITableView> table, QObject *parent)
-    : QAbstractListModel(parent), _table(std::move(table)), _observer(std::make_shared<Observer>(*this)) {
+TableModel::TableModel(std::shared_ptr<UITableViewController> screen, QObject *parent)
+    : QAbstractListModel(parent), _screen(std::move(screen)), _table(_screen->tableView()),
+      _observer(std::make_shared<Observer>(*this)) {
     _reload();
     _table->addTableObserver(_observer);
 }
@@ -47,6 +53,11 @@ TableModel::~TableModel() = default;
 
 int TableModel::count() const {
     return std::accumulate(_rowsOfSections.begin(), _rowsOfSections.end(), 0);
+}
+
+QString TableModel::problem() const {
+    const auto error = _screen->problem();
+    return error ? UploadText::printable(error->localizedDescription()) : QString();
 }
 
 int TableModel::rowCount(const QModelIndex &parent) const {
@@ -70,7 +81,7 @@ QVariant TableModel::data(const QModelIndex &index, int role) const {
     const auto editor = _editor(row);
     switch (role) {
     case TextRole:
-        return cell ? cell->textLabel()->text().value_or(QString()) : QString();
+        return cell ? UploadText::printable(cell->textLabel()->text().value_or(QString())) : QString();
     case SectionRole:
         return int(_pathOf(row).section);
     case KindRole:

@@ -1,7 +1,7 @@
 // A table as a list for the window.
 #pragma once
 
-#include "Platform/UIKit/UITableView.h"
+#include "Platform/UIKit/UITableViewController.h"
 #include "ShareSheet/EditTarget.h"
 
 #include <QAbstractListModel>
@@ -12,6 +12,7 @@ namespace korvane {
 class TableModel : public QAbstractListModel, public EditTarget {
     Q_OBJECT
     Q_PROPERTY(int count READ count NOTIFY countChanged)
+    Q_PROPERTY(QString problem READ problem NOTIFY problemChanged) // why rows could not be loaded; empty if they could
 public:
     enum Role {
         TextRole = Qt::UserRole + 1,
@@ -24,10 +25,11 @@ public:
         HeightRole, // in usual rows
     };
 
-    explicit TableModel(std::shared_ptr<UITableView> table, QObject *parent = nullptr);
+    explicit TableModel(std::shared_ptr<UITableViewController> screen, QObject *parent = nullptr);
     ~TableModel() override;
 
     int count() const;
+    QString problem() const;
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
@@ -36,6 +38,7 @@ public:
     // The rows that stand in the window now, wholly or in part.
     Q_INVOKABLE void showRows(int first, int last);
     Q_INVOKABLE void select(int row);
+    Q_INVOKABLE void tryAgain() { _screen->tryAgain(); } // after a problem
 
     QString editedText(int row) const override;
     bool userReplaces(int row, NSRange range, const QString &replacement) override;
@@ -45,6 +48,7 @@ public:
 
 Q_SIGNALS:
     void countChanged();
+    void problemChanged();
     // The table has scrolled by itself, to these rows.
     void scrolledTo(int first, int last);
 
@@ -59,6 +63,7 @@ private:
     void _removeRow(NSIndexPath path);
     void _reload();
 
+    std::shared_ptr<UITableViewController> _screen;
     std::shared_ptr<UITableView> _table;
     std::shared_ptr<Observer> _observer;
     std::vector<int> _rowsOfSections; // as the window knows them

@@ -87,12 +87,13 @@ QString UploadWords::timeLeft(qint64 seconds) {
 
 QString UploadWords::removalQuestion(const Upload &upload) {
     if (upload.isDone()) return {};
+    const QString name = UploadText::brief(title(upload));
     if (upload.mayHaveArrived)
         return Words::tr(
                    "Nobody knows whether “%1” has arrived. Look on %2 first. Removed here, it is not tried again.")
-            .arg(title(upload), serviceName(upload));
+            .arg(name, serviceName(upload));
     return Words::tr("“%1” has not arrived on %2 yet. Removed here, it is not uploaded.")
-        .arg(title(upload), serviceName(upload));
+        .arg(name, serviceName(upload));
 }
 
 } // namespace korvane

@@ -47,6 +47,8 @@ T.RadioButton {
             text: row.text
             color: Theme.text
             wrapMode: Text.Wrap
+            maximumLineCount: 3
+            elide: Text.ElideRight
             horizontalAlignment: Text.AlignLeft
         }
         Text {

@@ -53,6 +53,8 @@ T.AbstractButton {
                 text: row.text
                 color: Theme.text
                 wrapMode: Text.Wrap
+                maximumLineCount: 3
+                elide: Text.ElideRight
                 horizontalAlignment: Text.AlignLeft
             }
             Text {

@@ -81,6 +81,7 @@ FocusScope {
             anchors.horizontalCenter: parent.horizontalCenter
             width: Math.min(parent.width, Theme.widestPage)
             table: layer.table
+            Accessible.name: layer.heading
             onExited: header.leadingButton.forceActiveFocus(Qt.TabFocusReason)
         }
         Text {
@@ -94,6 +95,21 @@ FocusScope {
             horizontalAlignment: Text.AlignHCenter
             Accessible.role: Accessible.StaticText
             Accessible.name: text
+        }
+        Notice { // below the rows that are there all the same
+            id: trouble
+
+            readonly property string reason: layer.table ? layer.table.problem : ""
+
+            x: list.x + Theme.margin
+            y: list.y + Math.min(list.contentHeight + Theme.margin, list.height - height)
+            width: list.width - 2 * Theme.margin
+            text: reason.length > 0 ? qsTr("The list could not be loaded. %1").arg(reason) : ""
+            actionText: qsTr("Try again")
+            onActionClicked: {
+                list.forceActiveFocus();
+                layer.table.tryAgain();
+            }
         }
         EdgePull {
             id: edge

@@ -66,7 +66,8 @@ Item {
         x: Theme.margin
         width: parent.width - 2 * Theme.margin
         visible: !previews.isOne
-        text: qsTr("%n photo(s)", "", previews.attachments.usableCount)
+        text: previews.attachments.isVideo ? qsTr("%n video(s)", "", previews.attachments.usableCount)
+                                           : qsTr("%n photo(s)", "", previews.attachments.usableCount)
         color: Theme.secondaryText
         font.pixelSize: Theme.smallFontPixelSize
         horizontalAlignment: Text.AlignLeft

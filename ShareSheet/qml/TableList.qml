@@ -37,7 +37,11 @@ ListView {
     onContentYChanged: tellRowsSoon()
     onContentHeightChanged: tellRowsSoon()
     onHeightChanged: tellRowsSoon()
-    onCountChanged: tellRowsSoon()
+    onCountChanged: {
+        if (currentIndex < 0 && count > 0)
+            currentIndex = 0; // so that the keyboard is somewhere
+        tellRowsSoon();
+    }
     Accessible.role: Accessible.List
 
     section.property: "section"

@@ -24,6 +24,8 @@ T.TextArea {
     selectByMouse: true
     textFormat: TextEdit.PlainText
     wrapMode: TextEdit.Wrap
+    // Of an empty text the input method tells the direction, which need not be the one in which the window is read.
+    horizontalAlignment: length === 0 && preeditText.length === 0 ? TextEdit.AlignLeft : undefined
     Accessible.role: Accessible.EditableText
     Accessible.name: placeholderText
     Accessible.multiLine: true

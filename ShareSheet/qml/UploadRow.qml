@@ -32,6 +32,8 @@ FocusScope {
     Accessible.name: [title, detail, reason].filter(part => part.length > 0).join(", ")
     Accessible.focusable: true
     Accessible.focused: activeFocus
+    // Who comes back with the Tab key comes to the row first, and to all of its buttons.
+    onActiveFocusChanged: if (!activeFocus) retrial.focus = removal.focus = false
     Keys.onDeletePressed: removalAsked()
     Keys.onReturnPressed: if (canRetry) retryAsked()
     Keys.onEnterPressed: if (canRetry) retryAsked()
@@ -71,7 +73,7 @@ FocusScope {
             width: parent.width - removal.width
             text: row.title
             color: Theme.text
-            elide: Text.ElideMiddle
+            elide: Text.ElideRight
             wrapMode: Text.Wrap
             maximumLineCount: 2
             horizontalAlignment: Text.AlignLeft

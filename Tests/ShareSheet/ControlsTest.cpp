@@ -1,8 +1,10 @@
 // What holds for every control of every page: a name and a role, room for a finger, a way there with the Tab key.
-#include "Tests/ShareSheet/SheetHarness.h"
+#include "Tests/ShareSheet/ShareWindow.h"
 
 #include <QAccessible>
+#include <QGuiApplication>
 #include <QList>
+#include <QScopeGuard>
 #include <QSet>
 
 using namespace korvane;
@@ -12,7 +14,7 @@ namespace {
 
 constexpr double fingertip = 44;
 
-class Controls : public SheetTest {
+class Controls : public ShareWindow {
 protected:
     // What can be used just now.
     static void collect(QQuickItem *item, QList<QQuickItem *> &found) {
@@ -32,17 +34,21 @@ protected:
             .arg(item->height())
             .toStdString();
     }
+    // Of the page; while a question lies over it, of that.
     void check(const char *page) {
         SCOPED_TRACE(page);
         user->waitsUntilStill();
+        QQuickItem *root = application->window()->contentItem();
+        for (QQuickItem *layer : root->childItems())
+            if (layer->inherits("QQuickOverlay") && layer->isVisible()) root = layer;
         QList<QQuickItem *> all;
-        collect(application->window()->contentItem(), all);
+        collect(root, all);
         ASSERT_FALSE(all.isEmpty());
         QSet<QQuickItem *> reached;
         for (qsizetype i = 0; i < all.size() + 20; ++i) {
-            user->presses(Qt::Key_Tab);
             for (QQuickItem *item = user->focused(); item; item = item->parentItem())
                 if (item == user->focused() || item->isFocusScope()) reached.insert(item);
+            user->presses(Qt::Key_Tab);
         }
         for (QQuickItem *item : all) {
             SCOPED_TRACE(described(item));
@@ -64,6 +70,9 @@ TEST_F(Controls, OfTheSettings) {
     Settings &page = *application->settings();
     const auto isReady = [&] { return !page.flickr()->keys()->isBusy() && !page.vimeo()->keys()->isBusy(); };
     ASSERT_TRUE(waitFor(isReady));
+    user->clicks(text("Remove the Flickr account “standin”"));
+    check("before an account is removed");
+    user->presses(Qt::Key_Escape);
     check("without keys");
     const auto known = standin::StandIn::flickrCredential();
     page.flickr()->keys()->store(QString::fromUtf8(known.consumerKey), QString::fromUtf8(known.consumerSecret));
@@ -79,27 +88,42 @@ TEST_F(Controls, OfTheUploads) {
     server.on("upload").fail(400, 1);
     ASSERT_TRUE(share({post(jpegOfSize(1000, 1))}));
     ASSERT_TRUE(waitForState("failed", 1));
-    ASSERT_TRUE(share({post(jpegOfSize(1000, 2))}));
-    ASSERT_TRUE(waitForState("done", 1));
     open({"--uploads"});
+    user->clicks(text("Remove “Photo without a title”"));
+    ASSERT_TRUE(waitToRead("has not arrived"));
+    check("before an upload is removed");
+    user->presses(Qt::Key_Escape);
+    ASSERT_TRUE(share({post(jpegOfSize(1000, 2))}));
     ASSERT_TRUE(waitToRead("Shared (1)"));
     user->clicks(text("Pause"));
     ASSERT_TRUE(waitToRead("Uploads are paused."));
     check("two of them");
 }
 
-TEST_F(Controls, OfTheSheetsAndOfTheirQuestion) {
-    open({"flickr", photo("a.jpg"), photo("b.jpg", 2)});
-    ASSERT_TRUE(waitUntilPostable());
-    check("photos");
-    ASSERT_TRUE(ACAccountStore().removeAccount(flickr.vimeoAccount->identifier()));
-    open({"vimeo", home.file("a.mp4", variedBytes(1000))});
-    ASSERT_TRUE(waitFor([&] { return sheet().hasAlert(); }));
-    user->waitsUntilStill();
-    for (const char *name : {"Settings", "Not now", "Settings"}) {
-        EXPECT_EQ(user->nameOfFocused(), text(name)) << "nothing else is reached";
-        user->presses(Qt::Key_Tab);
+TEST_F(Controls, OfTheSheetsTheirScreensAndTheirQuestion) {
+    struct {
+        QByteArrayList arguments;
+        std::vector<const char *> screens;
+    } const sheets[]{{{"flickr", photo("a.jpg"), photo("b.jpg", 2)}, {"Album, No album", "Audience, Public"}},
+                     {{"vimeo", film().toUtf8()}, {"Details"}}};
+    for (const auto &[arguments, screens] : sheets) {
+        open(arguments);
+        ASSERT_TRUE(waitFor([&] { return sheet().attachments()->isReady(); }));
+        check(arguments[0]);
+        for (const char *screen : screens) {
+            user->clicks(text(screen));
+            ASSERT_TRUE(user->find(text("Back")) && waitFor([&] { return sheet().option()->count() > 0; }));
+            check(screen);
+            user->clicks(text("Back"));
+        }
     }
+    ASSERT_TRUE(ACAccountStore().removeAccount(flickr.account->identifier()));
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    const auto back = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
+    open({"flickr", photo("a.jpg")});
+    ASSERT_TRUE(waitFor([&] { return sheet().hasAlert(); }));
+    check("the question");
     user->presses(Qt::Key_Escape);
-    EXPECT_TRUE(waitFor([&] { return !sheet().hasAlert(); }));
+    ASSERT_TRUE(waitFor([&] { return !sheet().hasAlert(); }));
+    EXPECT_GT(user->focused()->property("cursorRectangle").toRectF().x(), 300) << "where the reading begins";
 }

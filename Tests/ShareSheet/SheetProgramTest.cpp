@@ -23,12 +23,10 @@ TEST(SheetProgram, SaysWhatItIsAndWhatItWants) {
     EXPECT_EQ(help.status, 0);
     EXPECT_TRUE(help.output.startsWith("Usage: korvane-sheet flickr FILE...")) << help.output.constData();
     EXPECT_EQ(runSheet({"--version"}).output, "korvane-sheet " KORVANE_VERSION "\n");
-    for (const QByteArrayList &arguments : {QByteArrayList{}, {"smoke", "a.jpg"}, {"flickr"}, {"--uploads", "x"}}) {
-        const Ending bad = runSheet(arguments);
-        EXPECT_EQ(bad.status, 2) << arguments.join(' ').constData();
-        EXPECT_TRUE(bad.errors.startsWith("korvane-sheet: ") && bad.errors.contains("--help"));
-        EXPECT_TRUE(bad.output.isEmpty());
-    }
+    const Ending bad = runSheet({"smoke", "a.jpg"});
+    EXPECT_EQ(bad.status, 2);
+    EXPECT_TRUE(bad.errors.startsWith("korvane-sheet: ") && bad.errors.contains("--help"));
+    EXPECT_TRUE(bad.output.isEmpty());
 }
 
 TEST(SheetProgram, IsWhatComposeOpens) {
