@@ -35,10 +35,6 @@ struct Compose : ServiceTest {
         sheet.shownConfigurationItems().at(item)->tapHandler()();
         return *std::dynamic_pointer_cast<UITableViewController>(sheet.configurationViewController())->tableView();
     }
-    static void choose(SLComposeServiceViewController &sheet, size_t item, qint64 row) {
-        openOption(sheet, item).userSelectsRow({row, 0});
-        sheet.popConfigurationViewController();
-    }
     static QString value(const SLComposeServiceViewController &sheet, size_t item) {
         return sheet.shownConfigurationItems().at(item)->value().value_or(QStringLiteral("(null)"));
     }
@@ -68,7 +64,8 @@ TEST_F(Compose, EachAudienceArrivesAndIsRememberedWithTheAlbum) {
         const auto &[shown, audience] = audiences[row];
         const auto sheet = open<Flickr>({photo(jpegOfSize(5000 + row))});
         sheet->textView()->userReplacesText({0, 0}, QStringLiteral("Abend\nam See"));
-        choose(*sheet, 1, row);
+        openOption(*sheet, 1).userSelectsRow({row, 0});
+        sheet->popConfigurationViewController();
         EXPECT_EQ(value(*sheet, 1), QLatin1String(shown));
         ASSERT_TRUE(post(*sheet));
         ASSERT_TRUE(waitForState("done", int(row) + 1));

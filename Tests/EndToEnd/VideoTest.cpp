@@ -23,8 +23,6 @@ TEST_F(Video, FilesDataAndLibraryVideosArriveAndLeaveNothingBehind) {
     const auto videos = vimeo.videos();
     ASSERT_EQ(videos.size(), 3u);
     EXPECT_EQ(videos[0].sha256, sha256Of(file));
-    EXPECT_EQ(videos[0].tags, (QStringList{QStringLiteral("a"), QStringLiteral("b c")}));
-    EXPECT_EQ(videos[0].privacy, QStringLiteral("nobody"));
     EXPECT_EQ(videos[1].sha256, sha256Of(data));
     EXPECT_EQ(videos[2].filename, QStringLiteral("video.mp4"));
     EXPECT_EQ(vimeo.protocolErrors(), QStringList());

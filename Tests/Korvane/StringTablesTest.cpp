@@ -28,18 +28,14 @@ QString contents(const QString &path) {
     return QString::fromUtf8(file.readAll());
 }
 
-// The keys that are looked up, one or a list at a time, in the sources whose names begin with the table's.
+// The keys in the sources whose names begin with the table's: there, no other text is in capitals.
 QSet<QString> keysInSources(const QString &table) {
-    static const QRegularExpression lookUp(
-        QStringLiteral("(?:\\blocalized\\w*\\(|\\btitles)\\s*\\{?\\s*((?:QStringLiteral\\(\"[A-Z_]+\"\\),?\\s*)+)"));
     static const QRegularExpression key(QStringLiteral("\"([A-Z_]+)\""));
     QSet<QString> keys;
-    const QDir root(QStringLiteral(KORVANE_SOURCE));
-    for (const QString &folder : {QStringLiteral("."), QStringLiteral("Korvane")})
-        for (const QFileInfo &file : QDir(root.filePath(folder)).entryInfoList({table + QStringLiteral("*.cpp")}))
-            for (const QString &list : found(lookUp, contents(file.filePath())))
-                for (const QString &name : found(key, list))
-                    keys.insert(table + u'|' + name);
+    for (const QString &folder : {QStringLiteral(KORVANE_SOURCE), QStringLiteral(KORVANE_SOURCE "/Korvane")})
+        for (const QFileInfo &file : QDir(folder).entryInfoList({table + QStringLiteral("*.cpp")}))
+            for (const QString &name : found(key, contents(file.filePath())))
+                keys.insert(table + u'|' + name);
     return keys;
 }
 

@@ -54,10 +54,7 @@ TEST(OAuthSigner, MakesThePublishedHeaders) {
     EXPECT_TRUE(says(photos, "oauth_signature=\"tR3%2BTy81lMeYAr%2FFid0kMTYa%2FWM%3D\""));
     EXPECT_FALSE(says(photos, "kd94hf93k423kf44"));
     EXPECT_FALSE(says(photos, "pfkkdhi9sl3r4s00"));
-}
-
-TEST(OAuthSigner, SignsTheFirstStepOfASignIn) {
-    // dev.twitter.com, "Implementing sign in"
+    // dev.twitter.com, "Implementing sign in": its first step, without a token
     const QByteArray header = OAuthSigner::authorizationHeader(
         "POST", url("https://api.twitter.com/oauth/request_token"), {},
         credential("cChZNFj6T5R0TigYB9yd1w", "L8qq9PZyRg6ieKGEKhZolGC0vJWLw8iEJ88DRdyOg", "", ""), 1318467427,
