@@ -107,23 +107,11 @@ quint64 placeOf(FuzzedDataProvider &input) {
 }
 
 QVariant valueOf(FuzzedDataProvider &input, int depth = 0) {
-    switch (input.ConsumeIntegralInRange(0, depth < 4 ? 14 : 9)) {
-    case 0:
-        return input.ConsumeBool();
-    case 1:
-        return input.ConsumeIntegral<qint32>();
-    case 2:
-        return input.ConsumeIntegral<quint32>();
-    case 3:
-        return input.ConsumeIntegral<qint64>();
-    case 4:
-        return input.ConsumeIntegral<quint64>();
-    case 5:
-        return input.ConsumeFloatingPoint<double>();
-    case 6:
-        return QVariant::fromValue(input.ConsumeIntegral<uchar>());
-    case 7:
-        return QVariant::fromValue(input.ConsumeIntegral<short>());
+    static const QVariant plain[]{
+        true, -1, 1U, Q_INT64_C(-1), ~0ULL, 1e308, QVariant::fromValue(uchar(1)), QVariant::fromValue(short(-1))};
+    const auto kind = input.ConsumeIntegralInRange<size_t>(0, depth < 4 ? 14 : 9);
+    if (kind < std::size(plain)) return plain[kind];
+    switch (kind) {
     case 8:
         return textOf(input);
     case 9:

@@ -1,6 +1,5 @@
-// What a video post is made of, how Vimeo's answers are read, and the reader of its file.
+// What a video post is made of, and how Vimeo's answers are read.
 #include "Korvane/VimeoPost.h"
-#include "Korvane/VimeoUploadSession.h"
 #include "Tests/Support/Testing.h"
 
 using namespace korvane;
@@ -64,41 +63,4 @@ TEST(VimeoPost, TellsAnswersFromFailuresAndLogsThem) {
         EXPECT_TRUE(log.lines().value(0).startsWith(QLatin1String(logged)));
         EXPECT_EQ(VimeoPost::dictionaryWithResponseData(NSData(body.value_or("")), nullptr), answer);
     }
-}
-
-TEST(VimeoCheckpoint, OutlivesBeingWrittenDown) {
-    VimeoCheckpoint checkpoint;
-    EXPECT_EQ(VimeoCheckpoint::withDictionary(checkpoint.dictionary()), checkpoint);
-    EXPECT_EQ(VimeoCheckpoint::withDictionary({}), checkpoint);
-    checkpoint = {QStringLiteral("a1"),      NSURL::URLWithString(QStringLiteral("http://v/upload?ticket_id=a1")),
-                  Q_UINT64_C(6'442'450'944), true,
-                  QStringLiteral("53"),      false};
-    EXPECT_EQ(VimeoCheckpoint::withDictionary(checkpoint.dictionary()), checkpoint);
-}
-
-TEST(KRDataReader, ReadsRangesOfAFileThatMayChange) {
-    const TemporaryHome home;
-    std::optional<NSError> error = NSError(QStringLiteral("before"), 1);
-    EXPECT_EQ(KRDataReader::dataReaderWithURL(std::nullopt, &error), nullptr);
-    EXPECT_EQ(error->domain(), QStringLiteral("before"));
-    EXPECT_EQ(KRDataReader::dataReaderWithURL(NSURL::fileURLWithPath("/nowhere/a.mp4"), &error), nullptr);
-    EXPECT_EQ(error->domain(), NSPOSIXErrorDomain);
-
-    const QByteArray path = home.file(QStringLiteral("a.mp4"), "0123456789");
-    const auto reader = KRDataReader::dataReaderWithURL(NSURL::fileURLWithPath(path), &error);
-    EXPECT_EQ(reader->dataWithRange(2, 3)->bytes(), "234");
-    EXPECT_EQ(reader->length(), 10u);
-    EXPECT_EQ(reader->readHandle->offsetInFile(), 5u);
-    ASSERT_EQ(::truncate(path.constData(), 4), 0);
-    EXPECT_EQ(reader->length(), 4u);
-}
-
-TEST(VimeoUploadSessionDeathTest, StopsWithoutARemoteEnd) {
-    const auto upload = [] {
-        const auto session = VimeoUploadSession::init();
-        session->setRemoteSession(nullptr);
-        session->uploadPost(VimeoPost::init());
-    };
-    EXPECT_DEATH(upload(), "\\(_remoteSession\\).*\\[VimeoUploadSession uploadPost:error:\\].*"
-                           "Korvane/VimeoUploadSession.*53");
 }

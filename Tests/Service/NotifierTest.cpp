@@ -99,10 +99,8 @@ TEST(UploadsWindow, OpensAsAFreshProgramAndInAUnitOfItsOwnWhereTheServiceIsOne) 
         home.setEnvironment("SYSTEMD_EXEC_PID", unit);
         UploadsWindow::open(window);
         EXPECT_TRUE(waitFor([&] { return QFile::exists(said); }));
-        QFile file(said);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        const QByteArray text = file.readAll();
-        file.remove();
+        const QByteArray text = home.contents("said");
+        QFile::remove(said);
         return text;
     };
     const QByteArray alone = "SigBlk:\t0000000000000000\nSigIgn:\t0000000000000000\n--uploads\n";
