@@ -133,7 +133,7 @@ TEST_F(ShareWindow, AlbumsThatCannotBeLoadedSayWhyAndAreLoadedOnRequest) {
     CFPreferencesSetAppValue(FlickrUploadPhotoSetTitle, text("Holidays"), FlickrUploadDomain);
     CFPreferencesSetAppValue(FlickrUploadPhotoSetID, server.albums().at(0).id, FlickrUploadDomain);
     CFPreferencesAppSynchronize(FlickrUploadDomain);
-    server.on("getList").answer(200, "text/xml", R"(<rsp stat="fail"><err msg="Invalid auth"/></rsp>)").hang();
+    server.on("getList").answer(200, "text/xml", R"(<rsp stat="fail"><err msg="Invalid auth"/></rsp>)").delay(1500);
     open({"flickr", photo("sea.jpg")});
     user->clicks(text("Album, Holidays"));
     EXPECT_TRUE(waitToRead("could not be loaded. Flickr says: Invalid auth"));
@@ -142,7 +142,6 @@ TEST_F(ShareWindow, AlbumsThatCannotBeLoadedSayWhyAndAreLoadedOnRequest) {
     EXPECT_EQ(user->nameOfFocused(), text("Try again"));
     user->presses(Qt::Key_Return);
     EXPECT_TRUE(waitToRead("Loading…"));
-    server.release();
     EXPECT_TRUE(user->find(text("Holidays")));
     EXPECT_EQ(user->nameOfFocused(), text("No album"));
     user->clicks(text("Back"));
