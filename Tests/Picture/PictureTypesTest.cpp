@@ -24,9 +24,9 @@ TEST(CGImageSource, TakesTheFirstBytesForEnough) {
     EXPECT_EQ(typeOf(withBrand("heix")), kUTTypeHEIC);
     EXPECT_EQ(typeOf(withBrand("mif1")), kUTTypeHEIC);
     EXPECT_EQ(typeOf(withBrand("avis")), kUTTypeAVIF);
-    for (const QByteArray &video :
-         {withBrand("isom"), withBrand("XAVC"), withBrand("iso5"), QByteArray("\x1a\x45\xdf\xa3"),
-          QByteArray::fromHex("3026b2758e66cf11a6d900aa0062ce6c")}) {
+    const QByteArray webm = QByteArray::fromHex("1a45dfa39f4286810142f7810142f2810442f381084282847765626d");
+    const QByteArray wmv = QByteArray::fromHex("3026b2758e66cf11a6d900aa0062ce6c");
+    for (const QByteArray &video : {withBrand("isom"), withBrand("XAVC"), withBrand("iso5"), webm, wmv}) {
         EXPECT_EQ(typeOf(video), QString());
         EXPECT_TRUE(UTTypeConformsTo(typeIdentifierForData(NSData(video)), kUTTypeMovie)) << video.constData();
     }

@@ -42,7 +42,6 @@ TEST(Reachability, KnowsADefaultRouteAndAModemByTheRoutesDevice) {
         {"", "", "", 0},
         {"eth0", "garbage\n\n", "", 0},
         {route4("net0", "100"), "", "INTERFACE=net0\nIFINDEX=2\n", reachable},
-        {route4("net0", "100"), "", "DEVTYPE=wlan\nINTERFACE=net0\n", reachable},
         {route4("net0", "100"), "", "DEVTYPE=wwan\nINTERFACE=net0\n", reachable | cellular},
         {route4("wwan0", "100"), "", "", reachable | cellular},
         {route4("ppp0", "0"), "", "", reachable | cellular},
