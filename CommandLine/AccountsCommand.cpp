@@ -46,11 +46,11 @@ environment (KORVANE_CONSUMER_SECRET), or from standard input, before the code. 
 --credential-file stores an account that was signed in elsewhere, from a JSON object:
   {"username": "…", "consumerKey": "…", "consumerSecret": "…", "token": "…", "tokenSecret": "…"})";
 
-std::vector<std::shared_ptr<ACAccount>> allAccounts() {
+std::vector<std::shared_ptr<ACAccount>> allAccounts(std::optional<NSError> *error) {
     const ACAccountStore store;
     std::vector<std::shared_ptr<ACAccount>> all;
     for (const QString &type : {ACAccountTypeIdentifierFlickr, ACAccountTypeIdentifierVimeo})
-        for (const auto &account : store.accountsWithAccountType(store.accountTypeWithAccountTypeIdentifier(type)))
+        for (const auto &account : store.accountsWithAccountType(ACAccountType(type), error))
             all.push_back(account);
     return all;
 }
@@ -135,7 +135,10 @@ int AccountsCommand::run() {
 }
 
 int AccountsCommand::_list() {
-    const auto accounts = allAccounts();
+    std::optional<NSError> error;
+    const auto accounts = allAccounts(&error);
+    if (error && error->domain() != ACErrorDomain) return fail(error, ExitUploadFailed);
+    if (error) Output::problem(error->localizedDescription()); // a damaged list: there are no accounts any more
     if (_json) {
         QJsonArray array;
         for (const auto &account : accounts)

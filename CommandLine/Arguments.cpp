@@ -21,6 +21,11 @@ std::string Arguments::problemWithNumber(const std::string &text) {
     return isDecimal && fits && number > 0 ? std::string() : "\"" + text + "\" is not a number above 0";
 }
 
+QString Arguments::problemWithAddress(const std::string &address) {
+    return QStringLiteral("%1: this is not a file on this device; copy it here first")
+        .arg(QString::fromStdString(address));
+}
+
 QStringList Arguments::texts(const std::vector<std::string> &arguments) {
     QStringList list;
     for (const std::string &argument : arguments)

@@ -18,6 +18,9 @@ namespace Arguments {
 std::string problemWithText(const std::string &text);   // it has to be UTF-8
 std::string problemWithNumber(const std::string &text); // a whole number above 0 that fits into 64 bits
 
+// Of an address that FileArgument finds no path for.
+QString problemWithAddress(const std::string &address);
+
 QStringList texts(const std::vector<std::string> &arguments);
 // "flickr" or "vimeo", as the commands take it.
 QString serviceOf(const ACAccountType &type);

@@ -7,6 +7,7 @@
 #include "CommandLine/SheetUser.h"
 #include "FlickrAudienceController.h"
 #include "FrontEnd/ExitStatus.h"
+#include "FrontEnd/FileArgument.h"
 #include "FrontEnd/FileLimit.h"
 #include "FrontEnd/SystemLog.h"
 #include "FrontEnd/UploadText.h"
@@ -45,7 +46,9 @@ std::string problemWithAlbum(const std::string &album) {
 
 ShareFlickrCommand::ShareFlickrCommand(CLI::App &share) {
     _app = share.add_subcommand("flickr", "Share photos to Flickr");
-    _app->add_option("FILE", _files, "The photos, each a picture file")->required()->type_name("");
+    _app->add_option("FILE", _files, "The photos, each a picture file: paths or file:// addresses")
+        ->required()
+        ->type_name("");
     _app->add_option("--title", _title, "Title of each photo")->type_name("TEXT")->check(Arguments::problemWithText);
     _app->add_option("--audience", _audience,
                      "Who sees the photos: public, friends, family or only-me; as last time if not given")
@@ -68,7 +71,10 @@ bool ShareFlickrCommand::isChosen() const {
 int ShareFlickrCommand::run() {
     sendLogToSystemLog();
     raiseFileLimit();
-    auto attachments = _attachments();
+    QByteArrayList files;
+    for (const std::string &file : _files)
+        files.append(FileArgument::path(QByteArray::fromStdString(file)));
+    auto attachments = _attachments(files);
     if (!attachments) return ExitUsage;
     if (_noAlbum) FlickrComposeViewController::forgetPhotoSet();
     const auto sheet = SheetUser::opensFlickrSheet(std::move(*attachments));
@@ -77,9 +83,6 @@ int ShareFlickrCommand::run() {
     if (const auto status = _fill(*sheet)) return *status;
     if (const auto status = SheetUser::posts(*sheet)) return *status;
     sheet->setAttachments({}); // lets go of the files
-    QByteArrayList files;
-    for (const std::string &file : _files)
-        files.append(QByteArray::fromStdString(file));
     return _report.succeeded(files, sheet->session()->lastMessageID(), SheetUser::reads(*sheet));
 }
 
@@ -109,15 +112,17 @@ std::optional<int> ShareFlickrCommand::_chooseAlbum(FlickrComposeViewController 
     return std::nullopt;
 }
 
-std::optional<std::vector<SLAttachment>> ShareFlickrCommand::_attachments() const {
+std::optional<std::vector<SLAttachment>> ShareFlickrCommand::_attachments(const QByteArrayList &files) const {
     QStringList problems;
-    for (const std::string &file : _files)
-        if (const auto problem = SLAttachment::photoProblem(QByteArray::fromStdString(file)))
+    for (qsizetype i = 0; i < files.size(); ++i)
+        if (files[i].isEmpty())
+            problems.append(Arguments::problemWithAddress(_files[size_t(i)]));
+        else if (const auto problem = SLAttachment::photoProblem(files[i]))
             problems.append(problem->localizedDescription());
     std::vector<SLAttachment> attachments;
-    for (size_t i = 0; i < _files.size() && problems.isEmpty(); ++i) {
+    for (qsizetype i = 0; i < files.size() && problems.isEmpty(); ++i) {
         std::optional<NSError> error;
-        auto attachment = SLAttachment::photoAttachment(QByteArray::fromStdString(_files[i]), _withoutMetadata, &error);
+        auto attachment = SLAttachment::photoAttachment(files[i], _withoutMetadata, &error);
         if (attachment)
             attachments.push_back(std::move(*attachment));
         else

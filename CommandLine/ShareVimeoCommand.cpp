@@ -5,6 +5,7 @@
 #include "CommandLine/Output.h"
 #include "CommandLine/SheetUser.h"
 #include "FrontEnd/ExitStatus.h"
+#include "FrontEnd/FileArgument.h"
 #include "FrontEnd/SystemLog.h"
 #include "Korvane/VimeoPost.h"
 #include "Korvane/VimeoUploadSession.h"
@@ -51,7 +52,7 @@ std::string problemWithTag(const std::string &tag) {
 
 ShareVimeoCommand::ShareVimeoCommand(CLI::App &share) {
     _app = share.add_subcommand("vimeo", "Share a video to Vimeo");
-    _app->add_option("FILE", _file, "The video file")->required()->type_name("");
+    _app->add_option("FILE", _file, "The video file: a path or a file:// address")->required()->type_name("");
     _app->add_option("--title", _title, "Title of the video, at most 128 bytes")
         ->required()
         ->type_name("TEXT")
@@ -79,11 +80,11 @@ bool ShareVimeoCommand::isChosen() const {
 
 int ShareVimeoCommand::run() {
     sendLogToSystemLog();
-    const QByteArray file = QByteArray::fromStdString(_file);
+    const QByteArray file = FileArgument::path(QByteArray::fromStdString(_file));
     std::optional<NSError> error;
-    const auto attachment = SLAttachment::videoAttachment(file, &error);
+    const auto attachment = file.isEmpty() ? std::nullopt : SLAttachment::videoAttachment(file, &error);
     if (!attachment) {
-        Output::problem(error->localizedDescription());
+        Output::problem(error ? error->localizedDescription() : Arguments::problemWithAddress(_file));
         Output::problem(QStringLiteral("Nothing was shared."));
         return ExitUsage;
     }

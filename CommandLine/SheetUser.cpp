@@ -6,6 +6,7 @@
 #include "FrontEnd/ExitStatus.h"
 #include "FrontEnd/FlickrSheet.h"
 #include "Platform/Accounts/ACAccountStore.h"
+#include "Platform/Accounts/ACError.h"
 #include "Platform/Social/RemoteServiceError.h"
 
 namespace korvane {
@@ -19,7 +20,9 @@ bool opens(SLComposeServiceViewController &sheet, const std::shared_ptr<ACAccoun
     const ACAccountType type(accountType);
     std::optional<NSError> error;
     ACAccountStore().accountsWithAccountType(type, &error);
-    if (error)
+    const bool isDamaged = error && error->domain() == ACErrorDomain && error->code() == ACErrorAccountListDamaged;
+    if (isDamaged) Output::problem(error->localizedDescription());
+    if (error && !isDamaged)
         Output::problem(QStringLiteral("The list of accounts cannot be read. ") + error->localizedDescription());
     else
         Output::problem(QStringLiteral("There is no %1 account yet. Add one with:").arg(Arguments::serviceOf(type)),

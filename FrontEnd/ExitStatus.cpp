@@ -2,10 +2,12 @@
 #include "FrontEnd/ExitStatus.h"
 
 #include "Platform/Social/RemoteServiceError.h"
+#include "Platform/Social/SLAttachment.h"
 
 namespace korvane {
 
 ExitStatus exitStatusOf(const NSError &error) {
+    if (error.domain() == SLAttachmentErrorDomain) return ExitUsage;
     if (error.domain() != RemoteServiceErrorDomain) return ExitUploadFailed;
     switch (error.code()) {
     case RemoteServiceErrorUnreachable:

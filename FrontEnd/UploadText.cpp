@@ -30,7 +30,7 @@ QString waitText(const Upload &upload) {
     if (upload.waitingFor == QLatin1String("network"))
         text += QStringLiteral("the network");
     else if (upload.waitingFor == QLatin1String("sign-in"))
-        text += QStringLiteral("an account (korvane accounts add)");
+        text += QStringLiteral("an account (korvane accounts add %1)").arg(UploadText::printable(upload.service));
     else
         text += QStringLiteral("the next try");
     if (upload.nextTry.isValid() && upload.waitingFor != QLatin1String("sign-in"))

@@ -18,8 +18,6 @@
 namespace korvane {
 namespace {
 
-constexpr int greetingMilliseconds = 60 * 1000;  // a service that does not say a word in this time is stuck
-constexpr int callMilliseconds = 10 * 60 * 1000; // clearing a very long history takes its time
 constexpr quint32 pageSize = 1000;
 constexpr qsizetype idsInOneCall = 500;
 
@@ -34,18 +32,17 @@ std::vector<Upload> uploadsOf(const QVariant &value) {
 
 } // namespace
 
-UploadsClient::UploadsClient() : _connection(FlickrRemoteServiceName, true) {}
+UploadsClient::UploadsClient() : _connection(FlickrRemoteServiceName) {}
 
 bool UploadsClient::connectToBus(std::optional<NSError> *error) {
-    return _connection.open(greetingMilliseconds, error) == ServiceConnection::Answered;
+    return _connection.open(error) == ServiceConnection::Answered;
 }
 
 std::optional<QVariant> UploadsClient::_call(const QString &interface, const QString &member,
                                              const QVariantList &arguments, std::optional<NSError> *error) {
     if (!_connection.isOpen() && !connectToBus(error)) return std::nullopt;
     QVariantList answer;
-    const auto outcome =
-        _connection.call(UploadsInterface::path(), interface, member, arguments, callMilliseconds, &answer, error);
+    const auto outcome = _connection.call(UploadsInterface::path(), interface, member, arguments, &answer, error);
     return outcome == ServiceConnection::Answered ? std::optional(answer.value(0)) : std::nullopt;
 }
 

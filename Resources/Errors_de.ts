@@ -100,8 +100,16 @@
         <translation>Ein Teil der Zugangsdaten ist leer oder enthält Steuerzeichen.</translation>
     </message>
     <message>
-        <source>"accounts" in %1 is not a list.</source>
-        <translation>„accounts“ in %1 ist keine Liste.</translation>
+        <source>"accounts" is not a list</source>
+        <translation>„accounts“ ist keine Liste</translation>
+    </message>
+    <message>
+        <source>The list of accounts was damaged and is kept as %1. Sign in again.</source>
+        <translation>Die Liste der Konten war beschädigt und wird als %1 aufbewahrt. Melden Sie sich erneut an.</translation>
+    </message>
+    <message>
+        <source>No account in %1 is understood. Mend the file, or sign in again.</source>
+        <translation>Kein Konto in %1 ist verständlich. Berichtigen Sie die Datei, oder melden Sie sich erneut an.</translation>
     </message>
     <message>
         <source>There is no account "%1".</source>
@@ -220,6 +228,18 @@
         <translation>Der Schlüsselbund ist gesperrt. Entsperren Sie ihn und versuchen Sie es erneut.</translation>
     </message>
     <message>
+        <source>%1 belongs to another user. Move it away, then add the account again.</source>
+        <translation>%1 gehört einem anderen Benutzer. Entfernen Sie die Datei von dort und fügen Sie das Konto dann erneut hinzu.</translation>
+    </message>
+    <message>
+        <source>The credential was not stored: the keyring does not answer. Try again, log out and in again, or set KORVANE_SECRETS=file to keep credentials in a file.</source>
+        <translation>Die Zugangsdaten wurden nicht gespeichert: Der Schlüsselbund antwortet nicht. Versuchen Sie es erneut, melden Sie sich am Computer ab und wieder an, oder setzen Sie KORVANE_SECRETS=file, um Zugangsdaten in einer Datei aufzubewahren.</translation>
+    </message>
+    <message>
+        <source>The keyring does not answer. Try again, or log out and in again.</source>
+        <translation>Der Schlüsselbund antwortet nicht. Versuchen Sie es erneut, oder melden Sie sich am Computer ab und wieder an.</translation>
+    </message>
+    <message>
         <source>The keyring does not hold it any more. %1</source>
         <translation>Der Schlüsselbund enthält die Zugangsdaten nicht mehr. %1</translation>
     </message>
@@ -333,6 +353,10 @@
         <translation>sie ist zu lang</translation>
     </message>
     <message>
+        <source>it is not HTTP</source>
+        <translation>sie ist kein HTTP</translation>
+    </message>
+    <message>
         <source>status %1</source>
         <translation>Status %1</translation>
     </message>
@@ -405,8 +429,8 @@
         <translation>wurde abgebrochen</translation>
     </message>
     <message>
-        <source>%1: not a regular file</source>
-        <translation>%1: keine gewöhnliche Datei</translation>
+        <source>not a regular file</source>
+        <translation>keine gewöhnliche Datei</translation>
     </message>
     <message>
         <source>The operation could not be completed (%1, code %2).</source>
@@ -453,6 +477,10 @@
         <translation>Die Antwort des Webdienstes ist zu groß.</translation>
     </message>
     <message>
+        <source>The web service does not answer in HTTP.</source>
+        <translation>Der Webdienst antwortet nicht in HTTP.</translation>
+    </message>
+    <message>
         <source>The web service closed the connection.</source>
         <translation>Der Webdienst hat die Verbindung geschlossen.</translation>
     </message>
@@ -485,8 +513,8 @@
         <translation>Die Daten zum Teilen können nicht kopiert werden</translation>
     </message>
     <message>
-        <source>A file changed while it was being shared.</source>
-        <translation>Eine Datei wurde beim Teilen geändert.</translation>
+        <source>the file has changed since it was chosen. Check that it is complete, then share it again.</source>
+        <translation>Die Datei wurde geändert, seit sie ausgewählt wurde. Prüfen Sie, ob sie vollständig ist, und teilen Sie sie dann erneut.</translation>
     </message>
     <message>
         <source>Cannot open the data to be shared</source>
@@ -515,6 +543,10 @@
     <message>
         <source>The upload service (korvane-uploadd) cannot be reached: %1</source>
         <translation>Der Upload-Dienst (korvane-uploadd) ist nicht erreichbar: %1</translation>
+    </message>
+    <message>
+        <source>The upload service (korvane-uploadd) does not answer. End it and try again: it goes on with its uploads when it is started anew.</source>
+        <translation>Der Upload-Dienst (korvane-uploadd) antwortet nicht. Beenden Sie ihn und versuchen Sie es noch einmal: Wenn er neu gestartet wird, setzt er seine Uploads fort.</translation>
     </message>
     <message>
         <source>It was broken off.</source>
@@ -573,16 +605,16 @@
         <translation>Die Datei ist zu groß für Flickr.</translation>
     </message>
     <message>
-        <source>Sign in again (korvane accounts), then retry.</source>
-        <translation>Melden Sie sich erneut an (korvane accounts) und versuchen Sie es dann noch einmal.</translation>
+        <source>Sign in again, then retry.</source>
+        <translation>Melden Sie sich erneut an und versuchen Sie es dann noch einmal.</translation>
     </message>
     <message>
         <source>Sign in again and allow uploads, then retry.</source>
         <translation>Melden Sie sich erneut an, erlauben Sie das Hochladen und versuchen Sie es dann noch einmal.</translation>
     </message>
     <message>
-        <source>Check the application's key (korvane accounts), then retry.</source>
-        <translation>Prüfen Sie den Schlüssel der Anwendung (korvane accounts) und versuchen Sie es dann erneut.</translation>
+        <source>Check the application's key, then retry.</source>
+        <translation>Prüfen Sie den Schlüssel der Anwendung und versuchen Sie es dann erneut.</translation>
     </message>
     <message>
         <source>Change what Flickr objects to and share it again, or retry.</source>
@@ -597,8 +629,8 @@
         <translation>Flickr hat die Uhrzeit der Anfrage abgelehnt. Stellen Sie die Uhr dieses Geräts und versuchen Sie es dann erneut.</translation>
     </message>
     <message>
-        <source>Flickr does not accept the sign-in (%1). Sign in again (korvane accounts), then retry.</source>
-        <translation>Flickr akzeptiert die Anmeldung nicht (%1). Melden Sie sich erneut an (korvane accounts) und versuchen Sie es dann noch einmal.</translation>
+        <source>Flickr does not accept the sign-in (%1). Sign in again, then retry.</source>
+        <translation>Flickr akzeptiert die Anmeldung nicht (%1). Melden Sie sich erneut an und versuchen Sie es dann noch einmal.</translation>
     </message>
     <message>
         <source>Flickr is not available just now: %1</source>
@@ -617,12 +649,12 @@
         <translation>Das Foto ist auf Flickr; es muss noch zum Album hinzugefügt werden. %1</translation>
     </message>
     <message>
-        <source>The photo is no longer in the photo library. Share it again from where it is now.</source>
-        <translation>Das Foto ist nicht mehr in der Fotomediathek. Teilen Sie es erneut von dort, wo es jetzt liegt.</translation>
+        <source>The photo %1 is no longer in the photo library. Share it again from where it is now.</source>
+        <translation>Das Foto %1 ist nicht mehr in der Fotomediathek. Teilen Sie es erneut von dort, wo es jetzt liegt.</translation>
     </message>
     <message>
-        <source>There is no usable sign-in for the %1 account of %2, from which this was shared. Add it with: korvane accounts add %3</source>
-        <translation>Für das %1-Konto von %2, mit dem dies geteilt wurde, gibt es keine brauchbare Anmeldung. Fügen Sie es hinzu mit: korvane accounts add %3</translation>
+        <source>There is no usable sign-in for the %1 account of %2, from which this was shared.</source>
+        <translation>Für das %1-Konto von %2, mit dem dies geteilt wurde, gibt es keine brauchbare Anmeldung.</translation>
     </message>
     <message numerus="yes">
         <source>%n photo(s) shared to Flickr</source>
@@ -741,8 +773,8 @@
         <translation>Es gibt nichts zu teilen.</translation>
     </message>
     <message>
-        <source>There is no %1 account. Add one with: korvane accounts add %2</source>
-        <translation>Es gibt kein %1-Konto. Fügen Sie eines hinzu mit: korvane accounts add %2</translation>
+        <source>There is no %1 account.</source>
+        <translation>Es gibt kein %1-Konto.</translation>
     </message>
     <message>
         <source>Given up after %1 hours of trying. Last: %2 Retry when it is better.</source>
@@ -785,8 +817,8 @@
         <translation>Vimeo hat das Video abgelehnt: %1 (Code %2). Versuchen Sie es erneut oder teilen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>Vimeo does not accept the sign-in (%1). Sign in again (korvane accounts), check this device's clock, then retry.</source>
-        <translation>Vimeo akzeptiert die Anmeldung nicht (%1). Melden Sie sich erneut an (korvane accounts), prüfen Sie die Uhr dieses Geräts und versuchen Sie es dann noch einmal.</translation>
+        <source>Vimeo does not accept the sign-in (%1). Sign in again, check this device's clock, then retry.</source>
+        <translation>Vimeo akzeptiert die Anmeldung nicht (%1). Melden Sie sich erneut an, prüfen Sie die Uhr dieses Geräts und versuchen Sie es dann noch einmal.</translation>
     </message>
     <message>
         <source>Vimeo asks to send the video again.</source>

@@ -100,8 +100,16 @@
         <translation>A part of the credential is empty or holds control characters.</translation>
     </message>
     <message>
-        <source>"accounts" in %1 is not a list.</source>
-        <translation>"accounts" in %1 is not a list.</translation>
+        <source>"accounts" is not a list</source>
+        <translation>"accounts" is not a list</translation>
+    </message>
+    <message>
+        <source>The list of accounts was damaged and is kept as %1. Sign in again.</source>
+        <translation>The list of accounts was damaged and is kept as %1. Sign in again.</translation>
+    </message>
+    <message>
+        <source>No account in %1 is understood. Mend the file, or sign in again.</source>
+        <translation>No account in %1 is understood. Mend the file, or sign in again.</translation>
     </message>
     <message>
         <source>There is no account "%1".</source>
@@ -220,6 +228,18 @@
         <translation>The keyring is locked. Unlock it and try again.</translation>
     </message>
     <message>
+        <source>%1 belongs to another user. Move it away, then add the account again.</source>
+        <translation>%1 belongs to another user. Move it away, then add the account again.</translation>
+    </message>
+    <message>
+        <source>The credential was not stored: the keyring does not answer. Try again, log out and in again, or set KORVANE_SECRETS=file to keep credentials in a file.</source>
+        <translation>The credential was not stored: the keyring does not answer. Try again, log out and in again, or set KORVANE_SECRETS=file to keep credentials in a file.</translation>
+    </message>
+    <message>
+        <source>The keyring does not answer. Try again, or log out and in again.</source>
+        <translation>The keyring does not answer. Try again, or log out and in again.</translation>
+    </message>
+    <message>
         <source>The keyring does not hold it any more. %1</source>
         <translation>The keyring does not hold it any more. %1</translation>
     </message>
@@ -333,6 +353,10 @@
         <translation>it is too long</translation>
     </message>
     <message>
+        <source>it is not HTTP</source>
+        <translation>it is not HTTP</translation>
+    </message>
+    <message>
         <source>status %1</source>
         <translation>status %1</translation>
     </message>
@@ -405,8 +429,8 @@
         <translation>was cancelled</translation>
     </message>
     <message>
-        <source>%1: not a regular file</source>
-        <translation>%1: not a regular file</translation>
+        <source>not a regular file</source>
+        <translation>not a regular file</translation>
     </message>
     <message>
         <source>The operation could not be completed (%1, code %2).</source>
@@ -453,6 +477,10 @@
         <translation>The web service's answer is too large.</translation>
     </message>
     <message>
+        <source>The web service does not answer in HTTP.</source>
+        <translation>The web service does not answer in HTTP.</translation>
+    </message>
+    <message>
         <source>The web service closed the connection.</source>
         <translation>The web service closed the connection.</translation>
     </message>
@@ -485,8 +513,8 @@
         <translation>Cannot copy the data to be shared</translation>
     </message>
     <message>
-        <source>A file changed while it was being shared.</source>
-        <translation>A file changed while it was being shared.</translation>
+        <source>the file has changed since it was chosen. Check that it is complete, then share it again.</source>
+        <translation>the file has changed since it was chosen. Check that it is complete, then share it again.</translation>
     </message>
     <message>
         <source>Cannot open the data to be shared</source>
@@ -515,6 +543,10 @@
     <message>
         <source>The upload service (korvane-uploadd) cannot be reached: %1</source>
         <translation>The upload service (korvane-uploadd) cannot be reached: %1</translation>
+    </message>
+    <message>
+        <source>The upload service (korvane-uploadd) does not answer. End it and try again: it goes on with its uploads when it is started anew.</source>
+        <translation>The upload service (korvane-uploadd) does not answer. End it and try again: it goes on with its uploads when it is started anew.</translation>
     </message>
     <message>
         <source>It was broken off.</source>
@@ -573,16 +605,16 @@
         <translation>The file is too large for Flickr.</translation>
     </message>
     <message>
-        <source>Sign in again (korvane accounts), then retry.</source>
-        <translation>Sign in again (korvane accounts), then retry.</translation>
+        <source>Sign in again, then retry.</source>
+        <translation>Sign in again, then retry.</translation>
     </message>
     <message>
         <source>Sign in again and allow uploads, then retry.</source>
         <translation>Sign in again and allow uploads, then retry.</translation>
     </message>
     <message>
-        <source>Check the application's key (korvane accounts), then retry.</source>
-        <translation>Check the application's key (korvane accounts), then retry.</translation>
+        <source>Check the application's key, then retry.</source>
+        <translation>Check the application's key, then retry.</translation>
     </message>
     <message>
         <source>Change what Flickr objects to and share it again, or retry.</source>
@@ -597,8 +629,8 @@
         <translation>Flickr refused the request's time. Set this device's clock, then retry.</translation>
     </message>
     <message>
-        <source>Flickr does not accept the sign-in (%1). Sign in again (korvane accounts), then retry.</source>
-        <translation>Flickr does not accept the sign-in (%1). Sign in again (korvane accounts), then retry.</translation>
+        <source>Flickr does not accept the sign-in (%1). Sign in again, then retry.</source>
+        <translation>Flickr does not accept the sign-in (%1). Sign in again, then retry.</translation>
     </message>
     <message>
         <source>Flickr is not available just now: %1</source>
@@ -617,12 +649,12 @@
         <translation>The photo is on Flickr; adding it to its album is still to be done. %1</translation>
     </message>
     <message>
-        <source>The photo is no longer in the photo library. Share it again from where it is now.</source>
-        <translation>The photo is no longer in the photo library. Share it again from where it is now.</translation>
+        <source>The photo %1 is no longer in the photo library. Share it again from where it is now.</source>
+        <translation>The photo %1 is no longer in the photo library. Share it again from where it is now.</translation>
     </message>
     <message>
-        <source>There is no usable sign-in for the %1 account of %2, from which this was shared. Add it with: korvane accounts add %3</source>
-        <translation>There is no usable sign-in for the %1 account of %2, from which this was shared. Add it with: korvane accounts add %3</translation>
+        <source>There is no usable sign-in for the %1 account of %2, from which this was shared.</source>
+        <translation>There is no usable sign-in for the %1 account of %2, from which this was shared.</translation>
     </message>
     <message numerus="yes">
         <source>%n photo(s) shared to Flickr</source>
@@ -741,8 +773,8 @@
         <translation>There is nothing to share.</translation>
     </message>
     <message>
-        <source>There is no %1 account. Add one with: korvane accounts add %2</source>
-        <translation>There is no %1 account. Add one with: korvane accounts add %2</translation>
+        <source>There is no %1 account.</source>
+        <translation>There is no %1 account.</translation>
     </message>
     <message>
         <source>Given up after %1 hours of trying. Last: %2 Retry when it is better.</source>
@@ -785,8 +817,8 @@
         <translation>Vimeo refused the video: %1 (code %2). Retry, or share it again.</translation>
     </message>
     <message>
-        <source>Vimeo does not accept the sign-in (%1). Sign in again (korvane accounts), check this device's clock, then retry.</source>
-        <translation>Vimeo does not accept the sign-in (%1). Sign in again (korvane accounts), check this device's clock, then retry.</translation>
+        <source>Vimeo does not accept the sign-in (%1). Sign in again, check this device's clock, then retry.</source>
+        <translation>Vimeo does not accept the sign-in (%1). Sign in again, check this device's clock, then retry.</translation>
     </message>
     <message>
         <source>Vimeo asks to send the video again.</source>

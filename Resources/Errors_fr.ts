@@ -100,8 +100,16 @@
         <translation>Une partie des identifiants est vide ou contient des caractères de contrôle.</translation>
     </message>
     <message>
-        <source>"accounts" in %1 is not a list.</source>
-        <translation>« accounts » dans %1 n’est pas une liste.</translation>
+        <source>"accounts" is not a list</source>
+        <translation>« accounts » n’est pas une liste</translation>
+    </message>
+    <message>
+        <source>The list of accounts was damaged and is kept as %1. Sign in again.</source>
+        <translation>La liste des comptes était endommagée et est conservée dans %1. Connectez-vous de nouveau.</translation>
+    </message>
+    <message>
+        <source>No account in %1 is understood. Mend the file, or sign in again.</source>
+        <translation>Aucun compte dans %1 n’est compréhensible. Corrigez le fichier ou connectez-vous de nouveau.</translation>
     </message>
     <message>
         <source>There is no account "%1".</source>
@@ -220,6 +228,18 @@
         <translation>Le trousseau est verrouillé. Déverrouillez-le et réessayez.</translation>
     </message>
     <message>
+        <source>%1 belongs to another user. Move it away, then add the account again.</source>
+        <translation>%1 appartient à un autre utilisateur. Déplacez ce fichier ailleurs, puis ajoutez de nouveau le compte.</translation>
+    </message>
+    <message>
+        <source>The credential was not stored: the keyring does not answer. Try again, log out and in again, or set KORVANE_SECRETS=file to keep credentials in a file.</source>
+        <translation>Les identifiants n’ont pas été enregistrés : le trousseau ne répond pas. Réessayez, fermez puis rouvrez votre session, ou définissez KORVANE_SECRETS=file pour les conserver dans un fichier.</translation>
+    </message>
+    <message>
+        <source>The keyring does not answer. Try again, or log out and in again.</source>
+        <translation>Le trousseau ne répond pas. Réessayez, ou fermez puis rouvrez votre session.</translation>
+    </message>
+    <message>
         <source>The keyring does not hold it any more. %1</source>
         <translation>Le trousseau ne contient plus ces identifiants. %1</translation>
     </message>
@@ -333,6 +353,10 @@
         <translation>elle est trop longue</translation>
     </message>
     <message>
+        <source>it is not HTTP</source>
+        <translation>ce n’est pas du HTTP</translation>
+    </message>
+    <message>
         <source>status %1</source>
         <translation>statut %1</translation>
     </message>
@@ -405,8 +429,8 @@
         <translation>annulé</translation>
     </message>
     <message>
-        <source>%1: not a regular file</source>
-        <translation>%1 : n’est pas un fichier ordinaire</translation>
+        <source>not a regular file</source>
+        <translation>n’est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>The operation could not be completed (%1, code %2).</source>
@@ -453,6 +477,10 @@
         <translation>La réponse du service web est trop volumineuse.</translation>
     </message>
     <message>
+        <source>The web service does not answer in HTTP.</source>
+        <translation>Le service web ne répond pas en HTTP.</translation>
+    </message>
+    <message>
         <source>The web service closed the connection.</source>
         <translation>Le service web a fermé la connexion.</translation>
     </message>
@@ -485,8 +513,8 @@
         <translation>Impossible de copier les données à partager</translation>
     </message>
     <message>
-        <source>A file changed while it was being shared.</source>
-        <translation>Un fichier a été modifié pendant le partage.</translation>
+        <source>the file has changed since it was chosen. Check that it is complete, then share it again.</source>
+        <translation>le fichier a changé depuis qu’il a été choisi. Vérifiez qu’il est complet, puis partagez-le de nouveau.</translation>
     </message>
     <message>
         <source>Cannot open the data to be shared</source>
@@ -515,6 +543,10 @@
     <message>
         <source>The upload service (korvane-uploadd) cannot be reached: %1</source>
         <translation>Le service d’envoi (korvane-uploadd) est injoignable : %1</translation>
+    </message>
+    <message>
+        <source>The upload service (korvane-uploadd) does not answer. End it and try again: it goes on with its uploads when it is started anew.</source>
+        <translation>Le service d’envoi (korvane-uploadd) ne répond pas. Arrêtez-le et réessayez : il reprendra ses envois à son prochain démarrage.</translation>
     </message>
     <message>
         <source>It was broken off.</source>
@@ -573,16 +605,16 @@
         <translation>Le fichier est trop volumineux pour Flickr.</translation>
     </message>
     <message>
-        <source>Sign in again (korvane accounts), then retry.</source>
-        <translation>Connectez-vous de nouveau (korvane accounts), puis réessayez.</translation>
+        <source>Sign in again, then retry.</source>
+        <translation>Connectez-vous de nouveau, puis réessayez.</translation>
     </message>
     <message>
         <source>Sign in again and allow uploads, then retry.</source>
         <translation>Connectez-vous de nouveau et autorisez les envois, puis réessayez.</translation>
     </message>
     <message>
-        <source>Check the application's key (korvane accounts), then retry.</source>
-        <translation>Vérifiez la clé de l’application (korvane accounts), puis réessayez.</translation>
+        <source>Check the application's key, then retry.</source>
+        <translation>Vérifiez la clé de l’application, puis réessayez.</translation>
     </message>
     <message>
         <source>Change what Flickr objects to and share it again, or retry.</source>
@@ -597,8 +629,8 @@
         <translation>Flickr a refusé l’heure de la requête. Réglez l’horloge de cet appareil, puis réessayez.</translation>
     </message>
     <message>
-        <source>Flickr does not accept the sign-in (%1). Sign in again (korvane accounts), then retry.</source>
-        <translation>Flickr n’accepte pas la connexion (%1). Connectez-vous de nouveau (korvane accounts), puis réessayez.</translation>
+        <source>Flickr does not accept the sign-in (%1). Sign in again, then retry.</source>
+        <translation>Flickr n’accepte pas la connexion (%1). Connectez-vous de nouveau, puis réessayez.</translation>
     </message>
     <message>
         <source>Flickr is not available just now: %1</source>
@@ -617,12 +649,12 @@
         <translation>La photo est sur Flickr ; il reste à l’ajouter à son album. %1</translation>
     </message>
     <message>
-        <source>The photo is no longer in the photo library. Share it again from where it is now.</source>
-        <translation>La photo n’est plus dans la photothèque. Partagez-la de nouveau depuis son emplacement actuel.</translation>
+        <source>The photo %1 is no longer in the photo library. Share it again from where it is now.</source>
+        <translation>La photo %1 n’est plus dans la photothèque. Partagez-la de nouveau depuis son emplacement actuel.</translation>
     </message>
     <message>
-        <source>There is no usable sign-in for the %1 account of %2, from which this was shared. Add it with: korvane accounts add %3</source>
-        <translation>Il n’y a pas de connexion utilisable pour le compte %1 de %2, avec lequel ceci a été partagé. Ajoutez-le avec : korvane accounts add %3</translation>
+        <source>There is no usable sign-in for the %1 account of %2, from which this was shared.</source>
+        <translation>Il n’y a pas de connexion utilisable pour le compte %1 de %2, avec lequel ceci a été partagé.</translation>
     </message>
     <message numerus="yes">
         <source>%n photo(s) shared to Flickr</source>
@@ -741,8 +773,8 @@
         <translation>Il n’y a rien à partager.</translation>
     </message>
     <message>
-        <source>There is no %1 account. Add one with: korvane accounts add %2</source>
-        <translation>Il n’y a pas de compte %1. Ajoutez-en un avec : korvane accounts add %2</translation>
+        <source>There is no %1 account.</source>
+        <translation>Il n’y a pas de compte %1.</translation>
     </message>
     <message>
         <source>Given up after %1 hours of trying. Last: %2 Retry when it is better.</source>
@@ -785,8 +817,8 @@
         <translation>Vimeo a refusé la vidéo : %1 (code %2). Réessayez ou partagez-la de nouveau.</translation>
     </message>
     <message>
-        <source>Vimeo does not accept the sign-in (%1). Sign in again (korvane accounts), check this device's clock, then retry.</source>
-        <translation>Vimeo n’accepte pas la connexion (%1). Connectez-vous de nouveau (korvane accounts), vérifiez l’horloge de cet appareil, puis réessayez.</translation>
+        <source>Vimeo does not accept the sign-in (%1). Sign in again, check this device's clock, then retry.</source>
+        <translation>Vimeo n’accepte pas la connexion (%1). Connectez-vous de nouveau, vérifiez l’horloge de cet appareil, puis réessayez.</translation>
     </message>
     <message>
         <source>Vimeo asks to send the video again.</source>

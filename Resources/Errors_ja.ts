@@ -100,8 +100,16 @@
         <translation>認証情報の一部が空か、制御文字を含んでいます。</translation>
     </message>
     <message>
-        <source>"accounts" in %1 is not a list.</source>
-        <translation>%1の「accounts」がリストではありません。</translation>
+        <source>"accounts" is not a list</source>
+        <translation>「accounts」がリストではありません</translation>
+    </message>
+    <message>
+        <source>The list of accounts was damaged and is kept as %1. Sign in again.</source>
+        <translation>アカウントのリストが破損していたため、%1として残してあります。もう一度サインインしてください。</translation>
+    </message>
+    <message>
+        <source>No account in %1 is understood. Mend the file, or sign in again.</source>
+        <translation>%1に認識できるアカウントがありません。ファイルを修正するか、もう一度サインインしてください。</translation>
     </message>
     <message>
         <source>There is no account "%1".</source>
@@ -220,6 +228,18 @@
         <translation>キーリングがロックされています。ロックを解除してもう一度お試しください。</translation>
     </message>
     <message>
+        <source>%1 belongs to another user. Move it away, then add the account again.</source>
+        <translation>%1は別のユーザーのものです。ほかの場所に移してから、アカウントをもう一度追加してください。</translation>
+    </message>
+    <message>
+        <source>The credential was not stored: the keyring does not answer. Try again, log out and in again, or set KORVANE_SECRETS=file to keep credentials in a file.</source>
+        <translation>認証情報を保存できませんでした：キーリングが応答しません。もう一度お試しになるか、ログアウトしてログインし直すか、KORVANE_SECRETS=fileを設定してファイルに保存してください。</translation>
+    </message>
+    <message>
+        <source>The keyring does not answer. Try again, or log out and in again.</source>
+        <translation>キーリングが応答しません。もう一度お試しになるか、コンピューターからログアウトしてログインし直してください。</translation>
+    </message>
+    <message>
         <source>The keyring does not hold it any more. %1</source>
         <translation>キーリングに認証情報がもうありません。%1</translation>
     </message>
@@ -330,6 +350,10 @@
         <translation>長すぎます</translation>
     </message>
     <message>
+        <source>it is not HTTP</source>
+        <translation>HTTPではありません</translation>
+    </message>
+    <message>
         <source>status %1</source>
         <translation>ステータス%1</translation>
     </message>
@@ -402,8 +426,8 @@
         <translation>キャンセルされました</translation>
     </message>
     <message>
-        <source>%1: not a regular file</source>
-        <translation>%1：通常のファイルではありません</translation>
+        <source>not a regular file</source>
+        <translation>通常のファイルではありません</translation>
     </message>
     <message>
         <source>The operation could not be completed (%1, code %2).</source>
@@ -450,6 +474,10 @@
         <translation>Webサービスの応答が大きすぎます。</translation>
     </message>
     <message>
+        <source>The web service does not answer in HTTP.</source>
+        <translation>Webサービスの応答がHTTPではありません。</translation>
+    </message>
+    <message>
         <source>The web service closed the connection.</source>
         <translation>Webサービスが接続を閉じました。</translation>
     </message>
@@ -482,8 +510,8 @@
         <translation>共有するデータをコピーできません</translation>
     </message>
     <message>
-        <source>A file changed while it was being shared.</source>
-        <translation>共有中にファイルが変更されました。</translation>
+        <source>the file has changed since it was chosen. Check that it is complete, then share it again.</source>
+        <translation>ファイルは選択したあとに変更されました。内容が揃っていることを確認してから、もう一度共有してください。</translation>
     </message>
     <message>
         <source>Cannot open the data to be shared</source>
@@ -512,6 +540,10 @@
     <message>
         <source>The upload service (korvane-uploadd) cannot be reached: %1</source>
         <translation>アップロードサービス（korvane-uploadd）に接続できません：%1</translation>
+    </message>
+    <message>
+        <source>The upload service (korvane-uploadd) does not answer. End it and try again: it goes on with its uploads when it is started anew.</source>
+        <translation>アップロードサービス（korvane-uploadd）が応答しません。終了してから、もう一度お試しください。再び起動されると、アップロードの続きを行います。</translation>
     </message>
     <message>
         <source>It was broken off.</source>
@@ -570,16 +602,16 @@
         <translation>ファイルがFlickrには大きすぎます。</translation>
     </message>
     <message>
-        <source>Sign in again (korvane accounts), then retry.</source>
-        <translation>もう一度サインイン（korvane accounts）してから再試行してください。</translation>
+        <source>Sign in again, then retry.</source>
+        <translation>もう一度サインインしてから再試行してください。</translation>
     </message>
     <message>
         <source>Sign in again and allow uploads, then retry.</source>
         <translation>もう一度サインインしてアップロードを許可してから再試行してください。</translation>
     </message>
     <message>
-        <source>Check the application's key (korvane accounts), then retry.</source>
-        <translation>アプリケーションのキーを確認（korvane accounts）してから再試行してください。</translation>
+        <source>Check the application's key, then retry.</source>
+        <translation>アプリケーションのキーを確認してから再試行してください。</translation>
     </message>
     <message>
         <source>Change what Flickr objects to and share it again, or retry.</source>
@@ -594,8 +626,8 @@
         <translation>Flickrがリクエストの時刻を拒否しました。このデバイスの時計を合わせてから再試行してください。</translation>
     </message>
     <message>
-        <source>Flickr does not accept the sign-in (%1). Sign in again (korvane accounts), then retry.</source>
-        <translation>Flickrがサインインを受け付けません（%1）。もう一度サインイン（korvane accounts）してから再試行してください。</translation>
+        <source>Flickr does not accept the sign-in (%1). Sign in again, then retry.</source>
+        <translation>Flickrがサインインを受け付けません（%1）。もう一度サインインしてから再試行してください。</translation>
     </message>
     <message>
         <source>Flickr is not available just now: %1</source>
@@ -614,12 +646,12 @@
         <translation>写真はFlickrにありますが、アルバムへの追加がまだです。%1</translation>
     </message>
     <message>
-        <source>The photo is no longer in the photo library. Share it again from where it is now.</source>
-        <translation>写真がライブラリにもうありません。今ある場所からもう一度共有してください。</translation>
+        <source>The photo %1 is no longer in the photo library. Share it again from where it is now.</source>
+        <translation>写真%1がライブラリにもうありません。今ある場所からもう一度共有してください。</translation>
     </message>
     <message>
-        <source>There is no usable sign-in for the %1 account of %2, from which this was shared. Add it with: korvane accounts add %3</source>
-        <translation>共有に使われた%2の%1アカウントには使用可能なサインインがありません。次のコマンドで追加してください：korvane accounts add %3</translation>
+        <source>There is no usable sign-in for the %1 account of %2, from which this was shared.</source>
+        <translation>共有に使われた%2の%1アカウントには使用可能なサインインがありません。</translation>
     </message>
     <message numerus="yes">
         <source>%n photo(s) shared to Flickr</source>
@@ -734,8 +766,8 @@
         <translation>共有するものがありません。</translation>
     </message>
     <message>
-        <source>There is no %1 account. Add one with: korvane accounts add %2</source>
-        <translation>%1アカウントがありません。次のコマンドで追加してください：korvane accounts add %2</translation>
+        <source>There is no %1 account.</source>
+        <translation>%1アカウントがありません。</translation>
     </message>
     <message>
         <source>Given up after %1 hours of trying. Last: %2 Retry when it is better.</source>
@@ -778,8 +810,8 @@
         <translation>Vimeoが動画を拒否しました：%1（コード%2）。再試行するか、もう一度共有してください。</translation>
     </message>
     <message>
-        <source>Vimeo does not accept the sign-in (%1). Sign in again (korvane accounts), check this device's clock, then retry.</source>
-        <translation>Vimeoがサインインを受け付けません（%1）。もう一度サインイン（korvane accounts）し、このデバイスの時計を確認してから再試行してください。</translation>
+        <source>Vimeo does not accept the sign-in (%1). Sign in again, check this device's clock, then retry.</source>
+        <translation>Vimeoがサインインを受け付けません（%1）。もう一度サインインし、このデバイスの時計を確認してから再試行してください。</translation>
     </message>
     <message>
         <source>Vimeo asks to send the video again.</source>

@@ -357,6 +357,10 @@
         <translation>Wartet auf ein Konto</translation>
     </message>
     <message>
+        <source>Add it in Korvane's settings.</source>
+        <translation>Fügen Sie es in den Einstellungen von Korvane hinzu.</translation>
+    </message>
+    <message>
         <source>Waiting for the network</source>
         <translation>Wartet auf das Netz</translation>
     </message>

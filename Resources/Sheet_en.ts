@@ -357,6 +357,10 @@
         <translation>Waiting for an account</translation>
     </message>
     <message>
+        <source>Add it in Korvane's settings.</source>
+        <translation>Add it in Korvane's settings.</translation>
+    </message>
+    <message>
         <source>Waiting for the network</source>
         <translation>Waiting for the network</translation>
     </message>

@@ -357,6 +357,10 @@
         <translation>En attente d’un compte</translation>
     </message>
     <message>
+        <source>Add it in Korvane's settings.</source>
+        <translation>Ajoutez-le dans les réglages de Korvane.</translation>
+    </message>
+    <message>
         <source>Waiting for the network</source>
         <translation>En attente du réseau</translation>
     </message>

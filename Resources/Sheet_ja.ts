@@ -355,6 +355,10 @@
         <translation>アカウント待ち</translation>
     </message>
     <message>
+        <source>Add it in Korvane's settings.</source>
+        <translation>Korvaneの設定で追加してください。</translation>
+    </message>
+    <message>
         <source>Waiting for the network</source>
         <translation>ネットワーク待ち</translation>
     </message>

@@ -20,11 +20,11 @@ QString adviceOnCode(qint64 code) {
         {5, localizedText("Flickr takes JPEG, PNG, GIF and TIFF pictures.")},
         {6, localizedText("Your upload limit is used up. Free space on Flickr, then retry.")},
         {8, localizedText("The file is too large for Flickr.")},
-        {96, localizedText("Sign in again (korvane accounts), then retry.")},
-        {97, localizedText("Sign in again (korvane accounts), then retry.")},
-        {98, localizedText("Sign in again (korvane accounts), then retry.")},
+        {96, localizedText("Sign in again, then retry.")},
+        {97, localizedText("Sign in again, then retry.")},
+        {98, localizedText("Sign in again, then retry.")},
         {99, localizedText("Sign in again and allow uploads, then retry.")},
-        {100, localizedText("Check the application's key (korvane accounts), then retry.")},
+        {100, localizedText("Check the application's key, then retry.")},
     };
     return advice.value(code, localizedText("Change what Flickr objects to and share it again, or retry."));
 }
@@ -39,9 +39,8 @@ std::optional<Verdict> verdictOnOAuthProblem(const NSError &error) {
     if (problem == QLatin1String("timestamp_refused"))
         return Verdict::failed(
             error, localizedText("Flickr refused the request's time. Set this device's clock, then retry."));
-    return Verdict::failed(
-        error, localizedText("Flickr does not accept the sign-in (%1). Sign in again (korvane accounts), then retry.",
-                             shownAnswer(problem)));
+    return Verdict::failed(error, localizedText("Flickr does not accept the sign-in (%1). Sign in again, then retry.",
+                                                shownAnswer(problem)));
 }
 
 Verdict verdictOnAnswer(const NSError &error, int status) {
@@ -87,7 +86,8 @@ Verdict FailureClassifier::verdictOnFlickrRun(const RunOutcome &outcome, bool wa
     if (error.domain() == FlickrResponseErrorDomain) return verdictOnAnswer(error, outcome.lastRequest.httpStatus);
     if (error.domain() == FlickrPostErrorDomain)
         return Verdict::failed(
-            error, localizedText("The photo is no longer in the photo library. Share it again from where it is now."));
+            error, localizedText("The photo %1 is no longer in the photo library. Share it again from where it is now.",
+                                 error.localizedDescription()));
     return Verdict::failed(error);
 }
 

@@ -3,16 +3,27 @@
 
 #include "Korvane/FlickrPost.h"
 #include "Platform/Accounts/ACAccountStore.h"
+#include "Platform/AssetsLibrary/AssetLocation.h"
 #include "Platform/Foundation/Dispatch.h"
 #include "Service/FailureClassifier.h"
 #include "Service/JobAccount.h"
 #include "Service/PostCheck.h"
+
+#include <QFile>
 
 namespace korvane {
 namespace {
 
 void end(const std::shared_ptr<UploadRun> &run, const FlickrPost &post, const RunOutcome &outcome) {
     run->ended(FailureClassifier::verdictOnFlickrRun(outcome, post.photoSetID != 0), run->job);
+}
+
+// Of an asset that was not found the upload code says only that.
+std::optional<NSError> withName(const std::optional<NSError> &error, const FlickrPost &post) {
+    if (!error || error->domain() != FlickrPostErrorDomain) return error;
+    const auto location = AssetLocation::ofURL(*post.assetURL);
+    return NSError::errorWithDescription(
+        error->domain(), error->code(), location ? QFile::decodeName(location->path) : post.assetURL->absoluteString());
 }
 
 // From the start of the upload on, the run's job is changed on the main thread alone.
@@ -30,7 +41,7 @@ void upload(const std::shared_ptr<UploadRun> &run) {
     };
     post->uploadToAccount(account, [run, post](const std::optional<NSError> &error) {
         if (post->photoData) run->job.bytesTotal = post->photoData->length();
-        end(run, *post, {RunOutcome::Finished, error, run->context->snapshot(), run->job.photoID});
+        end(run, *post, {RunOutcome::Finished, withName(error, *post), run->context->snapshot(), run->job.photoID});
         post->checkpoint = nullptr;
     });
 }

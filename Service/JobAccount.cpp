@@ -23,8 +23,8 @@ std::shared_ptr<ACAccount> accountOfJob(const UploadJob &job, const ACAccountSto
 
 RunOutcome withoutAccount(const UploadJob &job) {
     const QString text = localizedText("There is no usable sign-in for the %1 account of %2, from which this was "
-                                       "shared. Add it with: korvane accounts add %3",
-                                       nameOfService(job.service), job.accountName, job.service);
+                                       "shared.",
+                                       nameOfService(job.service), job.accountName);
     return {RunOutcome::NoAccount, jobError(JobErrorNoAccount, text)};
 }
 

@@ -15,6 +15,13 @@ namespace {
 
 const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
 
+void answerWithProperty(const QDBusConnection &bus, const QDBusMessage &message, const QVariantMap &values,
+                        const QString &name) {
+    const auto value = values.constFind(name);
+    bus.send(value == values.constEnd() ? message.createErrorReply(QDBusError::UnknownProperty, name)
+                                        : message.createReply(QVariant::fromValue(QDBusVariant(*value))));
+}
+
 } // namespace
 
 bool StatusInterface::registerFor(UploadQueue &queue) {
@@ -43,15 +50,15 @@ void StatusInterface::_answerWithProperties(const QDBusMessage &message, const s
     QVariantMap properties = ServiceSettings::current().dictionary();
     properties.insert(QStringLiteral("Paused"), _queue->isPaused());
     properties.insert(QStringLiteral("Version"), QStringLiteral(KORVANE_VERSION));
+    // The queue may be busy for long, and by any other property callers see that the service is alive.
+    if (only && *only != QLatin1String("Counts")) return answerWithProperty(_bus, message, properties, *only);
     _queue->counts([=, bus = _bus](const QVariant &counts) {
         QVariantMap values = properties;
         values.insert(QStringLiteral("Counts"), counts);
-        if (!only)
-            bus.send(message.createReply(values));
-        else if (values.contains(*only))
-            bus.send(message.createReply(QVariant::fromValue(QDBusVariant(values.value(*only)))));
+        if (only)
+            answerWithProperty(bus, message, values, *only);
         else
-            bus.send(message.createErrorReply(QDBusError::UnknownProperty, *only));
+            bus.send(message.createReply(values));
     });
 }
 

@@ -90,21 +90,24 @@ void UploadQueue::takeOver(const QString &service, const QVariantList &records, 
         const auto taken = TakeOver::prepare(service, records, message, _spool, *_accounts, &error);
         if (!taken) reply(false, error);
         _queue.async([=, this] {
-            if (taken) _taken(message.id, *taken, reply);
+            if (taken) _taken(message, *taken, reply);
             --_takeOvers;
             _endIfStopped();
         });
     });
 }
 
-void UploadQueue::_taken(const QString &messageID, const TakenMessage &taken, const XPCTransferCompletion &reply) {
+// Who has given up waiting has told the user that nothing was shared, and the user shares anew.
+void UploadQueue::_taken(const RemoteMessage &message, const TakenMessage &taken, const XPCTransferCompletion &reply) {
     std::optional<NSError> error;
-    const bool known = _store->knowsMessage(messageID);
-    const bool kept = !known && _store->take(messageID, taken.uploads, &error);
+    const bool known = _store->knowsMessage(message.id);
+    const bool wanted = known || message.isAwaited();
+    if (!wanted) NSLog("A message with %lli posts was not taken: its sender is gone.", qint64(taken.uploads.size()));
+    const bool kept = !known && wanted && _store->take(message.id, taken.uploads, &error);
     if (!kept && !taken.spoolFile.isEmpty()) _spool.remove(taken.spoolFile);
     reply(known || kept, error);
     if (!kept) return;
-    for (const QString &id : _store->idsOfMessage(messageID))
+    for (const QString &id : _store->idsOfMessage(message.id))
         if (const auto job = _store->job(id.toLongLong())) _announce(*job);
     _schedule();
 }
@@ -178,8 +181,7 @@ bool UploadQueue::_pinAccount(UploadJob &job) {
 }
 
 void UploadQueue::_waitForSignIn(UploadJob &job) {
-    const QString text = localizedText("There is no %1 account. Add one with: korvane accounts add %2",
-                                       nameOfService(job.service), job.service);
+    const QString text = localizedText("There is no %1 account.", nameOfService(job.service));
     _apply({UploadState::Waiting, WaitReason::SignIn,
             NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable, text)},
            job);

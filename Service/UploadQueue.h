@@ -90,7 +90,7 @@ private:
         qint64 failures = 0;
     };
 
-    void _taken(const QString &messageID, const TakenMessage &taken, const XPCTransferCompletion &reply);
+    void _taken(const RemoteMessage &message, const TakenMessage &taken, const XPCTransferCompletion &reply);
     void _recover(UploadJob &job, bool fatalDeath);
     void _schedule();
     void _scheduleService(const QString &service, int limit);

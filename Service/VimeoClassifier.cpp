@@ -39,8 +39,8 @@ Verdict verdictOnBadAnswer(const NSError &error, const UploadContext::Snapshot &
 Verdict verdictOnPostError(const NSError &error, const UploadContext::Snapshot &request) {
     switch (error.code()) {
     case VimeoPostErrorServiceCode401:
-        return Verdict::failed(error, localizedText("Vimeo does not accept the sign-in (%1). Sign in again (korvane "
-                                                    "accounts), check this device's clock, then retry.",
+        return Verdict::failed(error, localizedText("Vimeo does not accept the sign-in (%1). Sign in again, "
+                                                    "check this device's clock, then retry.",
                                                     wordsOf(refusalIn(request))));
     case VimeoPostErrorServiceCode708:
         return Verdict::waiting(WaitReason::NextTry, error, localizedText("Vimeo asks to send the video again."));

@@ -1,6 +1,7 @@
 // What is shared, from the files that were given to the attachments of the sheet.
 #include "ShareSheet/AttachmentsModel.h"
 
+#include "Platform/Foundation/FileError.h"
 #include "ShareSheet/Background.h"
 #include "ShareSheet/ThumbnailProvider.h"
 
@@ -33,16 +34,13 @@ void AttachmentsModel::start() {
 
 void AttachmentsModel::_prepare(Entry &entry, bool isVideo) {
     SharedFile &file = entry.file;
+    entry.attachment.reset();
     file.problem = file.problemAtSight();
     if (!file.problem.isEmpty()) return;
     std::optional<NSError> error;
     entry.attachment = isVideo ? SLAttachment::videoAttachment(file.path, &error)
                                : SLAttachment::photoAttachment(file.path, false, &error);
-    if (!error) return;
-    file.problem = error->localizedDescription();
-    // The errors name the whole path; the list shows the name already.
-    const QString prefix = QString::fromUtf8(file.path) + QStringLiteral(": ");
-    if (file.problem.startsWith(prefix)) file.problem.remove(0, prefix.size());
+    if (error) file.problem = FileError::reasonOf(*error); // the list shows the name already
 }
 
 // As many as take a moment together.
@@ -88,6 +86,13 @@ QString AttachmentsModel::problems() const {
             lines.append(tr("%1: %2").arg(entry.file.name, entry.file.problem));
     if (bad > mostProblems) lines.append(tr("and %n more file(s)", nullptr, bad - mostProblems));
     return lines.join(u'\n');
+}
+
+void AttachmentsModel::lookAgain() {
+    if (isPreparing()) return;
+    _prepared = 0;
+    Q_EMIT changed();
+    _prepareSome();
 }
 
 void AttachmentsModel::leaveProblemsOut() {

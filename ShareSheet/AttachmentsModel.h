@@ -37,6 +37,8 @@ public:
     bool isVideo() const { return _kind == Kind::Video; }
     QString problems() const;
     Q_INVOKABLE void leaveProblemsOut();
+    // Makes the attachments anew, for files that have changed meanwhile.
+    void lookAgain();
 
     int rowCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : count(); }
     QVariant data(const QModelIndex &index, int role) const override;

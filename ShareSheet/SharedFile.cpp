@@ -1,11 +1,9 @@
 // A file that the window was given to share.
 #include "ShareSheet/SharedFile.h"
 
-#include "Platform/Foundation/NSURL.h"
+#include "FrontEnd/FileArgument.h"
 
 #include <QCoreApplication>
-#include <QSysInfo>
-#include <QUrl>
 
 #include <cerrno>
 #include <cstring>
@@ -13,33 +11,10 @@
 #include <sys/stat.h>
 
 namespace korvane {
-namespace {
-
-// "scheme:" in front of it, other than what a file's name may begin with.
-bool isAddress(const QByteArray &argument) {
-    const qsizetype colon = argument.indexOf("://");
-    return colon > 1 && argument.left(colon).indexOf('/') < 0;
-}
-
-bool isThisHost(const QString &host) {
-    return host.isEmpty() || host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
-}
-
-// Some file managers leave spaces and letters of other scripts as they are.
-QByteArray pathOfAddress(const QByteArray &address) {
-    const auto exact = NSURL::URLWithString(QString::fromUtf8(address));
-    if (exact && exact->isFileURL() && (isThisHost(exact->host()) || exact->isLoopback()))
-        return exact->fileSystemRepresentation();
-    if (exact) return {};
-    const QUrl url(QString::fromUtf8(address));
-    return url.scheme() == QStringLiteral("file") && isThisHost(url.host()) ? url.path().toUtf8() : QByteArray();
-}
-
-} // namespace
 
 SharedFile SharedFile::fromArgument(const QByteArray &argument) {
     SharedFile file;
-    file.path = isAddress(argument) ? pathOfAddress(argument) : argument;
+    file.path = FileArgument::path(argument);
     file.name = QString::fromUtf8(file.path.isEmpty() ? argument : file.path.mid(file.path.lastIndexOf('/') + 1));
     if (file.path.isEmpty())
         file.problem = QCoreApplication::translate(

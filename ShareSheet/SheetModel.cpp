@@ -159,6 +159,7 @@ void SheetModel::_tellRefusal() {
     _endHandOver();
     const QString reason = _refusal ? _refusal->localizedDescription() : tr("No reason was given.");
     _setFailure(tr("Nothing was shared. %1\nWhat you entered is still here: press Post to try again.").arg(reason));
+    if (_refusal && _refusal->domain() == SLAttachmentErrorDomain) _attachments.lookAgain();
 }
 
 void SheetModel::_endHandOver() {

@@ -31,9 +31,9 @@ std::optional<SheetRequest> SheetRequest::parse(const QByteArrayList &arguments,
             return fail(QStringLiteral("--settings takes flickr or vimeo, and nothing more"));
         return SheetRequest{Settings, {}, service};
     }
-    if (word.startsWith("prefs:")) {
+    if (word.toLower().startsWith("prefs:")) {
         if (arguments.size() > 1) return fail(QStringLiteral("give one address of settings alone"));
-        const QByteArray root = word.mid(word.indexOf('=') + 1);
+        const QByteArray root = word.mid(word.indexOf('=') + 1).split('/')[0].split('&')[0]; // the rest has no page
         const auto service = serviceNamed(root);
         if (!service) problem = QStringLiteral("%1 has no settings of its own here").arg(QString::fromUtf8(root));
         return SheetRequest{Settings, {}, service};

@@ -37,7 +37,7 @@ QImage ofVideo(const NSData &video, int edge, const std::stop_token &wanted) {
     ffmpeg.setTimeLimit(longestLook);
     ffmpeg.setCancellation(wanted);
     const auto result = ffmpeg.run();
-    return result && result->succeeded() ? decoded(bytes) : QImage();
+    return result && result->succeeded() && bytes.size() <= mostBytes ? decoded(bytes) : QImage();
 }
 
 } // namespace

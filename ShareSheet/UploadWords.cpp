@@ -59,6 +59,8 @@ QString UploadWords::state(const Upload &upload) {
 QString UploadWords::reason(const Upload &upload) {
     const QString text = upload.error ? UploadText::printable(upload.error->localizedDescription()) : QString();
     if (upload.hasFailed() && text.isEmpty()) return Words::tr("No reason was given.");
+    if (upload.isWaiting() && upload.waitingFor == QLatin1String("sign-in"))
+        return (text + u' ' + Words::tr("Add it in Korvane's settings.")).trimmed();
     return upload.hasFailed() || upload.isWaiting() ? text : QString();
 }
 

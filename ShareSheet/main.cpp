@@ -1,6 +1,7 @@
 // korvane-sheet: the share sheet's window.
 #include "FrontEnd/ExitStatus.h"
 #include "ShareSheet/SheetApplication.h"
+#include "ShareSheet/SingleWindow.h"
 
 #include <QGuiApplication>
 #include <QLocale>
@@ -31,7 +32,14 @@ int main(int argc, char *argv[]) {
     QCoreApplication::setApplicationName(QStringLiteral("korvane-sheet"));
     QGuiApplication::setDesktopFileName(QStringLiteral("korvane-sheet"));
     QGuiApplication::setQuitOnLastWindowClosed(false); // the end has a status
+    SingleWindow uploads;
+    if (request->page == SheetRequest::Uploads && !uploads.begin()) return ExitDone;
     SheetApplication sheet;
+    QObject::connect(&uploads, &SingleWindow::activated, &sheet, [&sheet] {
+        if (!sheet.window()) return;
+        sheet.window()->raise();
+        sheet.window()->requestActivate();
+    });
     QObject::connect(&sheet, &SheetApplication::finished, &application, &QCoreApplication::exit);
     return sheet.open(*request) ? QCoreApplication::exec() : ExitUploadFailed;
 }

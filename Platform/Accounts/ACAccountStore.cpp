@@ -10,6 +10,7 @@
 #include "Platform/Preferences/LockedJSONFile.h"
 #include "Platform/Preferences/LogOnce.h"
 
+#include <QFile>
 #include <QUuid>
 
 #include <algorithm>
@@ -55,8 +56,14 @@ std::optional<Entry> entryOf(const QVariant &value) {
     return Entry{text("identifier"), text("type"), text("username"), *place};
 }
 
+QString problemOfList(const QVariantMap &values) {
+    const QVariant list = values.value(accountsKey);
+    return !list.isValid() || list.typeId() == QMetaType::QVariantList ? QString()
+                                                                       : localizedText("\"accounts\" is not a list");
+}
+
 LockedJSONFile accountsFile() {
-    return LockedJSONFile(configFolder() + QStringLiteral("/accounts.json"));
+    return LockedJSONFile(configFolder() + QStringLiteral("/accounts.json"), problemOfList);
 }
 
 std::vector<Entry> entriesOf(const QVariantMap &values) {
@@ -67,10 +74,26 @@ std::vector<Entry> entriesOf(const QVariantMap &values) {
     return entries;
 }
 
+// Where accounts are missing since the list is damaged, which a person could take for a sign-out.
+std::optional<NSError> damage(const QVariantMap &values) {
+    const QString path = accountsFile().path();
+    const QString aside = path + QStringLiteral(".damaged");
+    const bool holdsOthers = !values.value(accountsKey).toList().isEmpty();
+    if (!holdsOthers && (values.contains(accountsKey) || !QFile::exists(aside))) return std::nullopt;
+    return NSError::errorWithDescription(
+        ACErrorDomain, ACErrorAccountListDamaged,
+        holdsOthers ? localizedText("No account in %1 is understood. Mend the file, or sign in again.", path)
+                    : localizedText("The list of accounts was damaged and is kept as %1. Sign in again.", aside));
+}
+
 std::vector<Entry> readEntries(std::optional<NSError> *error = nullptr) {
     std::optional<NSError> reason;
     const auto values = accountsFile().read(&reason);
-    if (values) return entriesOf(*values);
+    if (values) {
+        auto entries = entriesOf(*values);
+        if (entries.empty()) setError(error, damage(*values));
+        return entries;
+    }
     NSLog("The list of accounts could not be read: %@", reason->localizedDescription());
     setError(error, reason);
     return {};
@@ -103,14 +126,6 @@ bool check(const ACAccountType &type, const QString &username, const ACAccountCr
             return fail(error, ACErrorCredentialInvalid,
                         localizedText("A part of the credential is empty or holds control characters."));
     return true;
-}
-
-// Never drops a list of accounts that it does not understand.
-bool checkList(const QVariantMap &values, std::optional<NSError> *error) {
-    const QVariant list = values.value(accountsKey);
-    if (!list.isValid() || list.typeId() == QMetaType::QVariantList) return true;
-    return fail(error, ACErrorAccountListDamaged,
-                localizedText("\"accounts\" in %1 is not a list.", accountsFile().path()));
 }
 
 } // namespace
@@ -147,7 +162,6 @@ std::shared_ptr<ACAccount> ACAccountStore::saveAccount(const ACAccountType &type
     bool stored = false;
     // The secret is stored under the list's lock, so that two programs adding one account agree on its identifier.
     const auto put = [&](QVariantMap &values) {
-        if (!checkList(values, error)) return false;
         for (const Entry &known : entriesOf(values))
             if (!replaced && known.type == entry.type && known.username == username) replaced = known;
         if (replaced) entry.identifier = replaced->identifier;
@@ -173,7 +187,6 @@ std::shared_ptr<ACAccount> ACAccountStore::saveAccount(const ACAccountType &type
 
 bool ACAccountStore::useAccount(const QString &identifier, std::optional<NSError> *error) {
     const auto putLast = [&](QVariantMap &values) {
-        if (!checkList(values, error)) return false;
         QVariantList list = values.value(accountsKey).toList();
         const qsizetype position = positionOf(list, identifier);
         if (position == list.size())

@@ -17,7 +17,7 @@ public:
     ACAccountType accountTypeWithAccountTypeIdentifier(const QString &identifier) const;
 
     // In the order in which they were saved or put into use. Empty, with a log line and the error placed, if the list
-    // cannot be read.
+    // cannot be read, or was damaged and no account has been saved since.
     std::vector<std::shared_ptr<ACAccount>> accountsWithAccountType(const ACAccountType &type,
                                                                     std::optional<NSError> *error = nullptr) const;
     std::shared_ptr<ACAccount> accountWithIdentifier(const QString &identifier) const; // null if there is none

@@ -12,7 +12,7 @@ enum ACErrorCode : qint64 {
     ACErrorAccountTypeInvalid = 2,  // not a type that accounts can have
     ACErrorCredentialInvalid = 3,   // a value is missing, empty or unusable, or a credential file is not understood
     ACErrorCredentialNotStored = 4, // neither keyring nor file took the secret
-    ACErrorAccountListDamaged = 5,  // the list of accounts does not have the form it is written in
+    ACErrorAccountListDamaged = 5,  // the list of accounts did not have the form it is written in
 
     // Of a sign-in; beside these, errors of NSURLErrorDomain where the service cannot be reached.
     ACErrorSignInRefused = 6,         // by the person

@@ -3,12 +3,18 @@
 
 #include "Platform/Accounts/ACError.h"
 #include "Platform/Accounts/SecretKeyring.h"
+#include "Platform/Foundation/FileDescriptor.h"
 #include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/NSJSONSerialization.h"
 #include "Platform/Foundation/NSLog.h"
 #include "Platform/Preferences/LockedJSONFile.h"
 #include "Platform/Preferences/LogOnce.h"
+
+#include <QFile>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace korvane {
 
@@ -18,6 +24,28 @@ namespace {
 
 LockedJSONFile credentialsFile() {
     return LockedJSONFile(configFolder() + QStringLiteral("/credentials.json"));
+}
+
+// Somebody, or a backup put back, may have opened the file to others. False with the error placed where it cannot be
+// trusted to be this user's alone.
+bool secureFile(std::optional<NSError> *error) {
+    const QString path = credentialsFile().path();
+    const FileDescriptor file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status;
+    if (!file || ::fstat(file.get(), &status) != 0) return true; // reading it says why
+    if (status.st_uid != ::geteuid()) {
+        setError(error,
+                 NSError::errorWithDescription(
+                     ACErrorDomain, ACErrorCredentialInvalid,
+                     localizedText("%1 belongs to another user. Move it away, then add the account again.", path)));
+        return false;
+    }
+    if ((status.st_mode & 0077) == 0) return true;
+    if (::fchmod(file.get(), status.st_mode & 0700) == 0)
+        NSLog("%@ could be read by other users; now only this user can.", path);
+    else
+        NSLog("%@ can be read by other users, and that cannot be changed: %@", path, qt_error_string());
+    return true;
 }
 
 bool keyringForbidden() {
@@ -71,6 +99,8 @@ std::optional<ACAccountCredential> loadFromKeyring(const QString &identifier, Se
                             kind, error);
     case Outcome::Locked:
         return missing(error, localizedText("The keyring is locked. Unlock it and try again."));
+    case Outcome::Silent:
+        return missing(error, localizedText("The keyring does not answer. Try again, or log out and in again."));
     case Outcome::Missing:
         return missing(error, localizedText("The keyring does not hold it any more. %1", addAgain(kind)));
     default:
@@ -80,7 +110,7 @@ std::optional<ACAccountCredential> loadFromKeyring(const QString &identifier, Se
 
 std::optional<ACAccountCredential> loadFromFile(const QString &identifier, SecretOf kind,
                                                 std::optional<NSError> *error) {
-    const auto values = credentialsFile().read(error);
+    const auto values = secureFile(error) ? credentialsFile().read(error) : std::nullopt;
     if (!values) return std::nullopt;
     sayThatTheFileIsUsed(QStringLiteral("they were not stored in a keyring"));
     if (!values->contains(identifier))
@@ -95,7 +125,7 @@ std::optional<SecretPlace> storeInFile(const QString &identifier, const ACAccoun
         values.insert(identifier, mapOf(credential));
         return true;
     };
-    if (!credentialsFile().update(insert, error)) return std::nullopt;
+    if (!secureFile(error) || !credentialsFile().update(insert, error)) return std::nullopt;
     return SecretPlace::File;
 }
 
@@ -126,12 +156,15 @@ std::optional<SecretPlace> CredentialStore::store(const QString &identifier, con
     const SecretKeyring::Answer answer = SecretKeyring::store(identifier, label, secret);
     if (answer.outcome == Outcome::Done) return SecretPlace::Keyring;
     if (answer.outcome == Outcome::Unavailable) return storeInFile(identifier, credential, answer.text, error);
-    // A keyring that is there but locked is no reason to write secrets to a file unasked.
-    setError(error, NSError::errorWithDescription(
-                        ACErrorDomain, ACErrorCredentialNotStored,
-                        localizedText("The credential was not stored: %1. Unlock the keyring and try again, or set "
-                                      "KORVANE_SECRETS=file to keep credentials in a file.",
-                                      answer.text)));
+    // A keyring that is there but locked or busy is no reason to write secrets to a file unasked.
+    const QString text =
+        answer.outcome == Outcome::Silent
+            ? localizedText("The credential was not stored: the keyring does not answer. Try again, log out and in "
+                            "again, or set KORVANE_SECRETS=file to keep credentials in a file.")
+            : localizedText("The credential was not stored: %1. Unlock the keyring and try again, or set "
+                            "KORVANE_SECRETS=file to keep credentials in a file.",
+                            answer.text);
+    setError(error, NSError::errorWithDescription(ACErrorDomain, ACErrorCredentialNotStored, text));
     return std::nullopt;
 }
 
@@ -142,7 +175,7 @@ void CredentialStore::remove(const QString &identifier, SecretPlace place) {
             values.remove(identifier);
             return true;
         };
-        if (!credentialsFile().update(erase, &error))
+        if (!secureFile(&error) || !credentialsFile().update(erase, &error))
             NSLog("The credential of account %@ was not removed: %@", identifier, error->localizedDescription());
         return;
     }

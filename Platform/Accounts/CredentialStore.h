@@ -13,8 +13,10 @@ enum class SecretPlace { Keyring, File };
 // What a secret has to hold to be usable: an account's all four texts, an application's only its key pair.
 enum class SecretOf { Account, Application };
 
-// The file is the configuration folder's credentials.json, mode 0600; its first use is logged. KORVANE_SECRETS=file in
-// the environment keeps the keyring out of everything. Calls may take up to five seconds. Thread: any.
+// The file is the configuration folder's credentials.json, mode 0600, which it is given back where it has lost it; its
+// first use is logged. It is used where there is no keyring, not where one does not answer or is locked.
+// KORVANE_SECRETS=file in the environment keeps the keyring out of everything. Calls may take up to five seconds.
+// Thread: any.
 namespace CredentialStore {
 
 // As the lists of what is stored name it; null for what is no such name.

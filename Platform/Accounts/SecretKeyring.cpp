@@ -105,7 +105,7 @@ Answer limited(Task task) {
     if (wait->ended.wait_for(lock, timeLimit, [&] { return wait->answer.has_value(); })) return *wait->answer;
     lock.unlock();
     g_cancellable_cancel(wait->cancellable.get());
-    return {Outcome::Unavailable, localizedText("the keyring did not answer in time")};
+    return {Outcome::Silent, localizedText("the keyring did not answer in time")};
 }
 
 Answer find(SecretService *service, const QString &identifier, GCancellable *cancellable) {

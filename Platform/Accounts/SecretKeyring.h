@@ -12,7 +12,8 @@ enum class Outcome {
     Done,
     Missing,     // the keyring holds no such secret
     Locked,      // the keyring would have to ask for its password first
-    Unavailable, // no session bus, no keyring, or no answer in time
+    Unavailable, // no session bus or no keyring
+    Silent,      // no answer in time, so that nobody knows
     Failed,
 };
 

@@ -66,7 +66,7 @@ void SignIn::_listen() {
 }
 
 void SignIn::_askForRequestToken() {
-    _send(_service->requestTokenURL, {}, {{QStringLiteral("oauth_callback"), _callback}},
+    _send(SignInStep::RequestToken, _service->requestTokenURL, {}, {{QStringLiteral("oauth_callback"), _callback}},
           &SignIn::_requestTokenArrived);
 }
 
@@ -123,7 +123,8 @@ void SignIn::enterCode(const QString &code) {
 }
 
 void SignIn::_askForAccessToken(const QString &verifier) {
-    _send(_service->accessTokenURL, {}, {{verifierKey, verifier}}, &SignIn::_accessTokenArrived);
+    _send(SignInStep::AccessToken, _service->accessTokenURL, {}, {{verifierKey, verifier}},
+          &SignIn::_accessTokenArrived);
 }
 
 void SignIn::_accessTokenArrived(const SignInAnswer &answer) {
@@ -148,8 +149,8 @@ void SignIn::_codeWasWrong(const NSError &error) {
 }
 
 void SignIn::_askForUserName() {
-    _send(*_service->loginURL, {{QStringLiteral("method"), QStringLiteral("vimeo.test.login")}}, {},
-          &SignIn::_userNameArrived);
+    _send(SignInStep::UserName, *_service->loginURL, {{QStringLiteral("method"), QStringLiteral("vimeo.test.login")}},
+          {}, &SignIn::_userNameArrived);
 }
 
 void SignIn::_userNameArrived(const SignInAnswer &answer) {
@@ -192,7 +193,7 @@ void SignIn::_end(const std::optional<SignedInAccount> &account, const std::opti
 }
 
 // Signs with what the credential holds so far. The answer comes on the main queue, unless the sign-in ends before.
-void SignIn::_send(const NSURL &url, const OAuthParameters &form, const OAuthParameters &protocol,
+void SignIn::_send(SignInStep step, const NSURL &url, const OAuthParameters &form, const OAuthParameters &protocol,
                    void (SignIn::*arrived)(const SignInAnswer &)) {
     const auto clock = _options.clock ? _options.clock : thisComputersTime;
     const RequestBody body = RequestBody::form(form);
@@ -202,13 +203,13 @@ void SignIn::_send(const NSURL &url, const OAuthParameters &form, const OAuthPar
                                          clock(), QUuid::createUuid().toString(QUuid::Id128), protocol);
     request.headers = {{"Content-Type", body.contentType}, {"Authorization", authorization}};
     request.uploadContext = _request = std::make_shared<UploadContext>();
-    dispatchGlobal([weak = weak_from_this(), request, arrived, clock] {
+    dispatchGlobal([weak = weak_from_this(), step, request, arrived, clock] {
         NSHTTPURLResponse response;
         std::optional<NSError> error;
         const auto answer = NSURLConnection::sendSynchronousRequest(request, &response, &error);
         dispatchMain([=] {
             if (const auto self = weak.lock(); self && !self->_hasEnded)
-                (self.get()->*arrived)(SignInAnswer(self->_service->name, answer, response, error, clock()));
+                (self.get()->*arrived)(SignInAnswer(step, self->_service->name, answer, response, error, clock()));
         });
     });
 }

@@ -16,6 +16,7 @@ namespace korvane {
 
 class CallbackListener;
 class SignInAnswer;
+enum class SignInStep;
 struct SignInService;
 
 // Asks for a request token, lets the person say yes on the service's page, and gets the access token and the user name
@@ -68,7 +69,7 @@ private:
     void _fail(qint64 code, const QString &text);
     void _end(const std::optional<SignedInAccount> &account, const std::optional<NSError> &error);
 
-    void _send(const NSURL &url, const OAuthParameters &form, const OAuthParameters &protocol,
+    void _send(SignInStep step, const NSURL &url, const OAuthParameters &form, const OAuthParameters &protocol,
                void (SignIn::*arrived)(const SignInAnswer &));
     void _later(std::function<void()> step);
 

@@ -5,6 +5,7 @@
 #include "Platform/Accounts/PlainLine.h"
 #include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/NSJSONSerialization.h"
+#include "Platform/Foundation/NSURLConnection.h"
 #include "Platform/Social/OAuthSigner.h"
 
 #include <QDateTime>
@@ -23,15 +24,19 @@ QString durationText(qint64 seconds) {
     return localizedCount("%n minute(s)", (seconds + 30) / 60);
 }
 
+bool isOneOf(const char *pattern, const QString &problem) {
+    return QRegularExpression(QRegularExpression::anchoredPattern(QLatin1String(pattern))).match(problem).hasMatch();
+}
+
 bool isUsable(const QString &text) {
     return isPlainLine(text) && text.size() <= 1024;
 }
 
 } // namespace
 
-SignInAnswer::SignInAnswer(QString service, std::optional<NSData> body, NSHTTPURLResponse response,
+SignInAnswer::SignInAnswer(SignInStep step, QString service, std::optional<NSData> body, NSHTTPURLResponse response,
                            std::optional<NSError> error, qint64 now)
-    : _service(std::move(service)), _body(std::move(body)), _response(std::move(response)),
+    : _step(step), _service(std::move(service)), _body(std::move(body)), _response(std::move(response)),
       _transportError(std::move(error)), _now(now) {}
 
 std::optional<QMap<QString, QString>> SignInAnswer::values(const QStringList &names,
@@ -82,6 +87,8 @@ NSError SignInAnswer::_unreachable() const {
     const auto told = [&](const QString &text) {
         return NSError::errorWithDescription(cause.domain(), cause.code(), text);
     };
+    if (cause.code() == NSURLErrorDataLengthExceedsMaximum) return _notUnderstood(localizedText("it is too long"));
+    if (cause.code() == NSURLErrorBadServerResponse) return _notUnderstood(localizedText("it is not HTTP"));
     if (cause.code() == NSURLErrorNotConnectedToInternet)
         return told(localizedText("There is no network connection. Connect, then sign in again."));
     if (cause.code() <= NSURLErrorSecureConnectionFailed && cause.code() >= NSURLErrorClientCertificateRequired)
@@ -92,26 +99,28 @@ NSError SignInAnswer::_unreachable() const {
                               cause.localizedDescription()));
 }
 
+// What has to do with the person's answer on the service's page, which nobody has seen before the first step's answer.
+std::optional<NSError> SignInAnswer::_refusalOfPerson(const QString &problem) const {
+    if (_step == SignInStep::RequestToken) return std::nullopt;
+    if (isOneOf("user_refused|permission_denied", problem))
+        return _error(ACErrorSignInRefused, localizedText("Korvane was not allowed to use the %1 account.", _service));
+    if (isOneOf("verifier_.*|permission_unknown", problem) && _step == SignInStep::AccessToken)
+        return _error(ACErrorSignInCodeWrong, localizedText("The code is not the one that %1 gave.", _service));
+    if (isOneOf("token_.*", problem))
+        return _error(ACErrorSignInExpired,
+                      localizedText("This sign-in has expired or was used already. Sign in again."));
+    return std::nullopt;
+}
+
 NSError SignInAnswer::_refusal() const {
     const QString problem = _oauthProblem();
-    const auto isOneOf = [&problem](const char *pattern) {
-        return QRegularExpression(QRegularExpression::anchoredPattern(QLatin1String(pattern)))
-            .match(problem)
-            .hasMatch();
-    };
-    if (isOneOf("timestamp_refused")) return _clockWrong(_secondsAhead());
-    if (isOneOf("consumer_key_.*|signature_invalid"))
+    if (isOneOf("timestamp_refused", problem)) return _clockWrong(_secondsAhead());
+    if (isOneOf("consumer_key_.*|signature_invalid", problem))
         return _error(ACErrorApplicationKeyRefused,
                       localizedText("%1 does not take the application's key, or the secret does not belong to it. "
                                     "Check both and sign in again.",
                                     _service));
-    if (isOneOf("user_refused|permission_denied"))
-        return _error(ACErrorSignInRefused, localizedText("Korvane was not allowed to use the %1 account.", _service));
-    if (isOneOf("verifier_.*|permission_unknown"))
-        return _error(ACErrorSignInCodeWrong, localizedText("The code is not the one that %1 gave.", _service));
-    if (isOneOf("token_.*"))
-        return _error(ACErrorSignInExpired,
-                      localizedText("This sign-in has expired or was used already. Sign in again."));
+    if (auto refusal = _refusalOfPerson(problem)) return *refusal;
     // Not every service says that it is the time stamp.
     if (const auto ahead = _secondsAhead(); ahead && std::abs(*ahead) > tolerableSeconds) return _clockWrong(ahead);
     return _error(

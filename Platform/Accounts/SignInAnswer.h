@@ -11,6 +11,8 @@
 
 namespace korvane {
 
+enum class SignInStep { RequestToken, AccessToken, UserName };
+
 // Makes words of every way in which a step can fail; they say what to do and hold no secret. The reasons are those of
 // the OAuth problem reporting extension ("oauth_problem=…"), which both services use.
 class SignInAnswer {
@@ -18,8 +20,8 @@ public:
     static constexpr qint64 mostBytes = 16 * 1024;
 
     // As the URL send gave them. service: its name for people. now: this computer's time, in seconds since 1970.
-    SignInAnswer(QString service, std::optional<NSData> body, NSHTTPURLResponse response, std::optional<NSError> error,
-                 qint64 now);
+    SignInAnswer(SignInStep step, QString service, std::optional<NSData> body, NSHTTPURLResponse response,
+                 std::optional<NSError> error, qint64 now);
 
     // Form-encoded values of a step that succeeded, each of the names among them once and not empty. Null with the
     // error placed: of NSURLErrorDomain where there was no answer, else of ACErrorDomain.
@@ -31,12 +33,14 @@ private:
     std::optional<NSError> _failure() const;
     NSError _unreachable() const;
     NSError _refusal() const;
+    std::optional<NSError> _refusalOfPerson(const QString &problem) const;
     NSError _clockWrong(std::optional<qint64> secondsAhead) const;
     NSError _notUnderstood(const QString &reason) const;
     NSError _error(qint64 code, const QString &text) const;
     QString _oauthProblem() const;
     std::optional<qint64> _secondsAhead() const;
 
+    SignInStep _step;
     QString _service;
     std::optional<NSData> _body;
     NSHTTPURLResponse _response;

@@ -1,6 +1,7 @@
 // Immutable bytes, in memory or as part of a file.
 #include "Platform/Foundation/NSData.h"
 
+#include "Platform/Foundation/FileError.h"
 #include "Platform/Foundation/LocalizedText.h"
 
 #include <QFile>
@@ -45,9 +46,8 @@ std::optional<NSData> NSData::dataWithContentsOfFile(const QByteArray &path, std
     if (::fstat(file.get(), &status) != 0) return fail(errno);
     if (S_ISDIR(status.st_mode)) return fail(EISDIR);
     if (!S_ISREG(status.st_mode)) {
-        setError(error,
-                 NSError::errorWithDescription(NSPOSIXErrorDomain, EINVAL,
-                                               localizedText("%1: not a regular file", QFile::decodeName(path))));
+        setError(error, FileError::make(NSPOSIXErrorDomain, EINVAL, QFile::decodeName(path),
+                                        localizedText("not a regular file")));
         return std::nullopt;
     }
     return dataWithFile(std::make_shared<FileDescriptor>(std::move(file)), 0, status.st_size);

@@ -1,6 +1,7 @@
 // An error: a domain, a code within it, and optional details.
 #include "Platform/Foundation/NSError.h"
 
+#include "Platform/Foundation/FileError.h"
 #include "Platform/Foundation/LocalizedText.h"
 
 #include <cstring>
@@ -19,7 +20,7 @@ NSError NSError::errorWithDescription(const QString &domain, qint64 code, const 
 NSError NSError::errorWithErrno(int code, const QString &what) {
     char buffer[256];
     const QString reason = QString::fromLocal8Bit(::strerror_r(code, buffer, sizeof buffer));
-    return errorWithDescription(NSPOSIXErrorDomain, code, QStringLiteral("%1: %2").arg(what, reason));
+    return FileError::make(NSPOSIXErrorDomain, code, what, reason);
 }
 
 QString NSError::localizedDescription() const {

@@ -8,6 +8,12 @@
 
 namespace korvane {
 
+// Further codes of NSURLErrorDomain, for answers that cannot be taken.
+enum NSURLAnswerErrorCode : qint64 {
+    NSURLErrorBadServerResponse = -1011,
+    NSURLErrorDataLengthExceedsMaximum = -1103,
+};
+
 namespace NSURLConnection {
 
 // Sends the request and waits for the whole answer. Any HTTP status is an answer, redirects are not followed; an answer

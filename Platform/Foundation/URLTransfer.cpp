@@ -2,6 +2,7 @@
 #include "Platform/Foundation/URLTransfer.h"
 
 #include "Platform/Foundation/LocalizedText.h"
+#include "Platform/Foundation/NSURLConnection.h"
 #include "Platform/SystemConfiguration/NetworkRoute.h"
 #include "Platform/SystemConfiguration/SCNetworkReachability.h"
 
@@ -16,6 +17,7 @@ namespace korvane {
 namespace {
 
 constexpr qint64 largestAnswer = 8LL * 1024 * 1024; // a thousand albums take half of one
+constexpr qint64 longestHead = 256LL * 1024;
 constexpr long uploadBuffer = 512L * 1024;
 constexpr int longestWaitMilliseconds = 250;
 
@@ -59,6 +61,10 @@ qint64 errorCode(CURLcode code, long osError, const NSURL &url) {
 
 NSError failure(qint64 code, const QString &text) {
     return NSError::errorWithDescription(NSURLErrorDomain, code, text);
+}
+
+NSError tooLarge() {
+    return failure(NSURLErrorDataLengthExceedsMaximum, localizedText("The web service's answer is too large."));
 }
 
 QByteArray proxyExceptions() {
@@ -162,6 +168,9 @@ std::optional<NSError> URLTransfer::_result(CURLcode code) const {
                            localizedText("The web service answered before it had everything."));
         return std::nullopt;
     }
+    if (code == CURLE_OUT_OF_MEMORY) return tooLarge(); // what curl says of a header line above 100 KB
+    if (code == CURLE_WEIRD_SERVER_REPLY || (code == CURLE_UNSUPPORTED_PROTOCOL && _requests > 0))
+        return failure(NSURLErrorBadServerResponse, localizedText("The web service does not answer in HTTP."));
     long osError = 0;
     curl().easy_getinfo(_handle.easy, CURLINFO_OS_ERRNO, &osError);
     return failure(errorCode(code, osError, _request.URL), QString::fromUtf8(curl().easy_strerror(code)));
@@ -218,13 +227,19 @@ bool URLTransfer::_rewind(qint64 position) {
     return true;
 }
 
-void URLTransfer::_readHeader(const QByteArray &line) {
+bool URLTransfer::_readHeader(const QByteArray &line) {
+    _headRead += line.size();
+    if (_headRead > longestHead) {
+        _localError = tooLarge();
+        return false;
+    }
     if (line.startsWith("HTTP/")) {
         _response = {};
         _response.statusCode = line.mid(line.indexOf(' ') + 1, 3).toInt();
     } else if (const qsizetype colon = line.indexOf(':'); colon > 0) {
         _response.headers.append({line.left(colon), line.mid(colon + 1).trimmed()});
     }
+    return true;
 }
 
 size_t URLTransfer::_onRead(char *buffer, size_t size, size_t count, void *self) {
@@ -240,7 +255,7 @@ size_t URLTransfer::_onWrite(char *bytes, size_t size, size_t count, void *self)
     auto *transfer = static_cast<URLTransfer *>(self);
     const size_t length = size * count;
     if (transfer->_body.size() + qint64(length) > largestAnswer) {
-        transfer->_localError = failure(NSURLErrorUnknown, localizedText("The web service's answer is too large."));
+        transfer->_localError = tooLarge();
         return 0;
     }
     transfer->_body.append(bytes, qsizetype(length));
@@ -258,8 +273,8 @@ int URLTransfer::_onRequest(void *self, char *, char *, int, int) {
 }
 
 size_t URLTransfer::_onHeader(char *bytes, size_t size, size_t count, void *self) {
-    static_cast<URLTransfer *>(self)->_readHeader(QByteArray(bytes, qsizetype(size * count)).trimmed());
-    return size * count;
+    const QByteArray line(bytes, qsizetype(size * count));
+    return static_cast<URLTransfer *>(self)->_readHeader(line.trimmed()) ? size * count : 0;
 }
 
 } // namespace korvane

@@ -35,7 +35,7 @@ private:
     bool _hasStalled() const;
     size_t _readBody(char *buffer, size_t capacity);
     bool _rewind(qint64 position);
-    void _readHeader(const QByteArray &line);
+    bool _readHeader(const QByteArray &line); // false where it is too much
 
     static size_t _onRead(char *buffer, size_t size, size_t count, void *self);
     static int _onSeek(void *self, curl_off_t offset, int origin);
@@ -48,6 +48,7 @@ private:
     curl_slist *_headers = nullptr;
     NSHTTPURLResponse _response;
     QByteArray _body;
+    qint64 _headRead = 0;
     qint64 _bodyLength = 0;
     qint64 _bodyRead = 0;               // bytes handed to curl; at most _bodyLength
     int _requests = 0;                  // begun, a repetition of curl's own included

@@ -76,13 +76,13 @@ LockedJSONFile::Contents LockedJSONFile::_load(QVariantMap &values, QString &pro
         return Contents::Unreadable;
     }
     const auto value = NSJSONSerialization::JSONObjectWithData(data->bytes(), &problem);
-    if (value && value->typeId() == QMetaType::QVariantMap) {
-        values = value->toMap();
-        knownContents().keep(_path, data->identity(), values);
-        return Contents::Read;
-    }
-    if (value) problem = localizedText("it does not hold a JSON object");
-    return Contents::Damaged;
+    if (!value) return Contents::Damaged;
+    const bool isObject = value->typeId() == QMetaType::QVariantMap;
+    problem = !isObject ? localizedText("it does not hold a JSON object") : _check ? _check(value->toMap()) : QString();
+    if (!problem.isEmpty()) return Contents::Damaged;
+    values = value->toMap();
+    knownContents().keep(_path, data->identity(), values);
+    return Contents::Read;
 }
 
 // An earlier damaged file is never overwritten: it may hold what somebody still wants to rescue.

@@ -14,10 +14,15 @@ namespace korvane {
 
 // Readers take no lock: the file is replaced as a whole (mode 0600, synced to disk). Writers exclude each other, across
 // threads and processes, by flock of NAME.lock beside NAME.json. A file that is not a JSON object is logged, set aside
-// as NAME.json.damaged and counts as empty; one that cannot be read is an error and is left alone. Thread: any.
+// as NAME.json.damaged (where that is taken, NAME.json.damaged.2 and so on) and counts as empty; one that cannot be
+// read is an error and is left alone. Thread: any.
 class LockedJSONFile {
 public:
-    explicit LockedJSONFile(QString path) : _path(std::move(path)) {} // of NAME.json; its folder is made when needed
+    // What is wrong with the shape of the values; empty if nothing is.
+    using Check = std::function<QString(const QVariantMap &values)>;
+
+    // path: of NAME.json; its folder is made when needed. A file that does not pass the check is a damaged one.
+    explicit LockedJSONFile(QString path, Check check = {}) : _path(std::move(path)), _check(std::move(check)) {}
 
     const QString &path() const { return _path; }
 
@@ -36,6 +41,7 @@ private:
     bool _write(const std::optional<QByteArray> &text, std::optional<NSError> *error) const;
 
     QString _path;
+    Check _check;
 };
 
 } // namespace korvane

@@ -3,6 +3,7 @@
 
 #include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/LocalizedText.h"
+#include "Platform/Social/SLAttachment.h"
 
 #include <QFile>
 
@@ -51,15 +52,17 @@ qint64 copyRange(const NSData &data, int target, qint64 offset) {
     return done;
 }
 
-bool copyByHand(const NSData &data, qint64 done, int target, qint64 offset) {
+std::optional<NSError> copyByHand(const NSData &data, qint64 done, int target, qint64 offset) {
     std::vector<char> buffer(copyBuffer);
     while (done < data.length()) {
         const qint64 count = data.getBytes(buffer.data(), done, copyBuffer);
-        if (count == 0) errno = ENODATA;
-        if (count <= 0 || !writeAll(target, buffer.data(), count, offset + done)) return false;
+        if (count < 0) return SLAttachment::unreadableError(data, errno);
+        if (count == 0) return SLAttachment::changedError(data);
+        if (!writeAll(target, buffer.data(), count, offset + done))
+            return NSError::errorWithErrno(errno, localizedText("Cannot copy the data to be shared"));
         done += count;
     }
-    return true;
+    return std::nullopt;
 }
 
 } // namespace
@@ -74,13 +77,10 @@ std::optional<DataFile> DataFile::create(const QString &folder, std::optional<NS
 
 std::optional<qint64> DataFile::append(const NSData &data, std::optional<NSError> *error) {
     const qint64 offset = (_size + pageSize - 1) / pageSize * pageSize;
-    if (!copyByHand(data, copyRange(data, _file.get(), offset), _file.get(), offset)) {
-        setError(error, NSError::errorWithErrno(errno, localizedText("Cannot copy the data to be shared")));
-        return std::nullopt;
-    }
-    if (!data.isIntact()) {
-        setError(error, NSError::errorWithDescription(NSCocoaErrorDomain, 256,
-                                                      localizedText("A file changed while it was being shared.")));
+    auto failure = copyByHand(data, copyRange(data, _file.get(), offset), _file.get(), offset);
+    if (!failure && !data.isIntact()) failure = SLAttachment::changedError(data);
+    if (failure) {
+        setError(error, failure);
         return std::nullopt;
     }
     _size = offset + data.length();

@@ -7,8 +7,6 @@
 #include <QDBusArgument>
 #include <QDBusUnixFileDescriptor>
 
-#include <climits>
-
 namespace korvane {
 
 HandOver::HandOver(const QString &serviceName, NSXPCInterface interface, QString id)
@@ -22,7 +20,7 @@ void HandOver::run(const QVariantList &records) {
 
 // The data goes into a file beside the service's spool, so both must have agreed on the folder before.
 ServiceConnection::Outcome HandOver::_attempt(const QVariantList &records) {
-    const auto opened = _connection.open(INT_MAX, &error);
+    const auto opened = _connection.open(&error);
     if (opened != ServiceConnection::Answered) return opened;
     if (!_message) _message = WireRecord::encode(records, ServiceSettings::current().spoolFolder, &error);
     return _message ? _send() : ServiceConnection::Failed;
@@ -35,7 +33,7 @@ ServiceConnection::Outcome HandOver::_send() {
                                                                              : _message->records.value(0);
     QVariantList reply;
     const auto outcome = _connection.call(objectPathOfService(_serviceName), _serviceName, _interface.operation,
-                                          {_id, argument, QVariant::fromValue(files)}, INT_MAX, &reply, &error);
+                                          {_id, argument, QVariant::fromValue(files)}, &reply, &error);
     if (outcome != ServiceConnection::Answered) return outcome;
     success = reply.value(0).toBool();
     const auto dictionary = qdbus_cast<QVariantMap>(reply.value(1));

@@ -17,7 +17,8 @@ public:
     // id: by which the service knows the message when it comes again.
     HandOver(const QString &serviceName, NSXPCInterface interface, QString id);
 
-    // Sends the records and waits for the reply without a limit; sends them once more where a reply was lost.
+    // Sends the records and waits for the reply as long as the service is alive; sends them once more where a reply was
+    // lost.
     void run(const QVariantList &records);
 
     // The reply; null and an error where none came.

@@ -17,6 +17,7 @@ namespace korvane {
 namespace {
 
 constexpr qsizetype longestID = 128;
+constexpr int busMilliseconds = 5000;
 
 NSError unusableData(const QString &text) {
     return NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorUnusableData, text);
@@ -64,6 +65,15 @@ QVariantList decoded(bool batch, const QVariant &argument, const std::shared_ptr
     return records;
 }
 
+// Where the bus cannot tell, it counts as there: it asks again under the message's id once there is a bus.
+bool isOnBus(const QString &name, const QDBusConnection &connection) {
+    auto question =
+        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+                                       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"));
+    const QDBusMessage answer = connection.call(question << name, QDBus::Block, busMilliseconds);
+    return answer.type() != QDBusMessage::ReplyMessage || answer.arguments().value(0).toBool();
+}
+
 } // namespace
 
 RemoteServiceSession::RemoteServiceSession(QString serviceName, NSXPCInterface interface)
@@ -90,7 +100,9 @@ bool RemoteServiceSession::handleMessage(const QDBusMessage &message, const QDBu
             message.createReply({success.value_or(false), error ? dictionaryOfError(*error) : QVariantMap()}));
     };
     std::optional<NSError> error;
-    RemoteMessage extra{message.arguments().at(0).toString(), nullptr};
+    RemoteMessage extra;
+    extra.id = message.arguments().at(0).toString();
+    extra.isAwaited = [connection, sender = message.service()] { return isOnBus(sender, connection); };
     if (extra.id.isEmpty() || extra.id.size() > longestID)
         error = unusableData(QStringLiteral("The message has no usable id."));
     if (!error) extra.dataFile = dataFileOf(message.arguments().at(2), &error);

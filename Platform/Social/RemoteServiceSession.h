@@ -8,6 +8,7 @@
 #include <QDBusVirtualObject>
 #include <QVariantList>
 
+#include <functional>
 #include <memory>
 
 namespace korvane {
@@ -17,6 +18,8 @@ struct RemoteMessage {
     QString id; // the same when a client asks again after a lost reply
     std::shared_ptr<const FileDescriptor>
         dataFile; // unnamed, own, nobody writes to it; null if all data is in the records
+    // Whether its sender is still there to hear the answer. Blocks for a moment. Thread: any.
+    std::function<bool()> isAwaited = [] { return true; };
 };
 
 // Registers itself on the bus under the service's name, checks what arrives and hands it to its derived class.

@@ -2,12 +2,15 @@
 #include "Platform/Social/SLAttachment.h"
 
 #include "Platform/AssetsLibrary/ALAssetsLibrary.h"
+#include "Platform/Foundation/FileError.h"
 #include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Foundation/NSByteCountFormatter.h"
 #include "Platform/ImageIO/CGImageSource.h"
 #include "Platform/ImageIO/PictureProgram.h"
 #include "Platform/MobileCoreServices/UTType.h"
 #include "Platform/Preferences/KorvaneSettings.h"
+
+#include <QFile>
 
 #include <filesystem>
 
@@ -27,8 +30,7 @@ struct PhotoFile {
 };
 
 NSError unusable(const QByteArray &path, const QString &problem) {
-    return NSError::errorWithDescription(SLAttachmentErrorDomain, SLAttachmentErrorUnusable,
-                                         QString::fromUtf8(path) + QStringLiteral(": ") + problem);
+    return FileError::make(SLAttachmentErrorDomain, SLAttachmentErrorUnusable, QFile::decodeName(path), problem);
 }
 
 std::optional<PhotoFile> openPhoto(const QByteArray &path, std::optional<NSError> *error) {
@@ -65,6 +67,15 @@ NSURL absoluteURL(const QByteArray &path) {
     std::error_code failure; // a current folder that is gone; the bytes are at hand all the same
     return NSURL::fileURLWithPath(
         QByteArray::fromStdString(std::filesystem::absolute(path.toStdString(), failure).string()));
+}
+
+// As the kernel knows it: the name may have changed since the file was opened.
+QString nameOfFile(const NSData &data) {
+    std::error_code failure;
+    const std::string descriptor = "/proc/self/fd/" + std::to_string(data.file() ? data.file()->get() : -1);
+    QString name = QFile::decodeName(std::filesystem::read_symlink(descriptor, failure).c_str());
+    if (const QString mark = QStringLiteral(" (deleted)"); name.endsWith(mark)) name.chop(mark.size());
+    return name;
 }
 
 bool travelsAsItIs(const QString &type) {
@@ -109,6 +120,16 @@ std::optional<SLAttachment> SLAttachment::videoAttachment(const QByteArray &path
 std::optional<NSError> SLAttachment::photoProblem(const QByteArray &path) {
     std::optional<NSError> error;
     return openPhoto(path, &error) ? std::nullopt : error;
+}
+
+NSError SLAttachment::changedError(const NSData &data) {
+    return FileError::make(
+        SLAttachmentErrorDomain, SLAttachmentErrorChanged, nameOfFile(data),
+        localizedText("the file has changed since it was chosen. Check that it is complete, then share it again."));
+}
+
+NSError SLAttachment::unreadableError(const NSData &data, int code) {
+    return NSError::errorWithErrno(code, nameOfFile(data));
 }
 
 } // namespace korvane

@@ -12,8 +12,10 @@ namespace korvane {
 
 extern const QString SLAttachmentErrorDomain;
 
+// These and those of files have their reason apart from the file's name: FileError::reasonOf().
 enum SLAttachmentErrorCode : qint64 {
     SLAttachmentErrorUnusable = 1, // empty, no picture, or one that is damaged
+    SLAttachmentErrorChanged = 2,  // not the file any more that the attachment was made of
 };
 
 enum SLAttachmentType : qint64 {
@@ -37,6 +39,11 @@ struct SLAttachment {
     // What makes the file unusable as a photo, as far as it can be told without decoding it; null if nothing does.
     // NSPOSIXErrorDomain where it cannot be read.
     static std::optional<NSError> photoProblem(const QByteArray &path);
+
+    // Of a file's data that is not what it was when the attachment was made, or that a disk does not give; these name
+    // the file.
+    static NSError changedError(const NSData &data);
+    static NSError unreadableError(const NSData &data, int code);
 
     // The video in a file: its URL in the photo library if it is there, else the file's. Its streams are looked at,
     // which blocks for about a tenth of a second. Null, with an error placed that names the file, for what is no video

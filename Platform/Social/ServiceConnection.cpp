@@ -3,6 +3,7 @@
 
 #include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Social/RemoteServiceError.h"
+#include "Platform/Social/ServicePulse.h"
 #include "Platform/Social/ServiceSettings.h"
 #include "Platform/Social/SessionBus.h"
 #include "Platform/Social/UploadsInterface.h"
@@ -11,15 +12,18 @@
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
+#include <QElapsedTimer>
 #include <QUuid>
 
 #include <algorithm>
 #include <chrono>
+#include <limits>
 #include <thread>
 
 namespace korvane {
 namespace {
 
+constexpr int noLimit = std::numeric_limits<int>::max(); // milliseconds
 constexpr std::chrono::microseconds shortestPause(100);
 constexpr std::chrono::microseconds longestPause(20'000);
 
@@ -29,11 +33,10 @@ void fail(std::optional<NSError> *error, const QString &text) {
 
 } // namespace
 
-ServiceConnection::ServiceConnection(QString serviceName, bool mayBeInterrupted)
-    : _serviceName(std::move(serviceName)), _mayBeInterrupted(mayBeInterrupted),
-      _connectionName(QUuid::createUuid().toString()) {}
+ServiceConnection::ServiceConnection(QString serviceName)
+    : _serviceName(std::move(serviceName)), _connectionName(QUuid::createUuid().toString()) {}
 
-ServiceConnection::Outcome ServiceConnection::open(int milliseconds, std::optional<NSError> *error) {
+ServiceConnection::Outcome ServiceConnection::open(std::optional<NSError> *error) {
     close();
     const auto address = SessionBus::addressStartingService(error);
     if (!address) return Failed;
@@ -41,15 +44,15 @@ ServiceConnection::Outcome ServiceConnection::open(int milliseconds, std::option
     const auto bus = QDBusConnection::connectToBus(*address, _connectionName);
     if (!bus.isConnected())
         fail(error, localizedText("The session bus cannot be reached: %1", bus.lastError().message()));
-    const Outcome outcome = bus.isConnected() ? _agreeOnSettings(milliseconds, error) : Failed;
+    const Outcome outcome = bus.isConnected() ? _agreeOnSettings(error) : Failed;
     if (outcome != Answered) close();
     return outcome;
 }
 
-ServiceConnection::Outcome ServiceConnection::_agreeOnSettings(int milliseconds, std::optional<NSError> *error) const {
+ServiceConnection::Outcome ServiceConnection::_agreeOnSettings(std::optional<NSError> *error) const {
     QVariantList answer;
     const Outcome outcome = call(UploadsInterface::path(), QStringLiteral("org.freedesktop.DBus.Properties"),
-                                 QStringLiteral("GetAll"), {UploadsInterface::name()}, milliseconds, &answer, error);
+                                 QStringLiteral("GetAll"), {UploadsInterface::name()}, &answer, error);
     if (outcome != Answered) return outcome;
     const auto service = ServiceSettings::fromDictionary(qdbus_cast<QVariantMap>(answer.value(0)));
     const auto difference = ServiceSettings::current().difference(service);
@@ -64,27 +67,39 @@ void ServiceConnection::close() {
 }
 
 ServiceConnection::Outcome ServiceConnection::call(const QString &path, const QString &interface, const QString &member,
-                                                   const QVariantList &arguments, int milliseconds,
-                                                   QVariantList *answer, std::optional<NSError> *error) const {
+                                                   const QVariantList &arguments, QVariantList *answer,
+                                                   std::optional<NSError> *error) const {
     auto message = QDBusMessage::createMethodCall(_serviceName, path, interface, member);
     message.setArguments(arguments);
-    const QDBusMessage reply = _mayBeInterrupted ? _replyUnlessInterrupted(message, milliseconds)
-                                                 : bus().call(message, QDBus::Block, milliseconds);
+    const QDBusMessage reply = _replyTo(message);
     if (reply.type() == QDBusMessage::ReplyMessage) {
         *answer = reply.arguments();
         return Answered;
     }
-    fail(error, localizedText("The upload service (korvane-uploadd) cannot be reached: %1", reply.errorMessage()));
     const auto type = QDBusError(reply).type();
+    fail(error,
+         type == QDBusError::TimedOut
+             ? reply.errorMessage()
+             : localizedText("The upload service (korvane-uploadd) cannot be reached: %1", reply.errorMessage()));
     return type == QDBusError::NoReply || type == QDBusError::Disconnected ? Lost : Failed;
 }
 
-// Nothing but the reply wakes who waits for it, not even the connection's end.
-QDBusMessage ServiceConnection::_replyUnlessInterrupted(const QDBusMessage &message, int milliseconds) const {
-    const QDBusPendingCall call = bus().asyncCall(message, milliseconds);
-    for (auto pause = shortestPause; !call.isFinished(); pause = std::min(2 * pause, longestPause)) {
+// Nothing but the reply wakes who waits for it, not even the connection's end, so this looks for it: soon after it
+// came, and seldom where it takes long.
+QDBusMessage ServiceConnection::_replyTo(const QDBusMessage &message) const {
+    const QDBusPendingCall call = bus().asyncCall(message, noLimit);
+    ServicePulse pulse(bus(), _serviceName);
+    QElapsedTimer waited;
+    waited.start();
+    while (!call.isFinished()) {
         if (_isInterrupted) return QDBusMessage::createError(QDBusError::NoReply, localizedText("It was broken off."));
-        std::this_thread::sleep_for(pause);
+        if (pulse.isLost())
+            return QDBusMessage::createError(
+                QDBusError::TimedOut,
+                localizedText("The upload service (korvane-uploadd) does not answer. End it and try again: it goes on "
+                              "with its uploads when it is started anew."));
+        const std::chrono::nanoseconds pause(waited.nsecsElapsed() / 8);
+        std::this_thread::sleep_for(std::clamp<std::chrono::nanoseconds>(pause, shortestPause, longestPause));
     }
     return call.reply();
 }

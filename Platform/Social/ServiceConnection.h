@@ -14,7 +14,7 @@
 namespace korvane {
 
 // On a connection of its own, so that the end of the bus is an error and no hang. Errors are of
-// RemoteServiceErrorDomain. Thread: the one that made it, alone; calls block.
+// RemoteServiceErrorDomain. Thread: the one that made it, alone; calls block as long as the service is alive.
 class ServiceConnection {
 public:
     enum Outcome {
@@ -24,30 +24,28 @@ public:
     };
 
     // serviceName: the bus name under which the service is reached and started.
-    explicit ServiceConnection(QString serviceName, bool mayBeInterrupted = false);
+    explicit ServiceConnection(QString serviceName);
     ~ServiceConnection() { close(); }
     ServiceConnection(const ServiceConnection &) = delete;
     ServiceConnection &operator=(const ServiceConnection &) = delete;
 
     // Connects, anew if it was connected, starting the service where it is not running. A service with another queue or
     // other hosts is not the one that the caller means: Failed, naming the difference.
-    Outcome open(int milliseconds, std::optional<NSError> *error);
+    Outcome open(std::optional<NSError> *error);
     void close();
     bool isOpen() const { return _isOpen; }
-    // Where that may be, a call that is under way ends as Lost, and so do all after it. Thread: any.
+    // A call that is under way ends as Lost, and so do all after it. Thread: any.
     void interrupt() { _isInterrupted = true; }
     QDBusConnection bus() const { return QDBusConnection(_connectionName); }
 
     Outcome call(const QString &path, const QString &interface, const QString &member, const QVariantList &arguments,
-                 int milliseconds, QVariantList *answer, std::optional<NSError> *error) const;
+                 QVariantList *answer, std::optional<NSError> *error) const;
 
 private:
-    Outcome _agreeOnSettings(int milliseconds, std::optional<NSError> *error) const;
-
-    QDBusMessage _replyUnlessInterrupted(const QDBusMessage &message, int milliseconds) const;
+    Outcome _agreeOnSettings(std::optional<NSError> *error) const;
+    QDBusMessage _replyTo(const QDBusMessage &message) const;
 
     const QString _serviceName;
-    const bool _mayBeInterrupted;
     const QString _connectionName;
     bool _isOpen = false;
     std::atomic<bool> _isInterrupted = false;

@@ -4,6 +4,7 @@
 #include "Platform/Foundation/LocalizedText.h"
 #include "Platform/Social/DataFile.h"
 #include "Platform/Social/RemoteServiceError.h"
+#include "Platform/Social/SLAttachment.h"
 
 #include <QDBusMetaType>
 #include <QDBusVariant>
@@ -76,7 +77,10 @@ private:
     std::optional<QVariant> _data(const NSData &data, std::optional<NSError> *error) {
         if (data.length() <= _inlineLeft) {
             _inlineLeft -= data.length();
-            return data.bytes();
+            const QByteArray bytes = data.bytes();
+            if (bytes.size() == data.length() && data.isIntact()) return bytes;
+            setError(error, SLAttachment::changedError(data));
+            return std::nullopt;
         }
         if (!_file) _file = DataFile::create(_folder, error);
         if (!_file) return std::nullopt;

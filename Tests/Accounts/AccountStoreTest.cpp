@@ -3,6 +3,7 @@
 #include "Tests/Accounts/AccountsFixture.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace korvane::test {
 namespace {
@@ -45,6 +46,25 @@ TEST_F(AccountStore, KeepsAccountsInOrderAndInUseAndTheirSecretsOutOfTheList) {
     EXPECT_FALSE(says(home.contents(accounts), "-key"));
     EXPECT_FALSE(says(log.lines().join(u' '), "hush"));
     EXPECT_EQ(log.lines().filter(QStringLiteral("credentials.json")).size(), 1);
+}
+
+TEST_F(AccountStore, KeepsOthersOutOfTheFileOfSecrets) {
+    ASSERT_TRUE(add(flickr, "ada"));
+    const QByteArray path = home.path(credentials).toUtf8();
+    ASSERT_EQ(::chmod(path.constData(), 0644), 0);
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(store.accountInUse(flickr.identifier())->credential(), credentialOf("ada"));
+    struct stat status;
+    ASSERT_EQ(::stat(path.constData(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0600U);
+    EXPECT_EQ(log.lines().filter(QStringLiteral("could be read by other users")).size(), 1);
+
+    if (::chown(path.constData(), 1, 1) != 0) GTEST_SKIP() << "only root can give it to somebody else";
+    std::optional<NSError> error;
+    EXPECT_EQ(store.accountInUse(flickr.identifier())->credential(&error), std::nullopt);
+    EXPECT_TRUE(says(error, "belongs to another user"));
+    EXPECT_EQ(add(flickr, "eva", "eva", &error), nullptr);
+    EXPECT_FALSE(says(home.contents(credentials), "eva-"));
 }
 
 TEST_F(AccountStore, ReplacesTheCredentialOfAKnownAccountAndRemovesItWithTheAccount) {
@@ -97,15 +117,39 @@ TEST_F(AccountStore, SkipsAndKeepsEntriesThatItDoesNotUnderstand) {
     EXPECT_TRUE(says(home.contents(accounts), "\"later\""));
 }
 
-TEST_F(AccountStore, LeavesNoSecretBehindWhenTheListCannotBeWritten) {
-    const QByteArray damaged = R"({"accounts": "none"})";
+TEST_F(AccountStore, KeepsADamagedListAsideAndSaysSoUntilAnAccountIsAdded) {
+    for (const QByteArray &damaged : {R"({"accounts": 7})", R"({"accounts": {"a": [1]}})", "{\"acc"}) {
+        const QString aside = accounts + QStringLiteral(".damaged");
+        QFile::remove(home.path(aside));
+        home.file(accounts, damaged);
+        for (int i = 0; i < 2; ++i) {
+            std::optional<NSError> error;
+            EXPECT_TRUE(store.accountsWithAccountType(flickr, &error).empty());
+            EXPECT_TRUE(says(error, home.path(aside).toUtf8() + ". Sign in again")) << damaged.constData();
+        }
+        EXPECT_EQ(home.contents(aside), damaged);
+        ASSERT_TRUE(add(flickr, "ada"));
+        std::optional<NSError> error;
+        EXPECT_TRUE(store.accountsWithAccountType(vimeo, &error).empty());
+        EXPECT_FALSE(error);
+    }
+    home.file(accounts, R"({"accounts": [7]})");
+    std::optional<NSError> error;
+    EXPECT_TRUE(store.accountsWithAccountType(flickr, &error).empty());
+    EXPECT_TRUE(says(error, "No account in"));
     ASSERT_TRUE(add(flickr, "ada"));
-    home.file(accounts, damaged);
+    EXPECT_TRUE(says(home.contents(accounts), "7,")) << "not ours to throw away";
+}
+
+TEST_F(AccountStore, LeavesNoSecretBehindWhenTheListCannotBeWritten) {
+    ASSERT_TRUE(add(flickr, "ada"));
+    ASSERT_TRUE(QFile::remove(home.path(accounts)));
+    ASSERT_TRUE(QFile::link(home.path(u"no/such/folder"), home.path(accounts)));
     std::optional<NSError> error;
     EXPECT_EQ(add(flickr, "eva", "eva", &error), nullptr);
-    EXPECT_EQ(error->code(), ACErrorAccountListDamaged);
+    EXPECT_TRUE(says(error, "could not be written"));
+    EXPECT_TRUE(says(home.contents(credentials), "ada-"));
     EXPECT_FALSE(says(home.contents(credentials), "eva-"));
-    EXPECT_EQ(home.contents(accounts), damaged);
 }
 
 } // namespace

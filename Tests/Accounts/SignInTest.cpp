@@ -4,6 +4,7 @@
 #include "StandIn/StandIn.h"
 #include "Tests/Accounts/AccountsFixture.h"
 #include "Tests/Support/ScriptedBrowser.h"
+#include "Tests/Support/ScriptedServer.h"
 
 #include <QDateTime>
 #include <QRegularExpression>
@@ -38,12 +39,16 @@ class SignInTest : public AccountsFixture {
 protected:
     SignInTest() {
         EXPECT_TRUE(server.start());
-        home.setEnvironment("KORVANE_FLICKR_URL", server.url().toUtf8());
-        home.setEnvironment("KORVANE_VIMEO_URL", server.url().toUtf8());
+        pointAt(server.url());
     }
     ~SignInTest() override {
         EXPECT_EQ(server.protocolErrors(), QStringList());
         EXPECT_EQ(log.lines().filter(QStringLiteral("oauth")), QStringList());
+    }
+
+    void pointAt(const QString &url) {
+        home.setEnvironment("KORVANE_FLICKR_URL", url.toUtf8());
+        home.setEnvironment("KORVANE_VIMEO_URL", url.toUtf8());
     }
 
     std::unique_ptr<Attempt> begin(const ACAccountType &type, SignIn::Options options = {},
@@ -160,6 +165,9 @@ TEST_F(SignInTest, TellsWhatFailedAndWhatToDo) {
         {"request_token", answer(200, QByteArray(good).replace("=a", "=a%0D%0Ab")), ACErrorSignInNotUnderstood,
          "\"oauth_token\""},
         {"request_token", answer(200, good + "&more=" + QByteArray(20'000, 'x')), ACErrorSignInNotUnderstood, "long"},
+        {"request_token", answer(401, "oauth_problem=verifier_invalid"), ACErrorSignInNotPossible,
+         "refused the sign-in (verifier_invalid)"},
+        {"request_token", answer(401, "oauth_problem=token_rejected"), ACErrorSignInNotPossible, "(token_rejected)"},
         {"request_token", [](auto &queue) { queue.truncate(); }, NSURLErrorNetworkConnectionLost, "reached"},
         {"access_token", answer(401, "oauth_problem=token_used"), ACErrorSignInExpired, "again"},
         {"access_token", answer(401, "oauth_problem=verifier_invalid"), ACErrorSignInCodeWrong, "again"},
@@ -189,6 +197,14 @@ TEST_F(SignInTest, TellsWhatFailedAndWhatToDo) {
         EXPECT_EQ(attempt->error->code(), ACErrorApplicationKeyRefused) << key;
         EXPECT_FALSE(says(attempt->said(), "hush"));
     }
+    const ScriptedServer chatty([](ScriptedConnection &connection, int) {
+        connection.readBodyOf(connection.readHead());
+        connection.write("HTTP/1.1 200 OK\r\n" + QByteArray("X-More: and more\r\n").repeated(1'000'000));
+    });
+    pointAt(chatty.url());
+    const auto attempt = begin(flickr);
+    ASSERT_TRUE(attempt->waitForEnd());
+    EXPECT_TRUE(says(attempt->said(), "does not understand (it is too long)")) << qPrintable(attempt->said());
 }
 
 TEST_F(SignInTest, EndsAfterItsTimeOrWhenItIsGivenUp) {
@@ -234,6 +250,9 @@ TEST_F(SignInTest, TurnsHostileCallsAway) {
         halves.back()->connectToHost(way.host(), quint16(way.port()));
         halves.back()->write(i % 2 ? "GET " + path + '?' + query + " HTTP/1.1\r\nHost: x\r\n" : QByteArray());
     }
+    const auto isClosed = [](const auto &half) { return half->state() == QTcpSocket::UnconnectedState; };
+    EXPECT_TRUE(waitFor([&] { return std::ranges::count_if(halves, isClosed) == 40 - 16; }, 5'000))
+        << "no more than 16 are kept";
     const std::pair<QByteArray, const char *> cases[] = {
         {"GET / HTTP/1.1\r\n\r\n", "HTTP/1.1 404"},
         {"GET /favicon.ico HTTP/1.1\r\n\r\n", "HTTP/1.1 404"},

@@ -73,20 +73,26 @@ TEST_F(KorvaneProgram, EveryUnusableFileIsNamedAndNoneIsShared) {
     ASSERT_TRUE(QFile::resize(QFile::decodeName(huge), 200 * 1024 * 1024 + 1));
     const QByteArray folder = QFile::encodeName(home.path());
     const QByteArray crafty = home.file("a\nkorvane: \x1b[2J all done.jpg", {});
-    const Ending ending = run({"share", "flickr", photo, empty, huge, folder + "/missing.jpg", folder, crafty});
+    const Ending ending = run({"share", "flickr", "FILE:" + photo, empty, huge, "file://" + folder + "/missing.jpg",
+                               folder, crafty, "sftp://far/away.jpg"});
     EXPECT_EQ(ending.status, 2);
     EXPECT_EQ(ending.output, "");
     for (const char *said :
          {"empty.jpg: the file is empty", "huge.jpg: the file has 209.7 MB, Flickr takes photos of up to 200 MB",
-          "missing.jpg: No such file", ": Is a directory", "/a korvane: \uFFFD[2J all done.jpg", "Nothing was shared."})
+          "missing.jpg: No such file", "sftp://far/away.jpg: this is not a file on this device", ": Is a directory",
+          "/a korvane: \uFFFD[2J all done.jpg", "Nothing was shared."})
         EXPECT_TRUE(says(ending.errors, said));
     EXPECT_FALSE(says(ending.errors, "good.jpg"));
 }
 
 TEST_F(KorvaneProgram, AccountsComeAndGoWithoutShowingSecrets) {
-    const Ending without = run({"share", "flickr", photo});
-    EXPECT_EQ(without.status, 3);
-    EXPECT_TRUE(says(without.errors, "korvane accounts add flickr"));
+    home.file("config/korvane/accounts.json", R"({"accounts": 7})");
+    for (const QByteArrayList &arguments : {QByteArrayList{"share", "flickr", photo}, {"accounts"}}) {
+        const Ending without = run(arguments);
+        EXPECT_EQ(without.status, arguments.size() > 1 ? 3 : 0);
+        EXPECT_TRUE(says(without.errors, "accounts.json.damaged. Sign in again"));
+        EXPECT_TRUE(says(without.output + without.errors, "korvane accounts add flickr"));
+    }
     const Ending refused = addAccount("{\"username\":\"a\",\"token\":\"hush\"}");
     EXPECT_EQ(refused.status, 2);
     EXPECT_TRUE(says(refused.errors, "consumerKey"));

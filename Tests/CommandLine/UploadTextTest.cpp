@@ -68,6 +68,8 @@ TEST(UploadText, RowsTellTheReasonSafelyAndFitTheTerminal) {
     const QString day = waiting.nextTry.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm"));
     EXPECT_EQ(UploadText::reason(waiting),
               QStringLiteral("waiting for the network, at the latest %1: no\uFFFD\uFFFD!").arg(day));
+    waiting.waitingFor = QStringLiteral("sign-in");
+    EXPECT_TRUE(says(UploadText::reason(waiting), "waiting for an account (korvane accounts add flickr): no"));
 }
 
 TEST(Arguments, OnlyWhatCanBeCarriedIsTaken) {

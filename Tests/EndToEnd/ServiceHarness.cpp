@@ -53,14 +53,18 @@ std::shared_ptr<FlickrPost> ServiceHarness::post(const QByteArray &bytes, qint64
     return post;
 }
 
-QDBusMessage ServiceHarness::handOver(const QString &messageID, const QVariant &records, const QList<int> &files) {
+QDBusMessage ServiceHarness::handOverMessage(const QString &messageID, const QVariant &records,
+                                             const QList<int> &files) {
     auto call = QDBusMessage::createMethodCall(FlickrRemoteServiceName, QStringLiteral("/com/zorvex/flickr/xpc"),
                                                QStringLiteral("com.zorvex.flickr.xpc"), QStringLiteral("uploadPosts"));
     QList<QDBusUnixFileDescriptor> descriptors;
     for (const int file : files)
         descriptors.append(QDBusUnixFileDescriptor(file));
-    call << messageID << records << QVariant::fromValue(descriptors);
-    return bus->connection().call(call, QDBus::Block, 60'000);
+    return call << messageID << records << QVariant::fromValue(descriptors);
+}
+
+QDBusMessage ServiceHarness::handOver(const QString &messageID, const QVariant &records, const QList<int> &files) {
+    return bus->connection().call(handOverMessage(messageID, records, files), QDBus::Block, 60'000);
 }
 
 QVariant ServiceHarness::ask(QAnyStringView method, const QVariantList &arguments) {

@@ -28,6 +28,8 @@ public:
     // A video with title, description and tags, in a file of those bytes.
     std::shared_ptr<VimeoPost> video(QAnyStringView fileName, const QByteArray &bytes) const;
     // The message itself, records of any type and descriptors of any kind.
+    static QDBusMessage handOverMessage(const QString &messageID, const QVariant &records,
+                                        const QList<int> &files = {});
     QDBusMessage handOver(const QString &messageID, const QVariant &records, const QList<int> &files = {});
 
     // Calls of the status interface.

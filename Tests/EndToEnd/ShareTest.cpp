@@ -2,6 +2,7 @@
 #include "Platform/Social/RemoteServiceError.h"
 #include "Tests/EndToEnd/ServiceHarness.h"
 
+#include <QDBusPendingCall>
 #include <QSet>
 
 #include <sys/mount.h>
@@ -201,4 +202,22 @@ TEST_F(Share, AFullDiskRefusesTheWholeBatch) {
     EXPECT_TRUE(waitForState("done", 1));
     killService(SIGTERM);
     ::umount2(QFile::encodeName(spool).constData(), MNT_DETACH);
+}
+
+TEST_F(Share, AServiceThatHangsIsGivenUpAndTakesNothingAfterwards) {
+    startService();
+    const auto service = pid_t(servicePid());
+    ::kill(service, SIGSTOP);
+    const QString stranger = QStringLiteral("stranger");
+    const QVariantMap record{{QStringLiteral("photoData"), jpegOfSize(100)}};
+    QDBusConnection::connectToBus(busAddress, stranger)
+        .asyncCall(handOverMessage(QStringLiteral("1"), QVariant::fromValue(QList<QVariantMap>{record})));
+    QDBusConnection::disconnectFromBus(stranger);
+    std::optional<NSError> error;
+    EXPECT_FALSE(share({post(jpegOfSize(100))}, &error));
+    ASSERT_TRUE(says(error, "does not answer"));
+    ::kill(service, SIGCONT);
+    EXPECT_TRUE(waitFor([this] { return log().contains(QStringLiteral("its sender is gone")); }));
+    EXPECT_TRUE(uploads().isEmpty());
+    EXPECT_TRUE(share({post(jpegOfSize(100))}));
 }

@@ -76,9 +76,11 @@ TEST(URLConnection, TakesAnyStatusForAnAnswerAndFollowsNothing) {
 }
 
 TEST(URLConnection, GivesEachTransportFailureItsCode) {
-    const auto breakOff = [](ScriptedConnection &connection, int) {
-        connection.readBodyOf(connection.readHead());
-        connection.write("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nhalf");
+    const auto answersWith = [](const QByteArray &answer) {
+        return [answer](ScriptedConnection &connection, int) {
+            connection.readBodyOf(connection.readHead());
+            connection.write(answer);
+        };
     };
     const auto reset = [](ScriptedConnection &connection, int) {
         connection.readHead();
@@ -87,7 +89,14 @@ TEST(URLConnection, GivesEachTransportFailureItsCode) {
     const auto silence = [](ScriptedConnection &connection, int) { connection.waitForEnd(); };
     const std::tuple<const char *, ScriptedServer::Script, qint64> cases[] = {
         {"reset while the body is on its way", reset, NSURLErrorNetworkConnectionLost},
-        {"answer breaks off", breakOff, NSURLErrorNetworkConnectionLost},
+        {"answer breaks off", answersWith("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nhalf"),
+         NSURLErrorNetworkConnectionLost},
+        {"many headers", answersWith("HTTP/1.1 200 OK\r\n" + QByteArray("X-More: and more\r\n").repeated(100'000)),
+         NSURLErrorDataLengthExceedsMaximum},
+        {"a long header", answersWith("HTTP/1.1 200 OK\r\nX-More: " + QByteArray(2'000'000, 'x')),
+         NSURLErrorDataLengthExceedsMaximum},
+        {"no HTTP", answersWith("220 mail.example.org ESMTP\r\n"), NSURLErrorBadServerResponse},
+        {"no length", answersWith("HTTP/1.1 200 OK\r\nContent-Length: some\r\n\r\n"), NSURLErrorBadServerResponse},
         {"silence", silence, NSURLErrorTimedOut},
     };
     for (const auto &[what, script, code] : cases) {

@@ -44,7 +44,7 @@ TEST(FailureClassifier, TellsPassingFailuresFromFinalOnesAndSaysWhatToDo) {
         {response(-1, "oauth_problem=nonce_used", 401), NextTry, "again"},
         {response(-1, "<html>hotel wifi</html>", 200), None, "not understood"},
         {response(0, nullptr, 404), None, "not understood (HTTP status 404)"},
-        {withError(FlickrPostErrorDomain, 3, nullptr), None, "library"},
+        {withError(FlickrPostErrorDomain, 3, "sea.heic"), None, "sea.heic is no longer in the photo library"},
     };
     for (const auto &[outcome, reason, told] : cases) {
         SCOPED_TRACE(outcome.error->description().toStdString());

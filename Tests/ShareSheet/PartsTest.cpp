@@ -30,6 +30,11 @@ TEST(Arguments, AreReadAsFileManagersPassThem) {
                     {"file:///a/gr%C3%BCn.jpg", "/a/gr\xC3\xBCn.jpg"},
                     {"file:///a/gr\xC3\xBCn.jpg", "/a/gr\xC3\xBCn.jpg"},
                     {"file:///a/%FF.jpg", "/a/\xFF.jpg"},
+                    {"FILE:///a/B.jpg", "/a/B.jpg"},
+                    {"file:/a/b%20c.jpg", "/a/b c.jpg"},
+                    {"File:/a/b c.jpg", "/a/b c.jpg"},
+                    {"FILE://LocalHost/a.jpg", "/a.jpg"},
+                    {"file:a.jpg", "file:a.jpg"},
                     {"file://localhost/a.jpg", "/a.jpg"},
                     {"/run/user/1000/gvfs/sftp:host=far/a.jpg", "/run/user/1000/gvfs/sftp:host=far/a.jpg"},
                     {"file://" + thisHost + "/a%20b.jpg", "/a b.jpg"},
@@ -44,11 +49,17 @@ TEST(Arguments, AreReadAsFileManagersPassThem) {
     }
     QString problem;
     EXPECT_EQ(SheetRequest::parse({"vimeo", "--", "-f.mp4"}, problem)->files, QByteArrayList{"-f.mp4"});
-    EXPECT_EQ(SheetRequest::parse({"prefs:root=VIMEO"}, problem)->settingsOf, SheetRequest::Vimeo);
+    for (const char *address :
+         {"prefs:root=VIMEO", "PREFS:root=vimeo", "Prefs:ROOT=VIMEO/", "prefs:root=VIMEO&path=x"}) {
+        const auto request = SheetRequest::parse({address}, problem);
+        EXPECT_TRUE(request && request->settingsOf == SheetRequest::Vimeo) << address;
+    }
     EXPECT_TRUE(problem.isEmpty());
-    const auto settings = SheetRequest::parse({"prefs:root=OTHER"}, problem);
-    EXPECT_TRUE(settings && settings->page == SheetRequest::Settings && !settings->settingsOf);
-    EXPECT_TRUE(problem.contains(QStringLiteral("OTHER"))) << "those at large, and not without a word";
+    for (const char *address : {"prefs:root=OTHER", "prefs:", "PREFS:root="}) {
+        const auto settings = SheetRequest::parse({address}, problem);
+        EXPECT_TRUE(settings && settings->page == SheetRequest::Settings && !settings->settingsOf) << address;
+    }
+    EXPECT_FALSE(problem.isEmpty()) << "those at large, and not without a word";
     const QByteArrayList wrong[]{{},
                                  {"flickr"},
                                  {"smoke", "a.jpg"},
@@ -214,4 +225,16 @@ TEST(Thumbnails, ShowPhotosUprightAndVideosByAFrame) {
     ASSERT_EQ(frame.size(), QSize(64, 36));
     EXPECT_GT(frame.pixelColor(32, 18).red(), 200);
     EXPECT_LT(frame.pixelColor(32, 18).blue(), 60);
+}
+
+TEST(Thumbnails, LargerThanAProgramMaySendAreNotShown) {
+    TemporaryHome home;
+    for (const qint64 size : {3 << 20, 5 << 20}) {
+        const QByteArray picture = home.file("picture.jpg", dataBytes("orientation-1.jpg") + QByteArray(size, '\0'));
+        const QByteArray program = home.file("bin/ffmpeg", "#!/bin/sh\nexec cat " + picture + '\n');
+        ASSERT_TRUE(QFile::setPermissions(QFile::decodeName(program), QFileDevice::ReadUser | QFileDevice::ExeUser));
+        home.setEnvironment("KORVANE_FFMPEG", program);
+        const QImage image = ThumbnailMaker::make({.path = picture, .isVideo = true, .edge = 32}, {});
+        EXPECT_EQ(image.isNull(), size > 4 << 20) << size;
+    }
 }

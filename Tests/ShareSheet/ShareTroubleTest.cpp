@@ -39,6 +39,24 @@ TEST_F(ShareWindow, ARefusedHandOverKeepsWhatWasEnteredForAnotherTry) {
     EXPECT_EQ(*status, 4) << "why it was given up";
 }
 
+TEST_F(ShareWindow, APhotoThatChangesBeforePostIsNamedAndLookedAtAgain) {
+    const QByteArray path = photo("sea.jpg");
+    open({"flickr", path});
+    ASSERT_TRUE(waitUntilPostable());
+    photo("sea.jpg", 2);
+    user->clicks(QStringLiteral("Post"));
+    ASSERT_TRUE(waitFor([&] { return !sheet().failure().isEmpty(); }));
+    EXPECT_TRUE(user->reads(QStringLiteral("sea.jpg: the file has changed since it was chosen")));
+    ASSERT_TRUE(waitUntilPostable());
+    home.file("sea.jpg", "words");
+    user->clicks(QStringLiteral("Post"));
+    EXPECT_TRUE(waitToRead("sea.jpg: the file is not a picture"));
+    EXPECT_FALSE(sheet().canPost());
+    user->presses(Qt::Key_Escape);
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(*status, 2);
+}
+
 TEST_F(ShareWindow, WhatIsDoneDuringTheHandOverChangesNothing) {
     open({"flickr", photo("sea.jpg")});
     ASSERT_TRUE(waitUntilPostable());

@@ -1,6 +1,9 @@
 // The program korvane-sheet, from outside.
 #include "Tests/CommandLine/ProgramRun.h"
 
+#include "Tests/Support/TestBus.h"
+
+#include <QDBusConnectionInterface>
 #include <QFile>
 
 using namespace korvane::test;
@@ -38,4 +41,26 @@ TEST(SheetProgram, IsWhatComposeOpens) {
     EXPECT_TRUE(waitFor([&] { return QFile::symLinkTarget(executable) == sheetProgram; }));
     program.terminate();
     EXPECT_TRUE(program.waitForFinished());
+}
+
+TEST(SheetProgram, ShowsUploadsInOneWindowHoweverOftenItIsAskedTo) {
+    TemporaryHome home;
+    TestBus bus;
+    ASSERT_TRUE(bus.start());
+    home.setEnvironment("DBUS_SESSION_BUS_ADDRESS", bus.address());
+    QProcess first;
+    first.start(sheetProgram, {QStringLiteral("--uploads")});
+    const QString name = QStringLiteral("com.zorvex.korvane.UploadsWindow");
+    ASSERT_TRUE(waitFor([&] { return bus.connection().interface()->isServiceRegistered(name).value(); }));
+    QProcess second;
+    second.start(sheetProgram, {QStringLiteral("--uploads")});
+    EXPECT_TRUE(second.waitForFinished(10'000)) << "the first one is raised";
+    EXPECT_EQ(second.exitCode(), 0);
+    EXPECT_EQ(first.state(), QProcess::Running);
+    first.kill(); // as it may end: another is opened then
+    EXPECT_TRUE(first.waitForFinished());
+    second.start(sheetProgram, {QStringLiteral("--uploads")});
+    EXPECT_TRUE(waitFor([&] { return bus.connection().interface()->isServiceRegistered(name).value(); }));
+    second.kill();
+    second.waitForFinished();
 }

@@ -1,5 +1,6 @@
 // Records on their way between programs, as far as that can be seen without a bus.
 #include "Platform/Social/WireRecord.h"
+#include "Platform/Foundation/FileError.h"
 #include "Platform/Foundation/NSData.h"
 #include "Platform/Social/DataFile.h"
 #include "Platform/Social/RemoteServiceError.h"
@@ -40,6 +41,20 @@ TEST(WireRecord, PutsSmallDataInTheMessageAndTheRestInOneUnnamedFile) {
         const auto range = message->records[i].value(key).value<DataRange>();
         EXPECT_EQ(NSData::dataWithFile(file, qint64(range.offset), qint64(range.length)).bytes(), large);
     }
+}
+
+TEST(WireRecord, NamesAFileThatHasChangedSinceItWasChosen) {
+    const TemporaryHome home;
+    for (const qint64 size : {60'000, 200'000})
+        for (const qint64 later : {size / 2, qint64(0), size}) {
+            const QByteArray path = home.file("sea.jpg", jpegOfSize(size));
+            const auto data = NSData::dataWithContentsOfFile(path);
+            home.file("sea.jpg", jpegOfSize(later, 2));
+            std::optional<NSError> error;
+            EXPECT_FALSE(WireRecord::encode({recordOf(*data)}, home.path("spool"), &error)) << size << ' ' << later;
+            ASSERT_TRUE(says(error, path + ": the file has changed since it was chosen"));
+            EXPECT_FALSE(says(FileError::reasonOf(*error), "sea.jpg")) << "for where its name stands already";
+        }
 }
 
 TEST(WireRecord, RefusesWhatTheBusWouldGarbleOrDieOf) {
