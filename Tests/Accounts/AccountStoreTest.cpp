@@ -118,7 +118,7 @@ TEST_F(AccountStore, SkipsAndKeepsEntriesThatItDoesNotUnderstand) {
 }
 
 TEST_F(AccountStore, KeepsADamagedListAsideAndSaysSoUntilAnAccountIsAdded) {
-    for (const QByteArray &damaged : {R"({"accounts": 7})", R"({"accounts": {"a": [1]}})", "{\"acc"}) {
+    for (const QByteArray damaged : {R"({"accounts": 7})", R"({"accounts": {"a": [1]}})", "{\"acc"}) {
         const QString aside = accounts + QStringLiteral(".damaged");
         QFile::remove(home.path(aside));
         home.file(accounts, damaged);
