@@ -73,7 +73,7 @@ std::optional<NSError> runToEnd(const std::shared_ptr<AVAssetExportSession> &ses
         onOtherThread = std::this_thread::get_id() != caller;
         ++calls;
     });
-    if (!waitFor([&] { return calls > 0; }, 60'000)) qFatal("an export does not end");
+    if (!waitFor([&] { return calls > 0; }, 200'000)) qFatal("an export does not end");
     EXPECT_EQ(calls, 1);
     EXPECT_TRUE(onOtherThread);
     return session->error();

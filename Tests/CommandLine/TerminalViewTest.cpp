@@ -13,7 +13,7 @@ ProgressTally tallyOf(size_t running) {
     ProgressTally tally;
     for (size_t i = 0; i < running; ++i)
         tally.running.push_back(
-            {QStringLiteral("夏休みの写真 %1 \x1b[2J.jpg").arg(i), qint64(i) * 1'000'000, 4'100'000});
+            {QStringLiteral("夏休み🌅の写真 %1 \x1b[2J.jpg").arg(i), qint64(i) * 1'000'000, 4'100'000});
     tally.queued = 7;
     tally.waiting = 1;
     tally.waitingReason = QStringLiteral("waiting for the network:\n\x1b[5m HTTP status 503");

@@ -42,24 +42,6 @@ TEST(UploadText, PrintableTextHoldsNothingThatATerminalObeys) {
         EXPECT_EQ(UploadText::printable(text).toStdString(), shown.toStdString());
 }
 
-TEST(UploadText, CuttingKeepsCharactersWholeAndColumnsExact) {
-    const std::tuple<QString, int, QString> cases[] = {
-        {QStringLiteral("abc"), 3, QStringLiteral("abc")},
-        {QStringLiteral("abcd"), 3, QStringLiteral("ab…")},
-        {QStringLiteral("夏休み"), 6, QStringLiteral("夏休み")},
-        {QStringLiteral("夏休み"), 5, QStringLiteral("夏休…")},
-        {QStringLiteral("夏休み"), 4, QStringLiteral("夏…")}, // half a character is none
-        {QStringLiteral("🌅🌅"), 3, QStringLiteral("🌅…")},
-        {QStringLiteral("e\u0301e\u0301e\u0301"), 2, QStringLiteral("e\u0301…")},
-        {QStringLiteral("abc"), 1, QStringLiteral("…")},
-        {QStringLiteral("abc"), 0, QString()}};
-    for (const auto &[text, columns, expected] : cases) {
-        EXPECT_EQ(UploadText::cut(text, columns).toStdString(), expected.toStdString()) << columns;
-        EXPECT_LE(UploadText::width(UploadText::cut(text, columns)), columns);
-        EXPECT_EQ(UploadText::width(UploadText::padded(text, columns)), columns) << expected.toStdString();
-    }
-}
-
 TEST(UploadText, JSONHasTheDocumentedMembersWithExactNumbers) {
     const QByteArray text = UploadText::json(uploadOf(failedJSON));
     EXPECT_FALSE(says(text, "\n"));

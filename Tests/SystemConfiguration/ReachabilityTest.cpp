@@ -34,24 +34,14 @@ QByteArray route6(const QByteArray &device, const QByteArray &metric,
            '\n';
 }
 
-sockaddr_in address4(quint32 address) {
-    sockaddr_in socket{};
-    socket.sin_family = AF_INET;
-    socket.sin_addr.s_addr = htonl(address);
-    return socket;
-}
-
 TEST(Reachability, KnowsADefaultRouteAndAModemByTheRoutesDevice) {
-    const sockaddr_in everywhere = address4(INADDR_ANY);
+    const sockaddr_in everywhere{.sin_family = AF_INET, .sin_port = 0, .sin_addr = {INADDR_ANY}, .sin_zero = {}};
     const auto target = SCNetworkReachabilityCreateWithAddress(reinterpret_cast<const sockaddr *>(&everywhere));
-    const struct {
-        QByteArray ipv4, ipv6, uevent; // the last that of the device "net0"
-        SCNetworkReachabilityFlags flags;
-    } table[] = {
+    // The kernel's routes, and what it says of the device "net0".
+    const std::tuple<QByteArray, QByteArray, QByteArray, SCNetworkReachabilityFlags> table[] = {
         {"", "", "", 0},
         {"eth0", "garbage\n\n", "", 0},
         {route4("net0", "100"), "", "INTERFACE=net0\nIFINDEX=2\n", reachable},
-        {route4("net0", "100"), "", "DEVTYPE=wlan\nINTERFACE=net0\n", reachable},
         {route4("net0", "100"), "", "DEVTYPE=wwan\nINTERFACE=net0\n", reachable | cellular},
         {route4("wwan0", "100"), "", "", reachable | cellular},
         {route4("ppp0", "0"), "", "", reachable | cellular},
@@ -85,11 +75,6 @@ TEST(Reachability, KnowsADefaultRouteAndAModemByTheRoutesDevice) {
     EXPECT_EQ(found, 77);
     setReachabilityRoots({}, {});
     EXPECT_TRUE(SCNetworkReachabilityGetFlags(target, &found)) << "the real tables can be read";
-    EXPECT_FALSE(SCNetworkReachabilityGetFlags(nullptr, &found));
-
-    const sockaddr_in loopback = address4(INADDR_LOOPBACK);
-    EXPECT_EQ(SCNetworkReachabilityCreateWithAddress(reinterpret_cast<const sockaddr *>(&loopback)), nullptr);
-    EXPECT_EQ(SCNetworkReachabilityCreateWithAddress(nullptr), nullptr);
 }
 
 // The part of the desktop's network service that says over what the machine is connected: two connections to choose
@@ -167,8 +152,6 @@ TEST(Reachability, BelievesTheNetworkServiceBeforeTheDevicesName) {
     EXPECT_TRUE(becomes(true));
     service.setPrimaryConnection(1);
     EXPECT_TRUE(becomes(false));
-    service.setPrimaryConnection(0);
-    EXPECT_TRUE(becomes(true));
 }
 
 } // namespace
