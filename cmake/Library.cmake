@@ -13,7 +13,7 @@ target_include_directories(korvane INTERFACE
 # Headers that no public header includes and an embedding program has no use for.
 set(privateHeaders
   AssetLocation CallbackListener ChildLaunch CredentialStore CurlLibrary CurlPool DataFile ExportPlan ExportProgress HandOver LocalNetwork LockedJSONFile LogOnce MediaInfo MediaProgram NetworkRoute
-  PictureProgram PreferenceDomain RunningChild SecretKeyring ServiceConnection SignInAnswer SignInService URLTransfer UserBus WireRecord)
+  PictureProgram PreferenceDomain RunningChild SecretKeyring ServiceConnection ServicePulse SignInAnswer SignInService TransferFailure URLTransfer UserBus WireRecord)
 list(JOIN privateHeaders "|" privateHeaders)
 
 include(CMakePackageConfigHelpers)

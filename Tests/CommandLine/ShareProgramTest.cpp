@@ -14,7 +14,7 @@ struct KorvaneProgramWithService : VideoServiceTest {
     const QByteArray photo = home.file("a.jpg", jpegOfSize(2000));
     const QByteArray clip = QFile::encodeName(home.path("library/Videos/clip.mp4"));
 
-    void makeLargeClip() { makeClip("library/Videos/clip.mp4", QStringLiteral("testsrc2=s=1280x720:r=5")); }
+    void makeLargeClip() { makeFilm(home, "library/Videos/clip.mp4", "testsrc2=s=1280x720:r=5"); }
 };
 
 struct KorvaneProgramWithManyAlbums : ::testing::Test, ServiceHarness {

@@ -2,9 +2,7 @@
 #pragma once
 
 #include "Tests/EndToEnd/ServiceHarness.h"
-
-#include <QDir>
-#include <QProcess>
+#include "Tests/Support/Film.h"
 
 namespace korvane::test {
 
@@ -12,13 +10,6 @@ class VideoServiceTest : public ServiceTest {
 protected:
     standin::StandIn &vimeo = flickr.server;
 
-    // Below the home folder, of a second; sources: ffmpeg's arguments for what it shows or sounds like.
-    void makeClip(const char *name, const QString &source = QStringLiteral("testsrc2=s=640x360")) {
-        const QString path = home.path(name);
-        QDir().mkpath(path.section(u'/', 0, -2));
-        const QString arguments = QStringLiteral("-v error -f lavfi -i %1 -t 1 %2").arg(source, path);
-        ASSERT_EQ(QProcess::execute(QStringLiteral("ffmpeg"), arguments.split(u' ')), 0);
-    }
     static std::shared_ptr<VimeoPost> libraryVideo(const char *name) {
         const auto post = VimeoPost::init();
         post->assetURL = NSURL::URLWithString(QStringLiteral("assets-library://asset/asset.MP4?id=videos%2F") +

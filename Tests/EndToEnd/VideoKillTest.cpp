@@ -75,7 +75,7 @@ TEST_F(VideoKill, InEachStateLosesNothingAndSendsNoCommitTwice) {
 
 TEST_F(VideoKill, DuringAnExportEndsItsProgramAndTheNextLifeMakesItAnew) {
     holdExports();
-    makeClip("library/Videos/clip.mp4");
+    makeFilm(home, "library/Videos/clip.mp4");
     ASSERT_TRUE(shareVideo(libraryVideo("clip.mp4")));
     const pid_t exporting = heldExport();
     killService(SIGKILL);

@@ -7,7 +7,7 @@ using namespace korvane::test;
 using Video = VideoServiceTest;
 
 TEST_F(Video, FilesDataAndLibraryVideosArriveAndLeaveNothingBehind) {
-    makeClip("library/Videos/clip.mp4");
+    makeFilm(home, "library/Videos/clip.mp4");
     const QByteArray file = variedBytes(5'000'000);
     const QByteArray data = variedBytes(3'000'000, 2);
     ASSERT_TRUE(shareVideo(video("film.mov", file)));
@@ -34,7 +34,7 @@ TEST_F(Video, FilesDataAndLibraryVideosArriveAndLeaveNothingBehind) {
 
 TEST_F(Video, WhatCannotBeUploadedFailsWithWordsAndStopsNothing) {
     ask("Pause");
-    makeClip("library/Videos/sound.m4a", QStringLiteral("sine"));
+    makeFilm(home, "library/Videos/sound.m4a", "sine");
     home.file("library/Videos/text.mp4", "no video");
     const auto untitled = video("a.mp4", variedBytes(10));
     untitled->title.reset();
@@ -113,7 +113,7 @@ TEST_F(Video, WhatIsRefusedAfterTheCommitIsNamedAndSetByARetry) {
 }
 
 TEST_F(Video, AWarningThatThereIsNoQuotaForHDDropsTheExportAndTheVideoGoesOn) {
-    makeClip("library/Videos/clip.mp4");
+    makeFilm(home, "library/Videos/clip.mp4");
     const auto large = libraryVideo("clip.mp4");
     large->videoSize = VimeoVideoSizeLarge;
     int count = 0;
@@ -227,7 +227,7 @@ TEST_F(Video, WhatIsCommittedIsFinishedWhileItIsPausedRemovedOrStopped) {
 
 TEST_F(Video, AnExportEndsWithAPauseOrARemovalAndIsMadeAnew) {
     holdExports();
-    makeClip("library/Videos/clip.mp4");
+    makeFilm(home, "library/Videos/clip.mp4");
     ASSERT_TRUE(shareVideo(libraryVideo("clip.mp4")));
     const pid_t paused = heldExport();
     ask("Pause");

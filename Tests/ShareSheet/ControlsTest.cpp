@@ -105,7 +105,7 @@ TEST_F(Controls, OfTheSheetsTheirScreensAndTheirQuestion) {
         QByteArrayList arguments;
         std::vector<const char *> screens;
     } const sheets[]{{{"flickr", photo("a.jpg"), photo("b.jpg", 2)}, {"Album, No album", "Audience, Public"}},
-                     {{"vimeo", film().toUtf8()}, {"Details"}}};
+                     {{"vimeo", makeFilm(home, "film.mp4").toUtf8()}, {"Details"}}};
     for (const auto &[arguments, screens] : sheets) {
         open(arguments);
         ASSERT_TRUE(waitFor([&] { return sheet().attachments()->isReady(); }));

@@ -4,9 +4,9 @@
 #include "ShareSheet/SheetRequest.h"
 #include "ShareSheet/TextChange.h"
 #include "ShareSheet/ThumbnailMaker.h"
+#include "Tests/Support/Film.h"
 #include "Tests/Support/Testing.h"
 
-#include <QProcess>
 #include <QSysInfo>
 
 #include <atomic>
@@ -218,9 +218,7 @@ TEST(Thumbnails, ShowPhotosUprightAndVideosByAFrame) {
         ThumbnailMaker::make({.path = home.file("notes.txt", "words"), .isVideo = false, .edge = 32}, {}).isNull());
     EXPECT_TRUE(ThumbnailMaker::make({.path = home.path("gone").toUtf8(), .isVideo = true, .edge = 32}, {}).isNull());
 
-    const QString film = home.path("film.mp4");
-    const QString arguments = QStringLiteral("-v error -f lavfi -i color=red:s=320x180 -t 1 %1").arg(film);
-    ASSERT_EQ(QProcess::execute(QStringLiteral("ffmpeg"), arguments.split(u' ')), 0);
+    const QString film = makeFilm(home, "film.mp4", "color=red:s=320x180");
     const QImage frame = ThumbnailMaker::make({.path = film.toUtf8(), .isVideo = true, .edge = 64}, {});
     ASSERT_EQ(frame.size(), QSize(64, 36));
     EXPECT_GT(frame.pixelColor(32, 18).red(), 200);

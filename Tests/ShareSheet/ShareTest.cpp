@@ -54,7 +54,7 @@ TEST_F(ShareWindow, PhotosGoToTheChosenAlbumAndAudience) {
 }
 
 TEST_F(ShareWindow, AVideoWithTagsEnteredByKeys) {
-    openFully({"vimeo", film().toUtf8()});
+    openFully({"vimeo", makeFilm(home, "film.mp4").toUtf8()});
     EXPECT_FALSE(user->isEnabled(QStringLiteral("Post"))) << "a video needs a title";
     user->types(QStringLiteral("Film"));
     EXPECT_TRUE(user->isEnabled(QStringLiteral("Post")));
@@ -106,7 +106,7 @@ TEST_F(ShareWindow, AVideoWithTagsEnteredByKeys) {
 }
 
 TEST_F(ShareWindow, ATitleThatIsTooLongIsNotTakenHoweverItIsEntered) {
-    openFully({"vimeo", film().toUtf8()});
+    openFully({"vimeo", makeFilm(home, "film.mp4").toUtf8()});
     const auto shown = [&] { return user->focused()->property("text").toString(); };
     const auto holds = [&](const QString &text) { return sheet().text() == text && shown() == text; };
     const QString most = QString(126, u'x');

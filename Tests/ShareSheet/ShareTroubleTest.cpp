@@ -83,7 +83,7 @@ TEST_F(ShareWindow, WithoutAnAccountTheSettingsAreOffered) {
     EXPECT_EQ(*status, 3);
 
     ASSERT_TRUE(ACAccountStore().removeAccount(flickr.vimeoAccount->identifier()));
-    open({"vimeo", film().toUtf8()});
+    open({"vimeo", makeFilm(home, "film.mp4").toUtf8()});
     user->clicks(QStringLiteral("Not now"));
     user->types(QStringLiteral("Film"));
     ASSERT_TRUE(waitUntilPostable());
@@ -119,7 +119,7 @@ TEST_F(ShareWindow, AnAccountThatIsAddedInTheSettingsIsUsed) {
 
     const auto videoCredential = flickr.vimeoAccount->credential();
     ASSERT_TRUE(store.removeAccount(flickr.vimeoAccount->identifier()));
-    open({"vimeo", film().toUtf8()});
+    open({"vimeo", makeFilm(home, "film.mp4").toUtf8()});
     leaveForSettings();
     ASSERT_TRUE(store.saveAccount(flickr.vimeoAccount->accountType(), QStringLiteral("standin"), *videoCredential));
     user->presses(Qt::Key_Left, Qt::AltModifier);
@@ -189,7 +189,7 @@ TEST_F(ShareWindow, FilesThatCannotBeUsedAreNamedAndLeftOutOnRequest) {
     EXPECT_EQ(lines.size(), 6);
     EXPECT_EQ(lines.last(), QStringLiteral("and 495 more files"));
 
-    const QString first = film();
+    const QString first = makeFilm(home, "film.mp4");
     openFully({"vimeo", first.toUtf8(), first.toUtf8()});
     EXPECT_TRUE(user->reads(QStringLiteral("only one video at a time")));
     EXPECT_TRUE(user->reads(text("1 video")));

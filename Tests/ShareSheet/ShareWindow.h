@@ -2,18 +2,11 @@
 #pragma once
 
 #include "Tests/ShareSheet/SheetHarness.h"
-
-#include <QProcess>
+#include "Tests/Support/Film.h"
 
 namespace korvane::test {
 
 struct ShareWindow : SheetTest {
-    QString film(const char *name = "film.mp4") {
-        const QString path = home.path(name);
-        const QString arguments = QStringLiteral("-v error -f lavfi -i testsrc2=s=320x180 -t 1 %1").arg(path);
-        EXPECT_EQ(QProcess::execute(QStringLiteral("ffmpeg"), arguments.split(u' ')), 0);
-        return path;
-    }
     void leaveForSettings() {
         user->clicks(QStringLiteral("Settings"));
         ASSERT_TRUE(waitFor([&] { return application->settings(); }));
