@@ -11,6 +11,7 @@ TEST_F(VideoSoak, EveryVideoArrivesWholeOrSaysWhyNot) {
     const quint32 first = seedOfRun();
     const int runs = repetitions("KORVANE_SOAK_RUNS", 4);
     int setAside = 0;
+    qint64 received = 0;
     setEnvironment("KORVANE_RETRY_DELAYS", "20,50,100");
     for (int run = 0; run < runs; ++run) {
         const quint32 seed = first + quint32(run);
@@ -40,9 +41,11 @@ TEST_F(VideoSoak, EveryVideoArrivesWholeOrSaysWhyNot) {
             EXPECT_TRUE(says(errorOf(run), "may be on Vimeo"));
             EXPECT_EQ(vimeo.videos().back().commits(), 1);
         }
+        received += vimeo.videos().back().bytesReceived;
     }
     vimeo.clearFaults();
     printf("%d runs of 40 MB, %d set aside\n", runs, setAside);
+    EXPECT_GT(received, runs * Q_INT64_C(40'000'000)) << "the weather was bad";
     EXPECT_EQ(vimeo.protocolErrors(), QStringList());
 }
 
