@@ -138,7 +138,7 @@ int AccountsCommand::_list() {
     std::optional<NSError> error;
     const auto accounts = allAccounts(&error);
     if (error && error->domain() != ACErrorDomain) return fail(error, ExitUploadFailed);
-    if (error) Output::problem(error->localizedDescription()); // a damaged list: there are no accounts any more
+    if (error) Output::problem(error->localizedDescription()); // a damaged list counts as empty
     if (_json) {
         QJsonArray array;
         for (const auto &account : accounts)

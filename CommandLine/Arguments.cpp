@@ -1,6 +1,8 @@
 // What the commands' arguments have in common.
 #include "CommandLine/Arguments.h"
 
+#include "FrontEnd/FileArgument.h"
+
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -21,9 +23,13 @@ std::string Arguments::problemWithNumber(const std::string &text) {
     return isDecimal && fits && number > 0 ? std::string() : "\"" + text + "\" is not a number above 0";
 }
 
-QString Arguments::problemWithAddress(const std::string &address) {
-    return QStringLiteral("%1: this is not a file on this device; copy it here first")
-        .arg(QString::fromStdString(address));
+std::string Arguments::problemWithFile(const std::string &text) {
+    const bool isHere = FileArgument::path(QByteArray::fromStdString(text)).has_value();
+    return isHere ? std::string() : text + ": this is not a file on this device; copy it here first";
+}
+
+QByteArray Arguments::path(const std::string &text) {
+    return FileArgument::path(QByteArray::fromStdString(text)).value_or(QByteArray());
 }
 
 QStringList Arguments::texts(const std::vector<std::string> &arguments) {

@@ -7,7 +7,6 @@
 #include "CommandLine/SheetUser.h"
 #include "FlickrAudienceController.h"
 #include "FrontEnd/ExitStatus.h"
-#include "FrontEnd/FileArgument.h"
 #include "FrontEnd/FileLimit.h"
 #include "FrontEnd/SystemLog.h"
 #include "FrontEnd/UploadText.h"
@@ -71,10 +70,7 @@ bool ShareFlickrCommand::isChosen() const {
 int ShareFlickrCommand::run() {
     sendLogToSystemLog();
     raiseFileLimit();
-    QByteArrayList files;
-    for (const std::string &file : _files)
-        files.append(FileArgument::path(QByteArray::fromStdString(file)));
-    auto attachments = _attachments(files);
+    auto attachments = _attachments();
     if (!attachments) return ExitUsage;
     if (_noAlbum) FlickrComposeViewController::forgetPhotoSet();
     const auto sheet = SheetUser::opensFlickrSheet(std::move(*attachments));
@@ -83,6 +79,9 @@ int ShareFlickrCommand::run() {
     if (const auto status = _fill(*sheet)) return *status;
     if (const auto status = SheetUser::posts(*sheet)) return *status;
     sheet->setAttachments({}); // lets go of the files
+    QByteArrayList files;
+    for (const std::string &file : _files)
+        files.append(Arguments::path(file));
     return _report.succeeded(files, sheet->session()->lastMessageID(), SheetUser::reads(*sheet));
 }
 
@@ -112,17 +111,17 @@ std::optional<int> ShareFlickrCommand::_chooseAlbum(FlickrComposeViewController 
     return std::nullopt;
 }
 
-std::optional<std::vector<SLAttachment>> ShareFlickrCommand::_attachments(const QByteArrayList &files) const {
+std::optional<std::vector<SLAttachment>> ShareFlickrCommand::_attachments() const {
     QStringList problems;
-    for (qsizetype i = 0; i < files.size(); ++i)
-        if (files[i].isEmpty())
-            problems.append(Arguments::problemWithAddress(_files[size_t(i)]));
-        else if (const auto problem = SLAttachment::photoProblem(files[i]))
+    for (const std::string &file : _files)
+        if (const std::string elsewhere = Arguments::problemWithFile(file); !elsewhere.empty())
+            problems.append(QString::fromStdString(elsewhere));
+        else if (const auto problem = SLAttachment::photoProblem(Arguments::path(file)))
             problems.append(problem->localizedDescription());
     std::vector<SLAttachment> attachments;
-    for (qsizetype i = 0; i < files.size() && problems.isEmpty(); ++i) {
+    for (size_t i = 0; i < _files.size() && problems.isEmpty(); ++i) {
         std::optional<NSError> error;
-        auto attachment = SLAttachment::photoAttachment(files[i], _withoutMetadata, &error);
+        auto attachment = SLAttachment::photoAttachment(Arguments::path(_files[i]), _withoutMetadata, &error);
         if (attachment)
             attachments.push_back(std::move(*attachment));
         else

@@ -22,8 +22,8 @@ public:
     int run();
 
 private:
-    // Null, after naming every file that cannot be shared. files: the paths; empty for what is no file here.
-    std::optional<std::vector<SLAttachment>> _attachments(const QByteArrayList &files) const;
+    // Null, after naming every file that cannot be shared.
+    std::optional<std::vector<SLAttachment>> _attachments() const;
     // Fills in what was given on the command line; the exit status, after saying why, if it cannot be.
     std::optional<int> _fill(FlickrComposeViewController &sheet) const;
     std::optional<int> _chooseAlbum(FlickrComposeViewController &sheet) const;

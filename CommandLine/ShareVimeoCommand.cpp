@@ -5,7 +5,6 @@
 #include "CommandLine/Output.h"
 #include "CommandLine/SheetUser.h"
 #include "FrontEnd/ExitStatus.h"
-#include "FrontEnd/FileArgument.h"
 #include "FrontEnd/SystemLog.h"
 #include "Korvane/VimeoPost.h"
 #include "Korvane/VimeoUploadSession.h"
@@ -52,7 +51,10 @@ std::string problemWithTag(const std::string &tag) {
 
 ShareVimeoCommand::ShareVimeoCommand(CLI::App &share) {
     _app = share.add_subcommand("vimeo", "Share a video to Vimeo");
-    _app->add_option("FILE", _file, "The video file: a path or a file:// address")->required()->type_name("");
+    _app->add_option("FILE", _file, "The video file: a path or a file:// address")
+        ->required()
+        ->type_name("")
+        ->check(Arguments::problemWithFile);
     _app->add_option("--title", _title, "Title of the video, at most 128 bytes")
         ->required()
         ->type_name("TEXT")
@@ -80,11 +82,11 @@ bool ShareVimeoCommand::isChosen() const {
 
 int ShareVimeoCommand::run() {
     sendLogToSystemLog();
-    const QByteArray file = FileArgument::path(QByteArray::fromStdString(_file));
+    const QByteArray file = Arguments::path(_file);
     std::optional<NSError> error;
-    const auto attachment = file.isEmpty() ? std::nullopt : SLAttachment::videoAttachment(file, &error);
+    const auto attachment = SLAttachment::videoAttachment(file, &error);
     if (!attachment) {
-        Output::problem(error ? error->localizedDescription() : Arguments::problemWithAddress(_file));
+        Output::problem(error->localizedDescription());
         Output::problem(QStringLiteral("Nothing was shared."));
         return ExitUsage;
     }

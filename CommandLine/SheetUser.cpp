@@ -20,11 +20,11 @@ bool opens(SLComposeServiceViewController &sheet, const std::shared_ptr<ACAccoun
     const ACAccountType type(accountType);
     std::optional<NSError> error;
     ACAccountStore().accountsWithAccountType(type, &error);
-    const bool isDamaged = error && error->domain() == ACErrorDomain && error->code() == ACErrorAccountListDamaged;
-    if (isDamaged) Output::problem(error->localizedDescription());
-    if (error && !isDamaged)
-        Output::problem(QStringLiteral("The list of accounts cannot be read. ") + error->localizedDescription());
-    else
+    const bool isReadable = !error || error->domain() == ACErrorDomain; // which tells of damage; a new account ends it
+    if (error)
+        Output::problem((isReadable ? QString() : QStringLiteral("The list of accounts cannot be read. ")) +
+                        error->localizedDescription());
+    if (isReadable)
         Output::problem(QStringLiteral("There is no %1 account yet. Add one with:").arg(Arguments::serviceOf(type)),
                         {QStringLiteral("  korvane accounts add %1").arg(Arguments::serviceOf(type))});
     return false;

@@ -27,20 +27,21 @@ QByteArray withPlainScheme(const QByteArray &argument) {
 }
 
 // Some file managers leave spaces and letters of other scripts as they are.
-QByteArray pathOfAddress(const QByteArray &address) {
+std::optional<QByteArray> pathOfAddress(const QByteArray &address) {
     const auto exact = NSURL::URLWithString(QString::fromUtf8(address));
     if (exact && exact->isFileURL() && (isThisHost(exact->host()) || exact->isLoopback()))
         return exact->fileSystemRepresentation();
-    if (exact) return {};
+    if (exact) return std::nullopt;
     const QUrl url(QString::fromUtf8(address));
-    return url.scheme() == QStringLiteral("file") && isThisHost(url.host()) ? url.path().toUtf8() : QByteArray();
+    if (url.scheme() != QStringLiteral("file") || !isThisHost(url.host())) return std::nullopt;
+    return url.path().toUtf8();
 }
 
 } // namespace
 
-QByteArray FileArgument::path(const QByteArray &argument) {
+std::optional<QByteArray> FileArgument::path(const QByteArray &argument) {
     const QByteArray plain = withPlainScheme(argument);
-    return isAddress(plain) ? pathOfAddress(plain) : argument;
+    return isAddress(plain) ? pathOfAddress(plain) : std::optional(argument);
 }
 
 } // namespace korvane

@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>No account in %1 is understood. Mend the file, or sign in again.</source>
-        <translation>Kein Konto in %1 ist verständlich. Berichtigen Sie die Datei, oder melden Sie sich erneut an.</translation>
+        <translation>Kein Konto in %1 ist lesbar. Berichtigen Sie die Datei, oder melden Sie sich erneut an.</translation>
     </message>
     <message>
         <source>There is no account "%1".</source>
@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>%1 belongs to another user. Move it away, then add the account again.</source>
-        <translation>%1 gehört einem anderen Benutzer. Entfernen Sie die Datei von dort und fügen Sie das Konto dann erneut hinzu.</translation>
+        <translation>%1 gehört einem anderen Benutzer. Verschieben Sie die Datei an einen anderen Ort und fügen Sie das Konto dann erneut hinzu.</translation>
     </message>
     <message>
         <source>The credential was not stored: the keyring does not answer. Try again, log out and in again, or set KORVANE_SECRETS=file to keep credentials in a file.</source>
@@ -354,7 +354,7 @@
     </message>
     <message>
         <source>it is not HTTP</source>
-        <translation>sie ist kein HTTP</translation>
+        <translation>sie ist keine HTTP-Antwort</translation>
     </message>
     <message>
         <source>status %1</source>
@@ -506,7 +506,7 @@
     </message>
     <message>
         <source>The web service does not answer in HTTP.</source>
-        <translation>Der Webdienst antwortet nicht in HTTP.</translation>
+        <translation>Der Webdienst antwortet nicht über HTTP.</translation>
     </message>
     <message>
         <source>The web service closed the connection.</source>

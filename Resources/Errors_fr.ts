@@ -574,7 +574,7 @@
     </message>
     <message>
         <source>The upload service (korvane-uploadd) does not answer. End it and try again: it goes on with its uploads when it is started anew.</source>
-        <translation>Le service d’envoi (korvane-uploadd) ne répond pas. Arrêtez-le et réessayez : il reprendra ses envois à son prochain démarrage.</translation>
+        <translation>Le service d’envoi (korvane-uploadd) ne répond pas. Arrêtez-le et réessayez : il reprendra ses envois à son prochain démarrage.</translation>
     </message>
     <message>
         <source>It was broken off.</source>

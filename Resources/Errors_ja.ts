@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>The credential was not stored: the keyring does not answer. Try again, log out and in again, or set KORVANE_SECRETS=file to keep credentials in a file.</source>
-        <translation>認証情報を保存できませんでした：キーリングが応答しません。もう一度お試しになるか、ログアウトしてログインし直すか、KORVANE_SECRETS=fileを設定してファイルに保存してください。</translation>
+        <translation>認証情報を保存できませんでした：キーリングが応答しません。もう一度お試しになるか、コンピューターからログアウトしてログインし直すか、KORVANE_SECRETS=fileを設定してファイルに保存してください。</translation>
     </message>
     <message>
         <source>The keyring does not answer. Try again, or log out and in again.</source>

@@ -372,8 +372,8 @@
         <translation>Wartet auf ein Konto</translation>
     </message>
     <message>
-        <source>Add it in Korvane's settings.</source>
-        <translation>Fügen Sie es in den Einstellungen von Korvane hinzu.</translation>
+        <source>Sign in on Korvane's settings page.</source>
+        <translation>Melden Sie sich in den Einstellungen von Korvane an.</translation>
     </message>
     <message>
         <source>Waiting for the network</source>

@@ -372,8 +372,8 @@
         <translation>Waiting for an account</translation>
     </message>
     <message>
-        <source>Add it in Korvane's settings.</source>
-        <translation>Add it in Korvane's settings.</translation>
+        <source>Sign in on Korvane's settings page.</source>
+        <translation>Sign in on Korvane's settings page.</translation>
     </message>
     <message>
         <source>Waiting for the network</source>

@@ -372,8 +372,8 @@
         <translation>En attente d’un compte</translation>
     </message>
     <message>
-        <source>Add it in Korvane's settings.</source>
-        <translation>Ajoutez-le dans les réglages de Korvane.</translation>
+        <source>Sign in on Korvane's settings page.</source>
+        <translation>Connectez-vous dans les réglages de Korvane.</translation>
     </message>
     <message>
         <source>Waiting for the network</source>

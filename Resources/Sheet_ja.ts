@@ -369,8 +369,8 @@
         <translation>アカウント待ち</translation>
     </message>
     <message>
-        <source>Add it in Korvane's settings.</source>
-        <translation>Korvaneの設定で追加してください。</translation>
+        <source>Sign in on Korvane's settings page.</source>
+        <translation>Korvaneの設定でサインインしてください。</translation>
     </message>
     <message>
         <source>Waiting for the network</source>

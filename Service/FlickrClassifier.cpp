@@ -87,7 +87,7 @@ Verdict FailureClassifier::verdictOnFlickrRun(const RunOutcome &outcome, bool wa
     if (error.domain() == FlickrPostErrorDomain)
         return Verdict::failed(
             error, localizedText("The photo %1 is no longer in the photo library. Share it again from where it is now.",
-                                 error.localizedDescription()));
+                                 outcome.asset));
     return Verdict::failed(error);
 }
 

@@ -18,12 +18,9 @@ void end(const std::shared_ptr<UploadRun> &run, const FlickrPost &post, const Ru
     run->ended(FailureClassifier::verdictOnFlickrRun(outcome, post.photoSetID != 0), run->job);
 }
 
-// Of an asset that was not found the upload code says only that.
-std::optional<NSError> withName(const std::optional<NSError> &error, const FlickrPost &post) {
-    if (!error || error->domain() != FlickrPostErrorDomain) return error;
-    const auto location = AssetLocation::ofURL(*post.assetURL);
-    return NSError::errorWithDescription(
-        error->domain(), error->code(), location ? QFile::decodeName(location->path) : post.assetURL->absoluteString());
+QString nameOfAsset(const FlickrPost &post) {
+    const auto location = post.assetURL ? AssetLocation::ofURL(*post.assetURL) : std::nullopt;
+    return location ? QFile::decodeName(location->path) : post.assetURL ? post.assetURL->absoluteString() : QString();
 }
 
 // From the start of the upload on, the run's job is changed on the main thread alone.
@@ -41,7 +38,7 @@ void upload(const std::shared_ptr<UploadRun> &run) {
     };
     post->uploadToAccount(account, [run, post](const std::optional<NSError> &error) {
         if (post->photoData) run->job.bytesTotal = post->photoData->length();
-        end(run, *post, {RunOutcome::Finished, withName(error, *post), run->context->snapshot(), run->job.photoID});
+        end(run, *post, {RunOutcome::Finished, error, run->context->snapshot(), run->job.photoID, nameOfAsset(*post)});
         post->checkpoint = nullptr;
     });
 }

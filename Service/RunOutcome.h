@@ -20,6 +20,7 @@ struct RunOutcome {
     std::optional<NSError> error = {};
     UploadContext::Snapshot lastRequest = {}; // of a run that got to the network
     qint64 photoID = 0;
+    QString asset = {}; // what an asset is called that was not found
 };
 
 } // namespace korvane

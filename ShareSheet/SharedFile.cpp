@@ -15,10 +15,10 @@ namespace korvane {
 
 SharedFile SharedFile::fromArgument(const QByteArray &argument) {
     SharedFile file;
-    file.path = FileArgument::path(argument);
-    file.name = UploadText::printable(
-        QString::fromUtf8(file.path.isEmpty() ? argument : file.path.mid(file.path.lastIndexOf('/') + 1)));
-    if (file.path.isEmpty())
+    const auto path = FileArgument::path(argument);
+    file.path = path.value_or(QByteArray());
+    file.name = UploadText::printable(QString::fromUtf8(path ? path->mid(path->lastIndexOf('/') + 1) : argument));
+    if (!path)
         file.problem = QCoreApplication::translate(
             "SharedFile", "this is not on this device; copy it here, or open its folder in the file manager first");
     return file;

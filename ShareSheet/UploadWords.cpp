@@ -60,7 +60,7 @@ QString UploadWords::reason(const Upload &upload) {
     const QString text = upload.error ? UploadText::printable(upload.error->localizedDescription()) : QString();
     if (upload.hasFailed() && text.isEmpty()) return Words::tr("No reason was given.");
     if (upload.isWaiting() && upload.waitingFor == QLatin1String("sign-in"))
-        return (text + u' ' + Words::tr("Add it in Korvane's settings.")).trimmed();
+        return (text + u' ' + Words::tr("Sign in on Korvane's settings page.")).trimmed();
     return upload.hasFailed() || upload.isWaiting() ? text : QString();
 }
 

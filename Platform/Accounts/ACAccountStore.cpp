@@ -76,14 +76,15 @@ std::vector<Entry> entriesOf(const QVariantMap &values) {
 
 // Where accounts are missing since the list is damaged, which a person could take for a sign-out.
 std::optional<NSError> damage(const QVariantMap &values) {
-    const QString path = accountsFile().path();
-    const QString aside = path + QStringLiteral(".damaged");
-    const bool holdsOthers = !values.value(accountsKey).toList().isEmpty();
-    if (!holdsOthers && (values.contains(accountsKey) || !QFile::exists(aside))) return std::nullopt;
-    return NSError::errorWithDescription(
-        ACErrorDomain, ACErrorAccountListDamaged,
-        holdsOthers ? localizedText("No account in %1 is understood. Mend the file, or sign in again.", path)
-                    : localizedText("The list of accounts was damaged and is kept as %1. Sign in again.", aside));
+    const auto error = [](const QString &text) {
+        return NSError::errorWithDescription(ACErrorDomain, ACErrorAccountListDamaged, text);
+    };
+    const LockedJSONFile file = accountsFile();
+    if (!values.value(accountsKey).toList().isEmpty())
+        return error(localizedText("No account in %1 is understood. Mend the file, or sign in again.", file.path()));
+    const QString aside = file.asidePath();
+    if (values.contains(accountsKey) || aside.isEmpty()) return std::nullopt;
+    return error(localizedText("The list of accounts was damaged and is kept as %1. Sign in again.", aside));
 }
 
 std::vector<Entry> readEntries(std::optional<NSError> *error = nullptr) {

@@ -82,7 +82,7 @@ NSError TransferFailure::tooLarge() {
     return make(NSURLErrorDataLengthExceedsMaximum, localizedText("The web service's answer is too large."));
 }
 
-NSError TransferFailure::found(CURLcode code, long osError, const NSURL &url) {
+NSError TransferFailure::ofCurl(CURLcode code, long osError, const NSURL &url) {
     const qint64 ours = errorCode(code);
     if (ours == NSURLErrorDataLengthExceedsMaximum) return tooLarge();
     if (isOffline(ours, osError, url))

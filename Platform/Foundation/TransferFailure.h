@@ -14,7 +14,7 @@ namespace TransferFailure {
 NSError make(qint64 code, const QString &text);
 NSError tooLarge();
 // What curl says of a request to url. osError: the errno that it saw, or 0.
-NSError found(CURLcode code, long osError, const NSURL &url);
+NSError ofCurl(CURLcode code, long osError, const NSURL &url);
 
 } // namespace TransferFailure
 

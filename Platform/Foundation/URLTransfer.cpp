@@ -125,7 +125,7 @@ std::optional<NSError> URLTransfer::_result(CURLcode code) const {
     if (code == CURLE_UNSUPPORTED_PROTOCOL && _requests > 0) code = CURLE_WEIRD_SERVER_REPLY; // of another version
     long osError = 0;
     curl().easy_getinfo(_handle.easy, CURLINFO_OS_ERRNO, &osError);
-    return TransferFailure::found(code, osError, _request.URL);
+    return TransferFailure::ofCurl(code, osError, _request.URL);
 }
 
 // What still waits in the socket's buffer has not moved: on a slow line that is many seconds' worth.

@@ -22,6 +22,8 @@
 namespace korvane {
 namespace {
 
+constexpr int mostAside = 100;
+
 // What each file held when it was last read.
 class KnownContents {
 public:
@@ -85,16 +87,27 @@ LockedJSONFile::Contents LockedJSONFile::_load(QVariantMap &values, QString &pro
     return Contents::Read;
 }
 
+QString LockedJSONFile::_asidePath(int number) const {
+    const QString first = _path + QStringLiteral(".damaged");
+    return number == 1 ? first : QStringLiteral("%1.%2").arg(first).arg(number);
+}
+
+QString LockedJSONFile::asidePath() const {
+    QString last;
+    for (int number = 1; number <= mostAside && QFile::exists(_asidePath(number)); ++number)
+        last = _asidePath(number);
+    return last;
+}
+
 // An earlier damaged file is never overwritten: it may hold what somebody still wants to rescue.
 void LockedJSONFile::_setAside(const QString &problem) const {
-    QString aside = _path + QStringLiteral(".damaged");
-    for (int number = 2;; ++number) {
+    for (int number = 1; number <= mostAside; ++number) {
+        const QString aside = _asidePath(number);
         if (::renameat2(AT_FDCWD, QFile::encodeName(_path).constData(), AT_FDCWD, QFile::encodeName(aside).constData(),
                         RENAME_NOREPLACE) == 0)
             return logOnce(QStringLiteral("%1 is damaged (%2); it was set aside as %3 and counts as empty.")
                                .arg(_path, problem, aside));
-        if (errno != EEXIST || number > 99) break;
-        aside = QStringLiteral("%1.damaged.%2").arg(_path).arg(number);
+        if (errno != EEXIST) break;
     }
     logOnce(QStringLiteral("%1 is damaged (%2) and counts as empty; it could not be set aside (%3).")
                 .arg(_path, problem, qt_error_string()));

@@ -25,6 +25,8 @@ public:
     explicit LockedJSONFile(QString path, Check check = {}) : _path(std::move(path)), _check(std::move(check)) {}
 
     const QString &path() const { return _path; }
+    // Where the last damaged file was set aside; empty if none is there.
+    QString asidePath() const;
 
     // The values; empty where there is no file. Null, with the error placed, if it cannot be read. A file that is the
     // same as at the last look is not read again.
@@ -37,6 +39,7 @@ public:
 private:
     enum class Contents { Read, Damaged, Unreadable };
     Contents _load(QVariantMap &values, QString &problem, std::optional<NSError> *error) const;
+    QString _asidePath(int number) const;
     void _setAside(const QString &problem) const;
     bool _write(const std::optional<QByteArray> &text, std::optional<NSError> *error) const;
 

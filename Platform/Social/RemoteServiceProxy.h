@@ -9,11 +9,10 @@
 
 namespace korvane {
 
-// Each message goes on a connection and a thread of its own and waits for its reply without a limit. The reply block
-// runs exactly once, on that thread, also when the service cannot be started, ends in between, says nothing any more,
-// or the bus goes. Where a reply was lost the message is sent once more under its id, by which the service knows what
-// it has already taken; it takes nothing from a sender that has stopped waiting.
-// Thread: any.
+// Each message goes on a connection and a thread of its own and waits for its reply while the service lives. The reply
+// block runs exactly once, on that thread, also when the service cannot be started, ends in between, says nothing any
+// more, or the bus goes. Where a reply was lost the message is sent once more under its id, by which the service knows
+// what it has already taken; it takes nothing from a sender that has stopped waiting. Thread: any.
 class RemoteServiceProxy {
 public:
     // serviceName: the bus name under which the service is reached and started.

@@ -17,7 +17,7 @@ namespace korvane {
 namespace {
 
 constexpr qsizetype longestID = 128;
-constexpr int busMilliseconds = 5000;
+constexpr int busMilliseconds = 5000; // the bus answers at once; the queue should not wait for one that hangs
 
 NSError unusableData(const QString &text) {
     return NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorUnusableData, text);

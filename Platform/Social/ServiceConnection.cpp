@@ -71,33 +71,31 @@ ServiceConnection::Outcome ServiceConnection::call(const QString &path, const QS
                                                    std::optional<NSError> *error) const {
     auto message = QDBusMessage::createMethodCall(_serviceName, path, interface, member);
     message.setArguments(arguments);
-    const QDBusMessage reply = _replyTo(message);
-    if (reply.type() == QDBusMessage::ReplyMessage) {
-        *answer = reply.arguments();
+    const auto reply = _replyTo(message);
+    if (!reply) {
+        fail(error, localizedText("The upload service (korvane-uploadd) does not answer. End it and try again: it goes "
+                                  "on with its uploads when it is started anew."));
+        return Failed;
+    }
+    if (reply->type() == QDBusMessage::ReplyMessage) {
+        *answer = reply->arguments();
         return Answered;
     }
-    const auto type = QDBusError(reply).type();
-    fail(error,
-         type == QDBusError::TimedOut
-             ? reply.errorMessage()
-             : localizedText("The upload service (korvane-uploadd) cannot be reached: %1", reply.errorMessage()));
+    fail(error, localizedText("The upload service (korvane-uploadd) cannot be reached: %1", reply->errorMessage()));
+    const auto type = QDBusError(*reply).type();
     return type == QDBusError::NoReply || type == QDBusError::Disconnected ? Lost : Failed;
 }
 
 // Nothing but the reply wakes who waits for it, not even the connection's end, so this looks for it: soon after it
 // came, and seldom where it takes long.
-QDBusMessage ServiceConnection::_replyTo(const QDBusMessage &message) const {
+std::optional<QDBusMessage> ServiceConnection::_replyTo(const QDBusMessage &message) const {
     const QDBusPendingCall call = bus().asyncCall(message, noLimit);
     ServicePulse pulse(bus(), _serviceName);
     QElapsedTimer waited;
     waited.start();
     while (!call.isFinished()) {
         if (_isInterrupted) return QDBusMessage::createError(QDBusError::NoReply, localizedText("It was broken off."));
-        if (pulse.isLost())
-            return QDBusMessage::createError(
-                QDBusError::TimedOut,
-                localizedText("The upload service (korvane-uploadd) does not answer. End it and try again: it goes on "
-                              "with its uploads when it is started anew."));
+        if (pulse.isLost()) return std::nullopt;
         const std::chrono::nanoseconds pause(waited.nsecsElapsed() / 8);
         std::this_thread::sleep_for(std::clamp<std::chrono::nanoseconds>(pause, shortestPause, longestPause));
     }

@@ -43,7 +43,7 @@ public:
 
 private:
     Outcome _agreeOnSettings(std::optional<NSError> *error) const;
-    QDBusMessage _replyTo(const QDBusMessage &message) const;
+    std::optional<QDBusMessage> _replyTo(const QDBusMessage &message) const; // null if the service is not alive
 
     const QString _serviceName;
     const QString _connectionName;

@@ -66,6 +66,7 @@ TEST_F(Pickers, AudienceMovesItsMarkAndTellsEachChoice) {
 TEST_F(Pickers, AnAudienceWithoutARowStopsTheProcess) {
     const std::string report = "\\(\\(int\\)audience < ARRAY_SIZE\\(titles\\)\\).*"
                                "\\+\\[FlickrAudienceController titleForAudience:\\].*FlickrAudienceController.*27";
+    EXPECT_DEATH(FlickrAudienceController::titleForAudience(4), report);
     EXPECT_DEATH(FlickrAudienceController::titleForAudience(-1), report);
     const auto screen = FlickrAudienceController::init();
     screen->viewWillAppear(false);

@@ -1,9 +1,13 @@
-// The log switch and the service's session.
+// The log switch, the service's session and the client's.
+#include "Korvane/FlickrPost.h"
+#include "Korvane/FlickrUploadSession.h"
 #include "Korvane/KRLog.h"
 #include "Korvane/KRRemoteSession.h"
 #include "Platform/Power/PowerAssertion.h"
 #include "Tests/Support/FakeLogind.h"
 #include "Tests/Support/Testing.h"
+
+#include <thread>
 
 using namespace korvane;
 using namespace korvane::test;
@@ -14,6 +18,18 @@ void switchLoggingOn(const TemporaryHome &home) {
     const QString name = QCoreApplication::applicationName() + QStringLiteral(".json");
     home.file(QStringLiteral("config/korvane/preferences/") + name, R"({"KRLoggingEnabled": true})");
 }
+
+// Answers with what the test gives it, from a thread of its own.
+class FakeService : public FlickrRemoteSessionProtocol {
+public:
+    void uploadPosts(const QVariantList &posts, const XPCTransferCompletion &reply) override {
+        received = posts;
+        std::thread([this, reply] { reply(success, error); }).detach();
+    }
+    QVariantList received;
+    std::optional<bool> success;
+    std::optional<NSError> error;
+};
 
 } // namespace
 
@@ -73,4 +89,29 @@ TEST(KRRemoteSessionDeathTest, StopsOnADecrementTooMany) {
     EXPECT_DEATH(KRRemoteSession::decrementPowerAssertion(),
                  "\\(_powerAssertionRetainCount > 0\\).*\\+\\[KRRemoteSession "
                  "decrementPowerAssertion\\].*Korvane/KRRemoteSession.*41");
+}
+
+TEST(FlickrUploadSession, PassesOnWhatTheServiceReplies) {
+    const auto session = FlickrUploadSession::init();
+    const auto service = std::make_shared<FakeService>();
+    session->setRemoteSession(service);
+    const auto post = FlickrPost::init();
+    post->title = QStringLiteral("a");
+    const NSError failure(QStringLiteral("D"), 1);
+    for (const auto &[success, error] : {std::pair<std::optional<bool>, std::optional<NSError>>{true, std::nullopt},
+                                         {true, failure},
+                                         {false, failure},
+                                         {std::nullopt, std::nullopt}}) {
+        service->success = success;
+        service->error = error;
+        std::optional<NSError> placed = NSError(QStringLiteral("before"), 0);
+        EXPECT_EQ(session->uploadPosts({post}, &placed), success.value_or(false));
+        EXPECT_EQ(placed, error);
+        EXPECT_EQ(session->uploadPosts({post}, nullptr), success.value_or(false));
+    }
+    EXPECT_EQ(service->received, QVariantList{post->serializedDictionary()});
+    session->uploadPosts({}, nullptr);
+    EXPECT_EQ(service->received, QVariantList());
+    EXPECT_EQ(FlickrUploadSession::sharedSession(), FlickrUploadSession::sharedSession());
+    EXPECT_NE(FlickrUploadSession::sharedSession(), session);
 }

@@ -1,5 +1,6 @@
 // What a video post is made of, and how Vimeo's answers are read.
 #include "Korvane/VimeoPost.h"
+#include "Korvane/VimeoUploadSession.h"
 #include "Tests/Support/Testing.h"
 
 using namespace korvane;
@@ -63,4 +64,14 @@ TEST(VimeoPost, TellsAnswersFromFailuresAndLogsThem) {
         EXPECT_TRUE(log.lines().value(0).startsWith(QLatin1String(logged)));
         EXPECT_EQ(VimeoPost::dictionaryWithResponseData(NSData(body.value_or("")), nullptr), answer);
     }
+}
+
+TEST(VimeoUploadSessionDeathTest, StopsWithoutARemoteEnd) {
+    const auto upload = [] {
+        const auto session = VimeoUploadSession::init();
+        session->setRemoteSession(nullptr);
+        session->uploadPost(VimeoPost::init());
+    };
+    EXPECT_DEATH(upload(), "\\(_remoteSession\\).*\\[VimeoUploadSession uploadPost:error:\\].*"
+                           "Korvane/VimeoUploadSession.*53");
 }

@@ -23,6 +23,8 @@ TEST(FailureClassifier, TellsPassingFailuresFromFinalOnesAndSaysWhatToDo) {
         return withError(FlickrResponseErrorDomain, code, text, status);
     };
     const auto transport = [](qint64 code) { return withError(NSURLErrorDomain, code, "reason", 0); };
+    RunOutcome gone = withError(FlickrPostErrorDomain, 3, nullptr);
+    gone.asset = QStringLiteral("sea.heic");
     using enum WaitReason; // none: failed
     const std::tuple<RunOutcome, WaitReason, const char *> cases[] = {
         {transport(-1001), Network, "reason"},
@@ -44,7 +46,7 @@ TEST(FailureClassifier, TellsPassingFailuresFromFinalOnesAndSaysWhatToDo) {
         {response(-1, "oauth_problem=nonce_used", 401), NextTry, "again"},
         {response(-1, "<html>hotel wifi</html>", 200), None, "not understood"},
         {response(0, nullptr, 404), None, "not understood (HTTP status 404)"},
-        {withError(FlickrPostErrorDomain, 3, "sea.heic"), None, "sea.heic is no longer in the photo library"},
+        {gone, None, "sea.heic is no longer in the photo library"},
     };
     for (const auto &[outcome, reason, told] : cases) {
         SCOPED_TRACE(outcome.error->description().toStdString());

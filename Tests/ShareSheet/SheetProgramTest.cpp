@@ -57,6 +57,7 @@ TEST(SheetProgram, ShowsUploadsInOneWindowHoweverOftenItIsAskedTo) {
     EXPECT_EQ(first.state(), QProcess::Running);
     first.kill(); // as it may end: another is opened then
     EXPECT_TRUE(first.waitForFinished());
+    ASSERT_TRUE(waitFor([&] { return !bus.connection().interface()->isServiceRegistered(name).value(); }));
     second.start(sheetProgram, {QStringLiteral("--uploads")});
     EXPECT_TRUE(waitFor([&] { return bus.connection().interface()->isServiceRegistered(name).value(); }));
     second.kill();

@@ -117,7 +117,7 @@ TEST_F(UploadsPage, LeadsToTheSettingsForAMissingAccount) {
     ASSERT_TRUE(ACAccountStore().removeAccount(flickr.account->identifier()));
     ASSERT_TRUE(share({titled("one", jpegOfSize(1000))}));
     openPage();
-    EXPECT_TRUE(waitToRead("There is no Flickr account. Add it in Korvane's settings."));
+    EXPECT_TRUE(waitToRead("There is no Flickr account. Sign in on Korvane's settings page."));
     EXPECT_FALSE(user->reads(text("korvane accounts"))) << "which is for the command line";
 }
 
