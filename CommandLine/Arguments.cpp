@@ -24,6 +24,7 @@ std::string Arguments::problemWithNumber(const std::string &text) {
 }
 
 std::string Arguments::problemWithFile(const std::string &text) {
+    if (text.empty()) return "a file's name is empty";
     const bool isHere = FileArgument::path(QByteArray::fromStdString(text)).has_value();
     return isHere ? std::string() : text + ": this is not a file on this device; copy it here first";
 }

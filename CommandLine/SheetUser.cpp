@@ -103,7 +103,9 @@ std::optional<int> SheetUser::posts(SLComposeServiceViewController &sheet) {
     const NSError reason =
         context.error().value_or(NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNotAvailable,
                                                                QStringLiteral("The upload service gave no reason.")));
-    Output::problem(QStringLiteral("Nothing was shared. ") + reason.localizedDescription());
+    const bool mayBeShared =
+        reason.domain() == RemoteServiceErrorDomain && reason.code() == RemoteServiceErrorUnknownEnd;
+    Output::problem((mayBeShared ? QString() : QStringLiteral("Nothing was shared. ")) + reason.localizedDescription());
     return exitStatusOf(reason);
 }
 

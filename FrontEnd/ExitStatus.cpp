@@ -13,6 +13,7 @@ ExitStatus exitStatusOf(const NSError &error) {
     case RemoteServiceErrorUnreachable:
     case RemoteServiceErrorOtherSettings:
     case RemoteServiceErrorNotAvailable:
+    case RemoteServiceErrorUnknownEnd:
         return ExitUnreachable;
     case RemoteServiceErrorUnusableRecord:
     case RemoteServiceErrorNothingToShare:

@@ -577,6 +577,10 @@
         <translation>Der Upload-Dienst (korvane-uploadd) antwortet nicht. Beenden Sie ihn und versuchen Sie es noch einmal: Wenn er neu gestartet wird, setzt er seine Uploads fort.</translation>
     </message>
     <message>
+        <source>The upload service may have taken over what was shared, but its answer was lost. Look at the uploads before you share it again. (%1)</source>
+        <translation>Der Upload-Dienst hat das Geteilte vielleicht übernommen, doch seine Antwort ging verloren. Sehen Sie bei den Uploads nach, bevor Sie es noch einmal teilen. (%1)</translation>
+    </message>
+    <message>
         <source>It was broken off.</source>
         <translation>Der Vorgang wurde abgebrochen.</translation>
     </message>

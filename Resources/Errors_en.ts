@@ -577,6 +577,10 @@
         <translation>The upload service (korvane-uploadd) does not answer. End it and try again: it goes on with its uploads when it is started anew.</translation>
     </message>
     <message>
+        <source>The upload service may have taken over what was shared, but its answer was lost. Look at the uploads before you share it again. (%1)</source>
+        <translation>The upload service may have taken over what was shared, but its answer was lost. Look at the uploads before you share it again. (%1)</translation>
+    </message>
+    <message>
         <source>It was broken off.</source>
         <translation>It was broken off.</translation>
     </message>

@@ -577,6 +577,10 @@
         <translation>Le service d’envoi (korvane-uploadd) ne répond pas. Arrêtez-le et réessayez : il reprendra ses envois à son prochain démarrage.</translation>
     </message>
     <message>
+        <source>The upload service may have taken over what was shared, but its answer was lost. Look at the uploads before you share it again. (%1)</source>
+        <translation>Le service d’envoi a peut-être pris en charge ce qui a été partagé, mais sa réponse s’est perdue. Consultez les envois avant de le partager à nouveau. (%1)</translation>
+    </message>
+    <message>
         <source>It was broken off.</source>
         <translation>L’opération a été interrompue.</translation>
     </message>

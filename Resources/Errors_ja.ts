@@ -574,6 +574,10 @@
         <translation>アップロードサービス（korvane-uploadd）が応答しません。終了してから、もう一度お試しください。再び起動されると、アップロードの続きを行います。</translation>
     </message>
     <message>
+        <source>The upload service may have taken over what was shared, but its answer was lost. Look at the uploads before you share it again. (%1)</source>
+        <translation>アップロードサービスが共有内容を受け取った可能性がありますが、その応答が失われました。もう一度共有する前に、アップロードを確認してください。（%1）</translation>
+    </message>
+    <message>
         <source>It was broken off.</source>
         <translation>中断されました。</translation>
     </message>

@@ -139,8 +139,8 @@
         <translation>%1-Konten</translation>
     </message>
     <message>
-        <source>Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it fails.</source>
-        <translation>Das %1-Konto „%2“ entfernen? Was damit bereits geteilt wurde, bleibt dort; was damit noch hochzuladen ist, schlägt fehl.</translation>
+        <source>Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it waits for a new sign-in.</source>
+        <translation>Das %1-Konto „%2“ entfernen? Was damit bereits geteilt wurde, bleibt dort; was damit noch hochzuladen ist, wartet auf eine neue Anmeldung.</translation>
     </message>
     <message>
         <source>There is no account yet.</source>

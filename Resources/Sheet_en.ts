@@ -139,8 +139,8 @@
         <translation>%1 accounts</translation>
     </message>
     <message>
-        <source>Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it fails.</source>
-        <translation>Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it fails.</translation>
+        <source>Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it waits for a new sign-in.</source>
+        <translation>Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it waits for a new sign-in.</translation>
     </message>
     <message>
         <source>There is no account yet.</source>

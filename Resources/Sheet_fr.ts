@@ -139,8 +139,8 @@
         <translation>Comptes %1</translation>
     </message>
     <message>
-        <source>Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it fails.</source>
-        <translation>Retirer le compte %1 «&#xa0;%2&#xa0;»&#x202f;? Ce qui est déjà partagé avec lui y reste&#x202f;; ce qui reste à envoyer échouera.</translation>
+        <source>Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it waits for a new sign-in.</source>
+        <translation>Retirer le compte %1 «&#xa0;%2&#xa0;»&#x202f;? Ce qui est déjà partagé avec lui y reste&#x202f;; ce qui reste à envoyer attendra une nouvelle connexion.</translation>
     </message>
     <message>
         <source>There is no account yet.</source>

@@ -137,8 +137,8 @@
         <translation>%1のアカウント</translation>
     </message>
     <message>
-        <source>Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it fails.</source>
-        <translation>%1アカウント「%2」を削除しますか？共有済みのものは残りますが、これからアップロードするものは失敗します。</translation>
+        <source>Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it waits for a new sign-in.</source>
+        <translation>%1アカウント「%2」を削除しますか？共有済みのものは残りますが、これからアップロードするものは再度のサインインを待ちます。</translation>
     </message>
     <message>
         <source>There is no account yet.</source>

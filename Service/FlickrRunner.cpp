@@ -30,7 +30,8 @@ void upload(const std::shared_ptr<UploadRun> &run) {
     if (const auto objection = PostCheck::prepare(*post, run->job))
         return end(run, *post, PostCheck::outcomeOfObjection(*objection));
     const auto account = accountOfJob(run->job, *run->accounts);
-    if (!account || !account->credential()) return end(run, *post, withoutAccount(run->job));
+    std::optional<NSError> reason;
+    if (!account || !account->credential(&reason)) return end(run, *post, withoutAccount(run->job, reason));
     account->setUploadContext(run->context);
     post->checkpoint = [run, wantsPhotoSet = post->photoSetID != 0](qint64 photoID) {
         run->job.photoID = photoID;

@@ -21,11 +21,12 @@ std::shared_ptr<ACAccount> accountOfJob(const UploadJob &job, const ACAccountSto
     return found == all.end() ? nullptr : *found;
 }
 
-RunOutcome withoutAccount(const UploadJob &job) {
+RunOutcome withoutAccount(const UploadJob &job, const std::optional<NSError> &reason) {
     const QString text = localizedText("There is no usable sign-in for the %1 account of %2, from which this was "
                                        "shared.",
                                        nameOfService(job.service), job.accountName);
-    return {RunOutcome::NoAccount, jobError(JobErrorNoAccount, text)};
+    return {RunOutcome::NoAccount,
+            jobError(JobErrorNoAccount, reason ? text + u' ' + reason->localizedDescription() : text)};
 }
 
 } // namespace korvane

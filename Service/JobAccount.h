@@ -18,7 +18,7 @@ const QString &accountTypeOfService(const QString &service);
 // object of its own, which nobody else hangs an upload context on.
 std::shared_ptr<ACAccount> accountOfJob(const UploadJob &job, const ACAccountStore &accounts);
 
-// How a run without that account ends.
-RunOutcome withoutAccount(const UploadJob &job);
+// How a run ends without that account or, with the reason, without its credential.
+RunOutcome withoutAccount(const UploadJob &job, const std::optional<NSError> &reason);
 
 } // namespace korvane

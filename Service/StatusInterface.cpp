@@ -47,11 +47,11 @@ bool StatusInterface::_handleProperties(const QDBusMessage &message) {
 }
 
 void StatusInterface::_answerWithProperties(const QDBusMessage &message, const std::optional<QString> &only) {
-    QVariantMap properties = ServiceSettings::current().dictionary();
+    QVariantMap properties{{QStringLiteral("Version"), QStringLiteral(KORVANE_VERSION)}};
+    // At once: by it callers see that the service is alive, however busy its queue and the folders are.
+    if (only && properties.contains(*only)) return answerWithProperty(_bus, message, properties, *only);
+    properties.insert(ServiceSettings::current().dictionary());
     properties.insert(QStringLiteral("Paused"), _queue->isPaused());
-    properties.insert(QStringLiteral("Version"), QStringLiteral(KORVANE_VERSION));
-    // The queue may be busy for long, and by any other property callers see that the service is alive.
-    if (only && *only != QLatin1String("Counts")) return answerWithProperty(_bus, message, properties, *only);
     _queue->counts([=, bus = _bus](const QVariant &counts) {
         QVariantMap values = properties;
         values.insert(QStringLiteral("Counts"), counts);

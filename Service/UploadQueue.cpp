@@ -84,17 +84,30 @@ void UploadQueue::takeOver(const QString &service, const QVariantList &records, 
         return reply(false, NSError::errorWithDescription(RemoteServiceErrorDomain, RemoteServiceErrorNothingToShare,
                                                           localizedText("There is nothing to share.")));
     ++_takeOvers;
-    // Large data takes its time to reach the disk; the queue goes on meanwhile.
+    _queue.async([=, this] {
+        if (!_store->knowsMessage(message.id)) return _prepare(service, records, message, reply);
+        reply(true, std::nullopt); // whatever came with it this time
+        _takeOverEnded();
+    });
+}
+
+// Large data takes its time to reach the disk; the queue goes on meanwhile.
+void UploadQueue::_prepare(const QString &service, const QVariantList &records, const RemoteMessage &message,
+                           const XPCTransferCompletion &reply) {
     dispatchGlobal([=, this] {
         std::optional<NSError> error;
         const auto taken = TakeOver::prepare(service, records, message, _spool, *_accounts, &error);
         if (!taken) reply(false, error);
         _queue.async([=, this] {
             if (taken) _taken(message, *taken, reply);
-            --_takeOvers;
-            _endIfStopped();
+            _takeOverEnded();
         });
     });
+}
+
+void UploadQueue::_takeOverEnded() {
+    --_takeOvers;
+    _endIfStopped();
 }
 
 // Who has given up waiting has told the user that nothing was shared, and the user shares anew.

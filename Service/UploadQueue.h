@@ -90,6 +90,9 @@ private:
         qint64 failures = 0;
     };
 
+    void _prepare(const QString &service, const QVariantList &records, const RemoteMessage &message,
+                  const XPCTransferCompletion &reply);
+    void _takeOverEnded();
     void _taken(const RemoteMessage &message, const TakenMessage &taken, const XPCTransferCompletion &reply);
     void _recover(UploadJob &job, bool fatalDeath);
     void _schedule();

@@ -80,7 +80,8 @@ void VimeoRun::begin() {
         if (const auto objection = TicketCheck::objection(*_run.job.video))
             return _endWithOutcome({RunOutcome::Unusable, objection});
     const auto account = accountOfJob(_run.job, *_run.accounts);
-    if (!account || !account->credential()) return _endWithOutcome(withoutAccount(_run.job));
+    std::optional<NSError> reason;
+    if (!account || !account->credential(&reason)) return _endWithOutcome(withoutAccount(_run.job, reason));
     account->setUploadContext(_run.context);
     if (!makePrivateFolder(_temporaryFolder))
         return _endWithOutcome({RunOutcome::Hindered, NSError::errorWithErrno(errno, _temporaryFolder)});

@@ -2,6 +2,7 @@
 #include "ShareSheet/SheetModel.h"
 
 #include "FrontEnd/UploadText.h"
+#include "Platform/Social/RemoteServiceError.h"
 #include "Platform/UIKit/UITableViewController.h"
 #include "ShareSheet/EditableText.h"
 #include "ShareSheet/FrameWait.h"
@@ -163,7 +164,12 @@ void SheetModel::_handOver() {
 void SheetModel::_tellRefusal() {
     _endHandOver();
     const QString reason = _refusal ? _refusal->localizedDescription() : tr("No reason was given.");
-    _setFailure(tr("Nothing was shared. %1\nWhat you entered is still here: press Post to try again.").arg(reason));
+    const bool mayBeShared =
+        _refusal && _refusal->domain() == RemoteServiceErrorDomain && _refusal->code() == RemoteServiceErrorUnknownEnd;
+    _setFailure(
+        mayBeShared
+            ? reason
+            : tr("Nothing was shared. %1\nWhat you entered is still here: press Post to try again.").arg(reason));
     if (_refusal && _refusal->domain() == SLAttachmentErrorDomain) _attachments.lookAgain();
 }
 

@@ -1,5 +1,6 @@
 // korvane-sheet: the share sheet's window.
 #include "FrontEnd/ExitStatus.h"
+#include "FrontEnd/UploadText.h"
 #include "ShareSheet/SheetApplication.h"
 #include "ShareSheet/SingleWindow.h"
 
@@ -16,7 +17,9 @@ int main(int argc, char *argv[]) {
         arguments.append(argv[i]);
     QString problem;
     const auto request = SheetRequest::parse(arguments, problem);
-    if (!problem.isEmpty()) std::fprintf(stderr, "korvane-sheet: %s (see korvane-sheet --help)\n", qPrintable(problem));
+    if (!problem.isEmpty())
+        std::fprintf(stderr, "korvane-sheet: %s (see korvane-sheet --help)\n",
+                     qPrintable(UploadText::printable(problem)));
     if (!request) return ExitUsage;
     if (request->page == SheetRequest::Help) {
         std::fputs(SheetRequest::helpText(), stdout);

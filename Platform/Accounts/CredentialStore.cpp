@@ -32,7 +32,7 @@ bool secureFile(std::optional<NSError> *error) {
     const QString path = credentialsFile().path();
     const FileDescriptor file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status;
-    if (!file || ::fstat(file.get(), &status) != 0) return true; // reading it says why
+    if (!file || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return true; // reading it says why
     if (status.st_uid != ::geteuid()) {
         setError(error,
                  NSError::errorWithDescription(
@@ -41,10 +41,11 @@ bool secureFile(std::optional<NSError> *error) {
         return false;
     }
     if ((status.st_mode & 0077) == 0) return true;
-    if (::fchmod(file.get(), status.st_mode & 0700) == 0)
-        NSLog("%@ could be read by other users; now only this user can.", path);
-    else
-        NSLog("%@ can be read by other users, and that cannot be changed: %@", path, qt_error_string());
+    // Some file systems take a change of mode and do nothing.
+    const bool isClosed = ::fchmod(file.get(), status.st_mode & 0700) == 0 && ::fstat(file.get(), &status) == 0 &&
+                          (status.st_mode & 0077) == 0;
+    logOnce(isClosed ? QStringLiteral("%1 could be read by other users; now only this user can.").arg(path)
+                     : QStringLiteral("%1 can be read by other users, and that cannot be changed.").arg(path));
     return true;
 }
 

@@ -23,6 +23,7 @@ namespace korvane {
 namespace {
 
 constexpr int mostAside = 100;
+constexpr qint64 largestFile = 16LL * 1024 * 1024; // ten thousand accounts take a tenth of it
 
 // What each file held when it was last read.
 class KnownContents {
@@ -75,6 +76,10 @@ LockedJSONFile::Contents LockedJSONFile::_load(QVariantMap &values, QString &pro
     if (!data && readError->code() == ENOENT) return Contents::Read;
     if (!data) {
         setError(error, readError);
+        return Contents::Unreadable;
+    }
+    if (data->length() > largestFile) {
+        setError(error, NSError::errorWithErrno(EFBIG, _path));
         return Contents::Unreadable;
     }
     const auto value = NSJSONSerialization::JSONObjectWithData(data->bytes(), &problem);

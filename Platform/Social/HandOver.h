@@ -21,7 +21,7 @@ public:
     // lost.
     void run(const QVariantList &records);
 
-    // The reply; null and an error where none came.
+    // The reply; null and an error where none came: RemoteServiceErrorUnknownEnd if the message may have been taken.
     std::optional<bool> success;
     std::optional<NSError> error;
 
@@ -34,6 +34,7 @@ private:
     const QString _id;
     ServiceConnection _connection;
     std::optional<WireRecord::Message> _message;
+    bool _wasSent = false;
 };
 
 } // namespace korvane

@@ -16,6 +16,7 @@ enum RemoteServiceErrorCode : qint64 {
     RemoteServiceErrorUnusableData = 4,   // the data that came with a message cannot be trusted
     RemoteServiceErrorNothingToShare = 5, // an empty batch
     RemoteServiceErrorNotAvailable = 6,   // the service cannot take posts just now
+    RemoteServiceErrorUnknownEnd = 7, // the posts may have been taken: look at the uploads before sharing them again
 };
 
 // An error as it crosses between programs: "domain", "code" and, where there is one, "description".

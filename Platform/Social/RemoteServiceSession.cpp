@@ -65,13 +65,14 @@ QVariantList decoded(bool batch, const QVariant &argument, const std::shared_ptr
     return records;
 }
 
-// Where the bus cannot tell, it counts as there: it asks again under the message's id once there is a bus.
+// Without a bus nobody hears the answer; a bus that is only slow gives no reason to think that the sender has gone.
 bool isOnBus(const QString &name, const QDBusConnection &connection) {
     auto question =
         QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
                                        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"));
     const QDBusMessage answer = connection.call(question << name, QDBus::Block, busMilliseconds);
-    return answer.type() != QDBusMessage::ReplyMessage || answer.arguments().value(0).toBool();
+    return answer.type() == QDBusMessage::ReplyMessage ? answer.arguments().value(0).toBool()
+                                                       : connection.isConnected();
 }
 
 } // namespace

@@ -75,7 +75,7 @@ ServiceConnection::Outcome ServiceConnection::call(const QString &path, const QS
     if (!reply) {
         fail(error, localizedText("The upload service (korvane-uploadd) does not answer. End it and try again: it goes "
                                   "on with its uploads when it is started anew."));
-        return Failed;
+        return Silent;
     }
     if (reply->type() == QDBusMessage::ReplyMessage) {
         *answer = reply->arguments();

@@ -20,7 +20,8 @@ public:
     enum Outcome {
         Answered,
         Failed, // with the error placed; the service has not acted on the call
-        Lost    // with the error placed: service or bus went away, and nobody knows how far the call came
+        Lost,   // with the error placed: service or bus went away, and nobody knows how far the call came
+        Silent  // the same, but the service is there and says nothing
     };
 
     // serviceName: the bus name under which the service is reached and started.

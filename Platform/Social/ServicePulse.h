@@ -25,7 +25,8 @@ private:
     const QDBusConnection _bus;
     const QString _serviceName;
     std::optional<QDBusPendingCall> _question;
-    QElapsedTimer _timer; // since the question, or the answer
+    QElapsedTimer _sinceLook;
+    qint64 _waited = 0; // milliseconds since the question, or the answer, in which this program ran
 };
 
 } // namespace korvane

@@ -28,7 +28,7 @@ Column {
             onRemovalAsked: {
                 const accounts = section.access.accounts;
                 const id = accountID;
-                section.asked(qsTr("Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it fails.").arg(section.access.name).arg(username), () => accounts.remove(id));
+                section.asked(qsTr("Remove the %1 account “%2”? What is shared with it already stays there; what is still to be uploaded with it waits for a new sign-in.").arg(section.access.name).arg(username), () => accounts.remove(id));
             }
         }
     }
