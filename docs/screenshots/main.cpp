@@ -102,6 +102,12 @@ int main(int argc, char **argv) {
     photographer.take("sheet-vimeo", vimeo, titled);
     photographer.take("audience", flickr, sheetWith([](SheetModel &sheet) { sheet.tapItem(1); }));
     photographer.take("albums", flickr, sheetWith(openAlbums));
+    photographer.take("albums-trouble", flickr, sheetWith([&service](SheetModel &sheet) {
+                          service.flickr.server.on("getList").fail(503);
+                          sheet.tapItem(0);
+                          require("the trouble",
+                                  [&] { return sheet.option() && !sheet.option()->problem().isEmpty(); });
+                      }));
     photographer.take("details", vimeo, sheetWith(fillDetails));
     photographer.take(
         "unusable", flickr + QByteArrayList{service.home.file("notes.txt", "words")}, [](SheetApplication &window) {
